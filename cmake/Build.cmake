@@ -1,0 +1,63 @@
+# How every target of the project is built: language level, warnings, sanitizers, and the functions that declare
+# libraries and tests. Folders declare their targets with these and nothing else.
+
+option(ESCLAVO_BENCH "build the programs in bench/" OFF)
+option(ESCLAVO_FUZZ "build the fuzz targets (needs clang)" OFF)
+set(ESCLAVO_SANITIZE "" CACHE STRING "sanitizers for every target, e.g. address,undefined")
+
+if(NOT CMAKE_BUILD_TYPE)
+  set(CMAKE_BUILD_TYPE Release)
+endif()
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
+
+find_program(CCACHE ccache)
+if(CCACHE)
+  set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE})
+endif()
+
+add_library(project_options INTERFACE)
+target_compile_options(project_options INTERFACE -Wall -Wextra -Wconversion -Wshadow -Werror)
+target_include_directories(project_options INTERFACE ${CMAKE_SOURCE_DIR}/src)
+if(ESCLAVO_SANITIZE)
+  target_compile_options(project_options INTERFACE
+    -fsanitize=${ESCLAVO_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_link_options(project_options INTERFACE -fsanitize=${ESCLAVO_SANITIZE})
+endif()
+
+# esclavo_library(NAME SOURCES file... [LINK target...] [QT])
+# A static library. QT marks a windows target: it gets the meta-object compiler; a logic target never does.
+function(esclavo_library name)
+  cmake_parse_arguments(ARG "QT" "" "SOURCES;LINK" ${ARGN})
+  add_library(${name} STATIC ${ARG_SOURCES})
+  target_link_libraries(${name} PUBLIC project_options ${ARG_LINK})
+  if(ARG_QT)
+    set_target_properties(${name} PROPERTIES AUTOMOC ON)
+    target_link_libraries(${name} PUBLIC Qt6::Widgets)
+    target_compile_definitions(${name} PUBLIC QT_NO_KEYWORDS QT_NO_CAST_TO_ASCII)
+  endif()
+endfunction()
+
+# esclavo_test(NAME SOURCES file... [LINK target...] [QT] [TIMEOUT seconds])
+# A test program run as one CTest test: GoogleTest for logic, Qt Test (offscreen) with QT.
+function(esclavo_test name)
+  cmake_parse_arguments(ARG "QT" "TIMEOUT" "SOURCES;LINK" ${ARGN})
+  if(NOT ARG_TIMEOUT)
+    set(ARG_TIMEOUT 120)
+  endif()
+  add_executable(${name} ${ARG_SOURCES})
+  set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
+  target_link_libraries(${name} PRIVATE project_options ${ARG_LINK})
+  if(ARG_QT)
+    set_target_properties(${name} PROPERTIES AUTOMOC ON)
+    target_link_libraries(${name} PRIVATE Qt6::Widgets Qt6::Test)
+  else()
+    target_link_libraries(${name} PRIVATE GTest::gmock GTest::gtest_main)
+  endif()
+  add_test(NAME ${name} COMMAND ${name})
+  set_tests_properties(${name} PROPERTIES TIMEOUT ${ARG_TIMEOUT} ENVIRONMENT "QT_QPA_PLATFORM=offscreen")
+endfunction()
