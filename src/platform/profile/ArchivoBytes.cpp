@@ -1,0 +1,159 @@
+#include "platform/profile/ArchivoBytes.h"
+
+#include <cerrno>
+#include <fcntl.h>
+#include <optional>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+
+std::error_code ultimoError() {
+    return {errno, std::generic_category()};
+}
+
+// An open file descriptor that closes itself.
+class Descriptor {
+public:
+    Descriptor(const std::filesystem::path& ruta, int modo, mode_t permisos = 0)
+        : numero_(::open(ruta.c_str(), modo | O_CLOEXEC, permisos)) {}
+    ~Descriptor() {
+        if (numero_ >= 0)
+            ::close(numero_);
+    }
+    Descriptor(const Descriptor&) = delete;
+    Descriptor& operator=(const Descriptor&) = delete;
+
+    bool abierto() const { return numero_ >= 0; }
+    int numero() const { return numero_; }
+
+private:
+    int numero_;
+};
+
+std::error_code comprobarRegular(const struct stat& datos) {
+    if (S_ISDIR(datos.st_mode))
+        return std::make_error_code(std::errc::is_a_directory);
+    return S_ISREG(datos.st_mode) ? std::error_code{} : std::make_error_code(std::errc::not_supported);
+}
+
+std::error_code leerHastaElFinal(int descriptor, std::string& bytes) {
+    constexpr std::size_t bloque = 65536;
+    for (;;) {
+        const std::size_t leidos = bytes.size();
+        if (leidos > maximoBytesArchivo)
+            return std::make_error_code(std::errc::file_too_large);
+        bytes.resize(leidos + bloque);
+        const ssize_t nuevos = ::read(descriptor, bytes.data() + leidos, bloque);
+        bytes.resize(leidos + static_cast<std::size_t>(nuevos > 0 ? nuevos : 0));
+        if (nuevos == 0)
+            return {};
+        if (nuevos < 0 && errno != EINTR)
+            return ultimoError();
+    }
+}
+
+std::error_code escribirTodo(int descriptor, std::string_view bytes) {
+    while (!bytes.empty()) {
+        const ssize_t escritos = ::write(descriptor, bytes.data(), bytes.size());
+        if (escritos < 0 && errno != EINTR)
+            return ultimoError();
+        bytes.remove_prefix(static_cast<std::size_t>(escritos > 0 ? escritos : 0));
+    }
+    return {};
+}
+
+// Writes the temporary file down to the disk, with the permissions of the file that it is going to replace.
+std::error_code llenarTemporal(const std::filesystem::path& temporal, std::string_view bytes,
+                               const std::optional<struct stat>& anterior) {
+    const Descriptor archivo(temporal, O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW, 0666);
+    if (!archivo.abierto())
+        return ultimoError();
+    if (const std::error_code error = escribirTodo(archivo.numero(), bytes))
+        return error;
+    if (anterior) {
+        // Only root may give a file away; for anybody else the file is his own already.
+        [[maybe_unused]] const int dado = ::fchown(archivo.numero(), anterior->st_uid, anterior->st_gid);
+        if (::fchmod(archivo.numero(), anterior->st_mode & 07777) != 0)
+            return ultimoError();
+    }
+    return ::fsync(archivo.numero()) == 0 ? std::error_code{} : ultimoError();
+}
+
+// Makes the new name itself survive a power cut. The bytes are safe already, so a folder that cannot be opened for
+// reading is no failure.
+void asentarCarpeta(const std::filesystem::path& carpeta) {
+    const Descriptor descriptor(carpeta.empty() ? "." : carpeta, O_RDONLY | O_DIRECTORY);
+    if (descriptor.abierto())
+        ::fsync(descriptor.numero());
+}
+
+std::error_code comprobarReemplazable(const std::filesystem::path& ruta, std::optional<struct stat>& anterior) {
+    struct stat datos {};
+    if (::stat(ruta.c_str(), &datos) != 0)
+        return errno == ENOENT ? std::error_code{} : ultimoError();
+    if (const std::error_code error = comprobarRegular(datos))
+        return error;
+    // Whoever may write anything (root) respects the mark of a read-only file too: the user set it.
+    if ((datos.st_mode & 0222) == 0)
+        return std::make_error_code(std::errc::permission_denied);
+    if (::access(ruta.c_str(), W_OK) != 0)
+        return ultimoError();
+    anterior = datos;
+    return {};
+}
+
+} // namespace
+
+std::error_code leerBytes(const std::filesystem::path& archivo, std::string& bytes) {
+    bytes.clear();
+    const Descriptor descriptor(archivo, O_RDONLY | O_NONBLOCK); // a pipe without a writer must not stop the program
+    if (!descriptor.abierto())
+        return ultimoError();
+    struct stat datos {};
+    if (::fstat(descriptor.numero(), &datos) != 0)
+        return ultimoError();
+    std::error_code error = comprobarRegular(datos);
+    if (!error && datos.st_size > static_cast<off_t>(maximoBytesArchivo))
+        error = std::make_error_code(std::errc::file_too_large);
+    if (!error)
+        error = leerHastaElFinal(descriptor.numero(), bytes);
+    if (error)
+        bytes.clear();
+    return error;
+}
+
+std::error_code reemplazarBytes(const std::filesystem::path& archivo, std::string_view bytes) {
+    std::error_code sinEnlace;
+    std::filesystem::path destino = std::filesystem::canonical(archivo, sinEnlace);
+    if (sinEnlace)
+        destino = archivo;
+    std::optional<struct stat> anterior;
+    if (const std::error_code error = comprobarReemplazable(destino, anterior))
+        return error;
+    std::filesystem::path temporal = destino;
+    temporal += ".";
+    temporal += std::to_string(::getpid());
+    temporal += ".tmp";
+    ::unlink(temporal.c_str()); // left by a process of the same number that was killed at this very point
+    std::error_code error = llenarTemporal(temporal, bytes, anterior);
+    if (!error && ::rename(temporal.c_str(), destino.c_str()) != 0)
+        error = ultimoError();
+    if (error)
+        ::unlink(temporal.c_str());
+    else
+        asentarCarpeta(destino.parent_path());
+    return error;
+}
+
+std::error_code anexarBytes(const std::filesystem::path& archivo, std::string_view bytes) {
+    const Descriptor descriptor(archivo, O_WRONLY | O_APPEND | O_CREAT | O_NONBLOCK, 0666);
+    if (!descriptor.abierto())
+        return ultimoError();
+    struct stat datos {};
+    if (::fstat(descriptor.numero(), &datos) != 0)
+        return ultimoError();
+    if (const std::error_code error = comprobarRegular(datos))
+        return error;
+    return escribirTodo(descriptor.numero(), bytes);
+}
