@@ -3,6 +3,7 @@
 #include "registers/Palabra.h"
 
 #include <algorithm>
+#include <limits>
 
 namespace {
 
@@ -119,7 +120,7 @@ std::size_t Esclavos::leerRegistrosComoBytes(double esclavo, double inicio, doub
         ampliarTablaMW(esclavo, inicio - cantidad, 2 * cantidad);
 
     const auto& valores = registro(esclavo).Valores;
-    const auto primero = static_cast<std::size_t>(std::max(0, entero32(inicio)));
+    const std::size_t primero = indice(inicio, std::numeric_limits<int>::max());
     const auto tope = std::min(valores.size(), primero + static_cast<std::size_t>(std::max(0, entero32(cantidad))));
     std::size_t bytes = 0;
     for (std::size_t i = primero; i < tope && bytes + 2 <= destino.size(); ++i, bytes += 2)

@@ -67,6 +67,7 @@ double SetearBIT_YDevolverPalabra(double palabra, std::int16_t bit, std::int16_t
 std::string textoDeNumero(double x, char separadorDecimal) {
     constexpr int cifras = 15;
     std::array<char, 64> buffer{};
+    x += 0.0; // negative zero is shown as 0
     // Small numbers stay in positional notation as long as all their digits fit behind the separator.
     auto fin = std::to_chars(buffer.data(), buffer.data() + buffer.size(), x, std::chars_format::general, cifras).ptr;
     if (const auto exponente = std::find(buffer.data(), fin, 'e'); exponente != fin) {
