@@ -1,11 +1,11 @@
-#pragma once
 // A folder of its own for one test, removed with all that is in it; and whole files in one line.
+#pragma once
 
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <stdexcept>
-#include <stdlib.h>
 #include <string>
 #include <string_view>
 

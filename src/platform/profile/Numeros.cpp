@@ -2,10 +2,9 @@
 
 #include "platform/profile/LineaTexto.h"
 
-#include <algorithm>
-#include <array>
 #include <charconv>
 #include <cstdint>
+#include <string>
 
 namespace {
 
@@ -85,14 +84,4 @@ std::optional<double> numeroDeTexto(std::string_view texto, char signoDecimal) {
     if (!texto.empty() || error != std::errc{} || parada != limpio.data() + limpio.size())
         return std::nullopt;
     return numero;
-}
-
-std::string textoDeNumero(double numero, char signoDecimal) {
-    std::array<char, 32> cifras{};
-    const auto fin = std::to_chars(cifras.data(), cifras.data() + cifras.size(), numero == 0 ? 0.0 : numero,
-                                   std::chars_format::general, 15);
-    std::string texto(cifras.data(), fin.ptr);
-    std::replace(texto.begin(), texto.end(), '.', signoDecimal);
-    std::replace(texto.begin(), texto.end(), 'e', 'E');
-    return texto;
 }

@@ -1,4 +1,3 @@
-#pragma once
 // The profile functions: texts of the form
 //
 //     [Section]
@@ -11,6 +10,7 @@
 // A UTF-8 byte-order mark before the first line is skipped too.
 //
 // leerValor and conValor are pure functions of the text; the two below them work on a file, opened anew each time.
+#pragma once
 
 #include <cstddef>
 #include <filesystem>
@@ -19,21 +19,21 @@
 #include <string_view>
 #include <system_error>
 
-/// The value of a key, nothing when there is no such key in such a section.
+// The value of a key, nothing when there is no such key in such a section.
 std::optional<std::string> leerValor(std::string_view texto, std::string_view seccion, std::string_view clave);
 
-/// The text with the key set to the value. An existing line keeps its place and its spelling of the key; a new line
-/// goes to the end of its section, before the blank lines that close it; a missing section goes to the end of the text.
-/// All other bytes stay as they are. The value goes out unchanged, line breaks included; a value equal to the stored
-/// one gives back the very same text.
+// The text with the key set to the value. An existing line keeps its place and its spelling of the key; a new line
+// goes to the end of its section, before the blank lines that close it; a missing section goes to the end of the text.
+// All other bytes stay as they are. The value goes out unchanged, line breaks included; a value equal to the stored
+// one gives back the very same text.
 std::string conValor(std::string_view texto, std::string_view seccion, std::string_view clave, std::string_view valor);
 
-/// The value of a key cut to `tamano` - 1 characters (`tamano` counts the closing zero of the classic interface); a
-/// file, section or key that is missing or cannot be read gives `porDefecto` without its trailing blanks, cut alike.
+// The value of a key cut to `tamano` - 1 characters (`tamano` counts the closing zero of the classic interface); a
+// file, section or key that is missing or cannot be read gives `porDefecto` without its trailing blanks, cut alike.
 std::string GetPrivateProfileStringA(std::string_view seccion, std::string_view clave, std::string_view porDefecto,
                                      std::size_t tamano, const std::filesystem::path& archivo);
 
-/// Sets a key in the file; creates file and section when missing. Nothing is written to the disk when the text would
-/// not change. A file that exists but cannot be read is an error, never overwritten.
+// Sets a key in the file; creates file and section when missing. Nothing is written to the disk when the text would
+// not change. A file that exists but cannot be read is an error, never overwritten.
 std::error_code WritePrivateProfileStringA(std::string_view seccion, std::string_view clave, std::string_view valor,
                                            const std::filesystem::path& archivo);

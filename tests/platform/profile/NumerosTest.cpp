@@ -37,36 +37,3 @@ TEST(NumeroDeTexto, reportsTextThatIsNotNumeric) {
         EXPECT_EQ(numeroDeTexto(texto), std::nullopt) << texto;
     EXPECT_EQ(numeroDeTexto(std::string_view("5\0", 2)), std::nullopt);
 }
-
-TEST(EnteroDeTexto, roundsHalvesToTheEvenNeighbour) {
-    EXPECT_EQ(enteroDeTexto<std::int32_t>("2.5"), 2);
-    EXPECT_EQ(enteroDeTexto<std::int32_t>("3.5"), 4);
-    EXPECT_EQ(enteroDeTexto<std::int32_t>("-0.5"), 0);
-}
-
-TEST(EnteroDeTexto, reportsWhatDoesNotFit) {
-    EXPECT_EQ(enteroDeTexto<std::int16_t>("32767.4"), 32767);
-    EXPECT_EQ(enteroDeTexto<std::int16_t>("32767.5"), std::nullopt);
-    EXPECT_EQ(enteroDeTexto<std::int16_t>("-32768"), -32768);
-    EXPECT_EQ(enteroDeTexto<std::int32_t>("2147483648"), std::nullopt);
-    EXPECT_EQ(enteroDeTexto<std::int32_t>("N"), std::nullopt);
-}
-
-TEST(TextoDeNumero, wholeNumbersHaveNoFraction) {
-    EXPECT_EQ(textoDeNumero(502), "502");
-    EXPECT_EQ(textoDeNumero(-0.0), "0");
-    EXPECT_EQ(textoDeNumero(100000000), "100000000");
-    EXPECT_EQ(textoDeNumero(999999999999999), "999999999999999");
-}
-
-TEST(TextoDeNumero, fractionsBearTheLocalesSign) {
-    EXPECT_EQ(textoDeNumero(12.5), "12.5");
-    EXPECT_EQ(textoDeNumero(-0.1, ','), "-0,1");
-    EXPECT_EQ(textoDeNumero(0.1 + 0.2), "0.3");
-}
-
-TEST(TextoDeNumero, onlyVeryLargeAndVerySmallNumbersBearAnExponent) {
-    EXPECT_EQ(textoDeNumero(1e15), "1E+15");
-    EXPECT_EQ(textoDeNumero(0.0001), "0.0001");
-    EXPECT_EQ(textoDeNumero(0.00001), "1E-05");
-}
