@@ -29,6 +29,10 @@ if(ESCLAVO_SANITIZE)
   target_link_options(project_options INTERFACE -fsanitize=${ESCLAVO_SANITIZE})
 endif()
 
+if(ESCLAVO_FUZZ)
+  target_compile_options(project_options INTERFACE -fsanitize=fuzzer-no-link)
+endif()
+
 # esclavo_library(NAME SOURCES file... [LINK target...] [QT])
 # A static library. QT marks a windows target: it gets the meta-object compiler; a logic target never does.
 function(esclavo_library name)
