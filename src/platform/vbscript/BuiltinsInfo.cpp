@@ -1,0 +1,9 @@
+#include "platform/vbscript/Builtins.h"
+
+namespace vbs {
+
+std::span<const Builtin> infoBuiltins() {
+    return {};
+}
+
+} // namespace vbs

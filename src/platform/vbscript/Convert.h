@@ -1,0 +1,43 @@
+// Coercions with VBScript's rules: rounding half to even, error 6 when the value does not fit, 13 when there is none,
+// 94 for Null. An object stands for its default member. Text is read and written with the locale's signs.
+#pragma once
+
+#include "platform/vbscript/Context.h"
+#include "platform/vbscript/Value.h"
+
+#include <cstdint>
+#include <optional>
+#include <string_view>
+
+namespace vbs {
+
+double toDouble(Context& context, const Value& v);
+std::int32_t toLong(Context& context, const Value& v);
+std::int16_t toInteger(Context& context, const Value& v);
+std::uint8_t toByte(Context& context, const Value& v);
+bool toBoolean(Context& context, const Value& v);
+double toSingle(Context& context, const Value& v);
+std::int64_t toCurrency(Context& context, const Value& v); // ten-thousandths
+double toDate(Context& context, const Value& v);
+String toString(Context& context, const Value& v);
+
+// The value as number: whole types and reals as they are, Empty as Integer 0, texts as Double; Null stays Null.
+Value toNumber(Context& context, const Value& v);
+// The value of the default member if `v` is an object, else `v` itself.
+Value withoutObject(Context& context, const Value& v);
+
+// Rounds half to even.
+double roundHalfEven(double x) noexcept;
+// Raises 6 if the rounded value does not fit.
+std::int32_t longFromDouble(double x);
+std::int64_t currencyFromDouble(double x);
+
+// A number as text: 15 significant digits (7 for a Single), exponent beyond that.
+String numberText(double x, const Locale& locale, int digits = 15);
+String currencyText(std::int64_t tenThousandths, const Locale& locale);
+String wholeText(std::int64_t n);
+
+// Text as number: blanks around it, thousands signs, exponent, &H and &O, currency sign and brackets are understood.
+std::optional<double> parseNumber(std::u16string_view text, const Locale& locale);
+
+} // namespace vbs

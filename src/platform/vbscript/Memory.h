@@ -1,0 +1,24 @@
+// Bookkeeping of what scripts allocate: strings, arrays and objects charge their bytes here, so that a script that
+// grows for ever meets error 7 instead of eating the machine.
+//
+// The meter belongs to the thread: every engine of a thread shares the count of living bytes, and the engine that is
+// running sets the ceiling. Nothing here allocates.
+#pragma once
+
+#include <cstddef>
+
+namespace vbs {
+
+struct MemoryMeter {
+    std::size_t used = 0;                                  // bytes alive
+    std::size_t ceiling = std::size_t{2048} * 1024 * 1024; // a charge that would pass it raises error 7
+};
+
+// The meter of this thread.
+MemoryMeter& memoryMeter() noexcept;
+
+// Charges `bytes`; raises error 7 (out of memory) when the ceiling would be passed, and then charges nothing.
+void chargeMemory(std::size_t bytes);
+void releaseMemory(std::size_t bytes) noexcept;
+
+} // namespace vbs

@@ -1,0 +1,101 @@
+// A reference-counted UTF-16 text with room to grow. Copies share; `append` works in place while nobody else holds the
+// text, so building a long string piece by piece is linear. Any code unit may occur, NUL and lone surrogates included.
+// Not safe across threads.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <utility>
+
+namespace vbs {
+
+// What a Value can own a share of: texts, arrays and objects.
+struct Counted {
+    std::uint32_t references = 1;
+};
+
+// The shared block; only String and Value touch it.
+struct StringBlock : Counted {
+    std::uint32_t length = 0;   // code units
+    std::uint32_t capacity = 0; // code units
+    char16_t* text() noexcept { return reinterpret_cast<char16_t*>(this + 1); }
+    const char16_t* text() const noexcept { return reinterpret_cast<const char16_t*>(this + 1); }
+
+    static StringBlock* allocate(std::size_t capacity); // length 0, one reference; raises error 7 or 14
+    static void destroy(StringBlock* block) noexcept;
+};
+
+class String {
+public:
+    static constexpr std::size_t maxLength = 0x3fffffff; // code units; longer raises error 14 (out of string space)
+
+    String() noexcept = default; // the empty text allocates nothing
+    explicit String(std::u16string_view text);
+    explicit String(std::string_view ascii); // each byte is one code unit
+    String(const String& other) noexcept : m_block(other.m_block) { retain(); }
+    String(String&& other) noexcept : m_block(std::exchange(other.m_block, nullptr)) {}
+    ~String() { release(); }
+    String& operator=(const String& other) noexcept {
+        String(other).swap(*this);
+        return *this;
+    }
+    String& operator=(String&& other) noexcept {
+        String(std::move(other)).swap(*this);
+        return *this;
+    }
+    void swap(String& other) noexcept { std::swap(m_block, other.m_block); }
+
+    // A text of `length` units that the caller fills through mutableData() at once.
+    static String uninitialized(std::size_t length);
+    static String repeated(std::size_t count, char16_t unit);
+
+    std::size_t size() const noexcept { return m_block != nullptr ? m_block->length : 0; }
+    bool empty() const noexcept { return size() == 0; }
+    const char16_t* data() const noexcept { return m_block != nullptr ? m_block->text() : u""; }
+    std::u16string_view view() const noexcept { return {data(), size()}; }
+
+    char16_t* mutableData();               // copies first if the text is shared
+    void append(std::u16string_view tail); // `tail` may be a part of this text
+    void truncate(std::size_t length);     // to at most its present length
+
+    bool operator==(const String& other) const noexcept { return view() == other.view(); }
+
+    // Ownership passes to and from a Value's payload.
+    static String adopt(StringBlock* block) noexcept {
+        String s;
+        s.m_block = block;
+        return s;
+    }
+    StringBlock* detach() noexcept { return std::exchange(m_block, nullptr); }
+
+private:
+    void retain() const noexcept {
+        if (m_block != nullptr) {
+            ++m_block->references;
+        }
+    }
+    void release() noexcept {
+        if (m_block != nullptr && --m_block->references == 0) {
+            StringBlock::destroy(m_block);
+        }
+    }
+    void reserveUnique(std::size_t capacity);
+
+    StringBlock* m_block = nullptr;
+};
+
+// UTF-8 in, UTF-16 out; each invalid byte becomes U+FFFD. A leading byte order mark is dropped.
+std::u16string fromUtf8(std::string_view bytes);
+// Lone surrogates become U+FFFD.
+std::string toUtf8(std::u16string_view text);
+
+// Simple case mapping of one code unit: ASCII, Latin, Greek and Cyrillic; independent of the C locale.
+char16_t toLower(char16_t unit) noexcept;
+char16_t toUpper(char16_t unit) noexcept;
+// Order without regard to case: negative, zero or positive.
+int compareText(std::u16string_view a, std::u16string_view b) noexcept;
+bool equalNoCase(std::u16string_view a, std::u16string_view b) noexcept;
+
+} // namespace vbs
