@@ -1,0 +1,20 @@
+// What a grid shows: whoever owns the data answers for the cells when they are painted; the grid keeps none of them.
+//
+// Rows and columns count from 0 with the headings: row 0 holds the column headings, column 0 the row headings, and
+// (0, 0) is the corner. Rows only ever grow in number; the number of columns is fixed.
+#pragma once
+
+#include <QString>
+
+class FuenteCuadricula {
+public:
+    virtual int filas() const = 0;    // at least 1
+    virtual int columnas() const = 0; // at least 1
+
+    // Empty for a cell that has nothing to show.
+    virtual QString texto(int fila, int columna) const = 0;
+    virtual QString sugerencia(int fila, int columna) const = 0; // the tooltip, empty for none
+
+protected:
+    ~FuenteCuadricula() = default;
+};
