@@ -1,0 +1,2 @@
+a = Array(1)
+WScript.Echo a = 1 '! 13

@@ -1,0 +1,3 @@
+Dim a()
+a = Array(1, 2, 3)
+WScript.Echo UBound(a) '> 2

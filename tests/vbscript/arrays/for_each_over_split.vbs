@@ -1,0 +1,5 @@
+For Each p In Split("uno,dos", ",")
+  WScript.Echo p
+Next
+'> uno
+'> dos

@@ -1,0 +1,3 @@
+x = Array(1, 2)
+x = 5
+WScript.Echo x '> 5

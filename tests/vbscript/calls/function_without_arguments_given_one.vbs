@@ -1,0 +1,3 @@
+Function F()
+End Function
+x = F(1) '! 450

@@ -1,0 +1,3 @@
+Dim Hex
+Hex = 7
+WScript.Echo Hex '> 7

@@ -1,0 +1,4 @@
+Function Izquierda(Left)
+  Izquierda = Left + 1
+End Function
+WScript.Echo Izquierda(4) '> 5

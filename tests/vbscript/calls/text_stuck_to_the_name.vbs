@@ -1,0 +1,4 @@
+Sub P(t)
+  WScript.Echo t
+End Sub
+P"hola" '> hola

@@ -1,0 +1,2 @@
+Option Explicit
+noExiste 1 '! 500

@@ -1,0 +1,2 @@
+Set o = Nothing
+o.Algo '! 91

@@ -1,0 +1,4 @@
+Class K
+End Class
+Set o = New K
+o.NoExiste '! 438

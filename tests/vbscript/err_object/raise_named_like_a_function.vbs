@@ -1,0 +1,1 @@
+Call Err.Raise(700) '! 700

@@ -1,0 +1,1 @@
+Err.Raise 1234, "origen", "texto" '! 1234

@@ -1,0 +1,2 @@
+Dim a(1)
+ReDim Preserve a(2) '! 10

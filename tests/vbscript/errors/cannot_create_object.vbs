@@ -1,0 +1,1 @@
+Set x = CreateObject("ADODB.Connection") '! 429

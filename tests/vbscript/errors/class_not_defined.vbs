@@ -1,0 +1,1 @@
+Set x = New Clase '! 506

@@ -1,0 +1,3 @@
+If False Then
+ElseIf "x" Then '! 13
+End If

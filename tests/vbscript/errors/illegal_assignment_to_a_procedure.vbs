@@ -1,0 +1,3 @@
+Sub S
+End Sub
+S = 5 '! 501

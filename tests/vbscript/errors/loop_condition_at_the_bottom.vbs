@@ -1,0 +1,3 @@
+Do
+  x = x + 1
+Loop While CInt("a") '! 13

@@ -1,0 +1,3 @@
+x = "abc"
+For Each c In x '! 451
+Next

@@ -1,0 +1,2 @@
+Set o = Nothing
+x = o.Nombre '! 91

@@ -1,0 +1,2 @@
+x = "texto"
+x.Metodo '! 424

@@ -1,0 +1,3 @@
+Set r = New RegExp
+r.Pattern = "[z-a]"
+x = r.Test("a") '! 5021

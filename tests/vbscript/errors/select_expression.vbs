@@ -1,0 +1,3 @@
+Select Case 1 / 0 '! 11
+  Case 1
+End Select

@@ -1,0 +1,4 @@
+Sub S
+  S '! 28
+End Sub
+S

@@ -1,0 +1,3 @@
+Function F(a, b)
+End Function
+x = F(1) '! 450

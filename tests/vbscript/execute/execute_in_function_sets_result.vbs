@@ -1,0 +1,4 @@
+Function F
+  Execute "F = 12"
+End Function
+WScript.Echo F '> 12

@@ -1,0 +1,3 @@
+Execute ""
+ExecuteGlobal "  "
+WScript.Echo "fin" '> fin

@@ -1,0 +1,3 @@
+On Error Resume Next
+Execute "If True"
+WScript.Echo Err.Number '> 1017

@@ -1,0 +1,2 @@
+x = 1
+Execute "If True" '! 1017 @*

@@ -1,0 +1,1 @@
+WScript.Echo Abs("hola") '! 13

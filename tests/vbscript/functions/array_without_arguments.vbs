@@ -1,0 +1,3 @@
+a = Array()
+WScript.Echo UBound(a) '> -1
+WScript.Echo IsArray(a) '> True

@@ -1,0 +1,2 @@
+WScript.Echo AscB("A") '> 65
+WScript.Echo AscB(ChrW(&H20AC)) '> 172

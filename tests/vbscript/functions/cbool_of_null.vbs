@@ -1,0 +1,1 @@
+WScript.Echo CBool(Null) '! 94

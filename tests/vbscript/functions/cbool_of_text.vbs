@@ -1,0 +1,1 @@
+WScript.Echo CBool("quizás") '! 13

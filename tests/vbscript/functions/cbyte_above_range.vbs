@@ -1,0 +1,1 @@
+WScript.Echo CByte(256) '! 6

@@ -1,0 +1,1 @@
+WScript.Echo CByte(-1) '! 6

@@ -1,0 +1,1 @@
+WScript.Echo CCur(1E15) '! 6

@@ -1,0 +1,1 @@
+WScript.Echo CDate("hola") '! 13

@@ -1,0 +1,1 @@
+WScript.Echo CDbl("") '! 13

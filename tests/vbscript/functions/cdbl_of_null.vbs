@@ -1,0 +1,1 @@
+WScript.Echo CDbl(Null) '! 94

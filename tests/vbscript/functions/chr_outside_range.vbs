@@ -1,0 +1,1 @@
+WScript.Echo Chr(-1) '! 5

@@ -1,0 +1,2 @@
+WScript.Echo CInt(-32768) '> -32768
+WScript.Echo CInt(-32769) '! 6

@@ -1,0 +1,1 @@
+WScript.Echo CInt(Null) '! 94

@@ -1,0 +1,1 @@
+WScript.Echo CInt("12x") '! 13

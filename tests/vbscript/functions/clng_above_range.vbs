@@ -1,0 +1,1 @@
+WScript.Echo CLng(2147483648) '! 6

@@ -1,0 +1,1 @@
+Set o = CreateObject("Nada.Objeto") '! 429

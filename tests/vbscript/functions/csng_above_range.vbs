@@ -1,0 +1,1 @@
+WScript.Echo CSng(1E39) '! 6

@@ -1,0 +1,1 @@
+WScript.Echo CStr(Null) '! 94

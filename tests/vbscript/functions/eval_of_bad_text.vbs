@@ -1,0 +1,3 @@
+On Error Resume Next
+x = Eval("1 +")
+WScript.Echo Err.Number > 1000 '> True

@@ -1,0 +1,2 @@
+a = Filter(Array("pera", "manzana", "peral", "uva"), "per")
+WScript.Echo UBound(a), Join(a, "-") '> 1 pera-peral

@@ -1,0 +1,1 @@
+WScript.Echo Join(Filter(Array("pera", "manzana", "uva"), "an", False), "-") '> pera-uva

@@ -1,0 +1,1 @@
+a = Filter("texto", "t") '! 13

@@ -1,0 +1,2 @@
+a = Filter(Array("a", "b"), "z")
+WScript.Echo UBound(a), IsArray(a) '> -1 True

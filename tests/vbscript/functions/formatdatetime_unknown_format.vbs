@@ -1,0 +1,1 @@
+WScript.Echo FormatDateTime(#1/31/2020#, 9) '! 5

@@ -1,0 +1,1 @@
+Set o = GetObject("nada:objeto") '! 429

@@ -1,0 +1,1 @@
+Set f = GetRef("NoExiste") '! 5

@@ -1,0 +1,1 @@
+WScript.Echo Hex(4294967296) '! 6

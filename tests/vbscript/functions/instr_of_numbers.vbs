@@ -1,0 +1,1 @@
+WScript.Echo InStr(12345, 34) '> 3

@@ -1,0 +1,1 @@
+WScript.Echo InStr(0, "abc", "a") '! 5

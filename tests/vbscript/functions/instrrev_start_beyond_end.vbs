@@ -1,0 +1,1 @@
+WScript.Echo InStrRev("abc", "a", 9) '> 0

@@ -1,0 +1,1 @@
+WScript.Echo Join("abc", "-") '! 13

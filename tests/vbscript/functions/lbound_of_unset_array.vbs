@@ -1,0 +1,2 @@
+Dim a()
+WScript.Echo LBound(a) '! 9

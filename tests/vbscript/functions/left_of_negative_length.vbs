@@ -1,0 +1,1 @@
+WScript.Echo Left("abc", -1) '! 5

@@ -1,0 +1,1 @@
+WScript.Echo LenB("abc"), LenB("€"), LenB("") '> 6 2 0

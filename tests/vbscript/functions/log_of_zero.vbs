@@ -1,0 +1,1 @@
+WScript.Echo Log(0) '! 5

@@ -1,0 +1,1 @@
+WScript.Echo Mid("abc", 1, -1) '! 5

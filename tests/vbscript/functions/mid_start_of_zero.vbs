@@ -1,0 +1,1 @@
+WScript.Echo Mid("abc", 0, 1) '! 5

@@ -1,0 +1,2 @@
+WScript.Echo MidB("abc", 3, 2) '> b
+WScript.Echo LenB(MidB("abc", 2)) '> 5

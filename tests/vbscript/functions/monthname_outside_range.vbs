@@ -1,0 +1,1 @@
+WScript.Echo MonthName(13) '! 5

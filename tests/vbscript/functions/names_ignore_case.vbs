@@ -1,0 +1,1 @@
+WScript.Echo UCASE("a") & ucase("b") & uCaSe("c") '> ABC

@@ -1,0 +1,1 @@
+WScript.Echo Replace(Null, "a", "b") '! 94

@@ -1,0 +1,1 @@
+WScript.Echo RGB(-1, 0, 0) '! 5

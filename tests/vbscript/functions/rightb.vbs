@@ -1,0 +1,2 @@
+WScript.Echo RightB("abc", 2) '> c
+WScript.Echo LenB(RightB("abc", 3)) '> 3

@@ -1,0 +1,1 @@
+WScript.Echo Round(1234, -2) '! 5

@@ -1,0 +1,2 @@
+WScript.Echo ScriptEngine '> VBScript
+WScript.Echo ScriptEngine() = "VBScript" '> True

@@ -1,0 +1,1 @@
+WScript.Echo IsNumeric(ScriptEngineBuildVersion), ScriptEngineBuildVersion() >= 0 '> True True

@@ -1,0 +1,1 @@
+WScript.Echo ScriptEngineMajorVersion() >= 5 '> True

@@ -1,0 +1,1 @@
+WScript.Echo ScriptEngineMinorVersion() >= 0 '> True

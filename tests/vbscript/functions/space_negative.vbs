@@ -1,0 +1,1 @@
+WScript.Echo Space(-1) '! 5

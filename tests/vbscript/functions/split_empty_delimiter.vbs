@@ -1,0 +1,2 @@
+a = Split("a b", "")
+WScript.Echo UBound(a), a(0) '> 0 a b

@@ -1,0 +1,1 @@
+WScript.Echo UBound(Split("")), UBound(Split("", ",")) '> -1 -1

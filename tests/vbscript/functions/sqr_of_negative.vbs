@@ -1,0 +1,1 @@
+WScript.Echo Sqr(-1) '! 5

@@ -1,0 +1,1 @@
+WScript.Echo String(-1, "x") '! 5

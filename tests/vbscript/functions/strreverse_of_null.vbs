@@ -1,0 +1,1 @@
+WScript.Echo StrReverse(Null) '! 94

@@ -1,0 +1,2 @@
+WScript.Echo Timer >= 0, Timer() < 86400 '> True True
+WScript.Echo TypeName(Timer) '> Single

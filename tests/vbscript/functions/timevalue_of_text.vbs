@@ -1,0 +1,1 @@
+WScript.Echo TimeValue("tarde") '! 13

@@ -1,0 +1,1 @@
+WScript.Echo Len(Trim(vbTab & " a " & vbCrLf)) '> 6

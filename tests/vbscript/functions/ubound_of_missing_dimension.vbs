@@ -1,0 +1,2 @@
+Dim a(3)
+WScript.Echo UBound(a, 2) '! 9

@@ -1,0 +1,2 @@
+x = 5
+WScript.Echo UBound(x) '! 13

@@ -1,0 +1,2 @@
+Dim a()
+WScript.Echo UBound(a) '! 9

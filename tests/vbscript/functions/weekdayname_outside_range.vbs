@@ -1,0 +1,1 @@
+WScript.Echo WeekdayName(8) '! 5

@@ -1,0 +1,2 @@
+WScript.Echo C '> 5
+Const C = 5

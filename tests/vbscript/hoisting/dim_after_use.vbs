@@ -1,0 +1,4 @@
+Option Explicit
+x = 3
+Dim x
+WScript.Echo x '> 3

@@ -1,0 +1,6 @@
+Class K
+  Public Function Doble(n)
+    Doble = n * 2
+  End Function
+End Class
+WScript.Echo (New K).Doble(4) '> 8

@@ -1,0 +1,1 @@
+Set o = New NoExiste '! 506

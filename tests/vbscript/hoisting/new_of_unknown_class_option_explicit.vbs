@@ -1,0 +1,3 @@
+Option Explicit
+Dim o
+Set o = New NoExiste '! 500

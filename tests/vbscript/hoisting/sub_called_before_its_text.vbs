@@ -1,0 +1,4 @@
+Saluda '> hola
+Sub Saluda
+  WScript.Echo "hola"
+End Sub

@@ -1,0 +1,3 @@
+
+
+WScript.Echo "después" '> después

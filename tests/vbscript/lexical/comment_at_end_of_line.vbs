@@ -1,0 +1,2 @@
+x = "no 'es' comentario" ' este sí
+WScript.Echo x '> no 'es' comentario

@@ -1,0 +1,2 @@
+x = 5
+If x=5Then WScript.Echo "cinco" '> cinco

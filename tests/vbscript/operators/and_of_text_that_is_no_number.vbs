@@ -1,0 +1,1 @@
+x = "hola" And True '! 13

@@ -1,0 +1,2 @@
+a = "x" : b = "y"
+WScript.Echo a&b, a&"z" '> xy xz

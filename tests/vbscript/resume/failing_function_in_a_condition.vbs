@@ -1,0 +1,7 @@
+Function F
+  x = 1 / 0
+End Function
+On Error Resume Next
+If F() Then
+  WScript.Echo "dentro" '> dentro
+End If

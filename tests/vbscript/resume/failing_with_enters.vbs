@@ -1,0 +1,4 @@
+On Error Resume Next
+With nada
+  WScript.Echo "dentro" '> dentro
+End With

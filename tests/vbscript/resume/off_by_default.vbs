@@ -1,0 +1,3 @@
+WScript.Echo "antes" '> antes
+x = 1 / 0 '! 11
+WScript.Echo "nunca"

@@ -1,0 +1,1 @@
+WScript.Echo "uno" '> unoWScript.Echo "dos" '> dosx = 1 / 0 '! 11

@@ -1,0 +1,3 @@
+Function F
+  F = 4 End Function
+WScript.Echo F '> 4

@@ -1,0 +1,3 @@
+If True Then
+  x = 3 End If
+WScript.Echo x '> 3

@@ -1,0 +1,5 @@
+If False Then
+  x = "a"
+Else x = "b"
+End If
+WScript.Echo x '> b

@@ -1,0 +1,5 @@
+Dim x
+Sub S() x = 1
+End Sub
+S
+WScript.Echo x '> 1

@@ -1,0 +1,4 @@
+Dim x
+Sub S() x = 5 End Sub
+S
+WScript.Echo x '> 5

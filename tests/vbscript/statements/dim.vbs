@@ -1,0 +1,2 @@
+Dim a, b(2), c()
+WScript.Echo TypeName(a), UBound(b), IsArray(c) '> Empty 2 True

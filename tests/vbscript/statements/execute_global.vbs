@@ -1,0 +1,5 @@
+Sub S()
+  ExecuteGlobal "creada = 3"
+End Sub
+S
+WScript.Echo creada '> 3

@@ -1,0 +1,4 @@
+For Each v In Array()
+  WScript.Echo "nunca"
+Next
+WScript.Echo "fin" '> fin

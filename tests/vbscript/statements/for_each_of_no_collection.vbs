@@ -1,0 +1,2 @@
+For Each v In 5 '! 451
+Next

@@ -1,0 +1,2 @@
+For i = 1 To "fin" '! 13
+Next

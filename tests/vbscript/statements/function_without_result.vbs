@@ -1,0 +1,3 @@
+Function Nada()
+End Function
+WScript.Echo TypeName(Nada()), TypeName(Nada) '> Empty Empty

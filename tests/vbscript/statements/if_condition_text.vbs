@@ -1,0 +1,2 @@
+If "hola" Then '! 13
+End If

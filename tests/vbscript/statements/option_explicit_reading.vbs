@@ -1,0 +1,3 @@
+Option Explicit
+Dim x
+x = 1 + noDeclarada '! 500

@@ -1,0 +1,6 @@
+Private x
+Private Sub S()
+  WScript.Echo x
+End Sub
+x = 4
+S '> 4

@@ -1,0 +1,3 @@
+Randomize
+x = Rnd
+WScript.Echo x >= 0 And x < 1 '> True

@@ -1,0 +1,3 @@
+' A name may begin with the letters.
+Remolque = 3
+WScript.Echo Remolque '> 3

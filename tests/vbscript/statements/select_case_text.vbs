@@ -1,0 +1,4 @@
+Select Case "b"
+  Case "B" WScript.Echo "mayúscula"
+  Case "b" WScript.Echo "minúscula" '> minúscula
+End Select

@@ -1,0 +1,2 @@
+Dim nada
+Set x = nada '! 424

@@ -1,0 +1,3 @@
+' Without a debugger it does nothing.
+Stop
+WScript.Echo "sigue" '> sigue

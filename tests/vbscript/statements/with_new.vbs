@@ -1,0 +1,4 @@
+With New RegExp
+  .Pattern = "\d+"
+  WScript.Echo .Test("abc123") '> True
+End With

@@ -1,0 +1,2 @@
+WScript.Echo "dice ""hola""", Len("""") '> dice "hola" 1
+WScript.Echo """" & "x" & """" '> "x"

@@ -1,0 +1,2 @@
+WScript.Echo CSng(0.1), CSng(1 / 3), CSng(1234567.8) '> 0,1 0,3333333 1234568
+WScript.Echo CSng(16777216), CSng(1E10) '> 1,677722E+07 1E+10
