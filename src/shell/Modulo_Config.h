@@ -1,0 +1,39 @@
+// The station's settings: file "Sis_Config.ini" in the program's folder, section "Trelvano".
+//
+// Nothing is cached: every access opens the file again, so that an edit made meanwhile is seen. A reader whose result
+// equals its default writes it to the file, so that after a first run the user finds every key there. Texts are UTF-8.
+//
+//     Modulo_Config config(carpetaPrograma());
+//     const std::optional<double> puerto = config.leerNumero("PUERTO_VALOR", "502");
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <string_view>
+
+class Modulo_Config {
+public:
+    // `signoDecimal`: '.' or ',', the locale's, for the keys that are numbers.
+    explicit Modulo_Config(std::filesystem::path carpetaPrograma, char signoDecimal = '.');
+
+    std::filesystem::path rutaArchivo() const;
+
+    // The value of a key, or the default, written back when the value read equals it character for character.
+    std::string leerConfiguracion(std::string_view clave, std::string_view porDefecto) const;
+
+    // leerConfiguracion with "RS232_" before the key.
+    std::string leerConfiguracionRS232(std::string_view clave, std::string_view porDefecto) const;
+
+    void escribirConfiguracion(std::string_view clave, std::string_view valor) const;
+
+    // leerConfiguracion as a number; nothing when the text is not numeric (a type mismatch to its reader).
+    std::optional<double> leerNumero(std::string_view clave, std::string_view porDefecto) const;
+
+    // Full path of the default project file, empty without one. Belongs to other programs: read, never written.
+    std::string rutaProyecto() const;
+
+private:
+    std::filesystem::path carpeta_;
+    char signoDecimal_;
+};
