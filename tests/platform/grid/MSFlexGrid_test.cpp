@@ -13,7 +13,7 @@
 namespace {
 
 // Three columns below the headings; a cell shows "row.column".
-class Fuente : public FuenteCuadricula {
+class Fuente final : public FuenteCuadricula {
 public:
     int filas_ = 6;
 

@@ -67,14 +67,14 @@ private Q_SLOTS:
         // Each handler starts the next one and lets it run inside itself.
         std::function<void()> manejador = [&] {
             mayor = qMax(mayor, ++nivel);
-            QTimer::singleShot(0, this, manejador);
+            QMetaObject::invokeMethod(this, manejador, Qt::QueuedConnection);
             QElapsedTimer espera;
             espera.start();
             while (espera.elapsed() < 3)
                 eventos.dejarPasarEventos();
             --nivel;
         };
-        QTimer::singleShot(0, this, manejador);
+        QMetaObject::invokeMethod(this, manejador, Qt::QueuedConnection);
         eventos.dejarPasarEventos();
         QCOMPARE(mayor, Eventos::maxNivel);
         manejador = [] {};
