@@ -23,7 +23,6 @@ public:
 
 protected:
     void showEvent(QShowEvent* evento) override;
-    void resizeEvent(QResizeEvent* evento) override;
 
 private:
     void textoCambiado() override;

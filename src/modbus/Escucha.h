@@ -1,0 +1,69 @@
+// The listener and the pool of connections: takes masters in, hands their arrivals to the request handler.
+//
+// One listening socket, and a growing array of connection sockets of which element 0 exists from the start. Elements
+// are reused, never removed; an element's index is its row in the connection list. A socket that is neither connecting
+// nor connected is free.
+#pragma once
+
+#include "modbus/Peticiones.h"
+#include "platform/net/Winsock.h"
+
+#include <memory>
+#include <string>
+#include <vector>
+
+// What the listener needs of the window and the settings.
+class EntornoEscucha {
+public:
+    virtual double leerPuerto() = 0; // PUERTO_VALOR, default 502; 0 when it is not a number
+    virtual void guardarPuerto(double puerto) = 0;
+    virtual void mostrarPuerto(const std::string& texto) = 0; // caption of LblPuertoLocal
+    virtual void mostrarEscuchando(bool escuchando) = 0;      // its colour
+    virtual void avisar(const std::string& motivo) = 0;       // why the port is refused (UTF-8); empty: it no longer is
+    virtual void agregarFila() = 0;                           // an empty row at the end of the connection list
+    virtual void mostrarFila(std::size_t fila, const std::string& ip, const std::string& estado) = 0; // row from 0
+    virtual void dejarPasarEventos() = 0;
+
+protected:
+    ~EntornoEscucha() = default;
+};
+
+class Escucha final : private WinsockEvents {
+public:
+    // All borrowed. `rutaPrograma` is the executable, named in the advice about ports below 1024.
+    Escucha(Reactor& reactor, Peticiones& peticiones, EntornoEscucha& entorno, std::string rutaPrograma);
+    ~Escucha();
+
+    // Listens on the configured port unless it does so already, and writes the port in use back to the settings. Run
+    // at start and on every tick of TimerCambioPuerto. A refused port is tried again by the next call.
+    void levantarEscucha();
+
+    // Brings the rows of the connection list and the colour of the port label up to date.
+    void refrescarConexiones();
+
+    bool escuchando() const { return WinSockEscucha_.State() == WinsockState::listening; }
+    std::size_t conexiones() const { return WinSockLevantados_.size(); }
+
+private:
+    class Levantado;
+
+    void onConnectionRequest(Winsock& socket, std::uint32_t requestId) override;
+    void onDataArrival(Winsock& socket, std::span<const std::uint8_t> data) override;
+    void onClose(Winsock& socket) override;
+
+    void aceptarConexion(std::uint32_t requestId);
+    void agregarLevantado();
+    void asegurarFila(std::size_t j);
+    std::string abrirPuerto(double puerto);
+    void avisar(std::string motivo);
+
+    Reactor& reactor_;
+    Peticiones& peticiones_;
+    EntornoEscucha& entorno_;
+    std::string rutaPrograma_;
+    Winsock WinSockEscucha_;
+    std::vector<std::unique_ptr<Levantado>> WinSockLevantados_;
+    std::size_t filas_ = 0;
+    double puertoEnUso_ = 0; // 0 until the first start
+    std::string aviso_;
+};

@@ -1,0 +1,228 @@
+#include "modbus/Escucha.h"
+#include "tests/platform/net/Peer.h"
+
+#include <gmock/gmock.h>
+#include <memory>
+
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+struct Fila {
+    std::string ip;
+    std::string estado;
+    bool operator==(const Fila&) const = default;
+};
+
+struct Ventana : EntornoEscucha {
+    double leerPuerto() override { return puerto; }
+    void guardarPuerto(double valor) override { guardado = valor; }
+    void mostrarPuerto(const std::string& texto) override { etiqueta = texto; }
+    void mostrarEscuchando(bool valor) override { verde = valor; }
+    void avisar(const std::string& motivo) override { avisos.push_back(motivo); }
+    void agregarFila() override { filas.emplace_back(); }
+    void mostrarFila(std::size_t fila, const std::string& ip, const std::string& estado) override {
+        filas.at(fila) = {ip, estado};
+    }
+    void dejarPasarEventos() override {
+        if (alPasarEventos)
+            alPasarEventos();
+    }
+
+    double puerto = 0;
+    double guardado = -1;
+    std::string etiqueta;
+    bool verde = false;
+    std::vector<std::string> avisos;
+    std::vector<Fila> filas;
+    std::function<void()> alPasarEventos;
+};
+
+struct HoraFija : Reloj {
+    std::string_view hora() override { return "10:32:05"; }
+};
+
+// A port that was free a moment ago.
+std::uint16_t puertoLibre() {
+    Reactor reactor;
+    Recorder nadie;
+    Winsock sonda(reactor, nadie);
+    EXPECT_FALSE(sonda.Listen());
+    return sonda.LocalPort();
+}
+
+class EscuchaTest : public testing::Test {
+protected:
+    EscuchaTest() { ventana.puerto = puertoLibre(); }
+
+    std::uint16_t puerto() const { return static_cast<std::uint16_t>(ventana.puerto); }
+
+    std::unique_ptr<Peer> conectar() {
+        auto maestro = std::make_unique<Peer>(puerto());
+        maestro->send(peticion);
+        EXPECT_TRUE(runUntil(reactor, [&] { return !maestro->receive().empty(); }));
+        escucha.refrescarConexiones();
+        return maestro;
+    }
+
+    void desconectar(std::unique_ptr<Peer>& maestro) {
+        const auto antes = conectadas();
+        maestro.reset();
+        ASSERT_TRUE(runUntil(reactor, [&] {
+            escucha.refrescarConexiones();
+            return conectadas() < antes;
+        }));
+    }
+
+    std::ptrdiff_t conectadas() const { return std::ranges::count(ventana.filas, "Conectado", &Fila::estado); }
+
+    // Reads ten registers of slave 1.
+    const std::string peticion{"\0\1\0\0\0\6\1\3\0\0\0\12", 12};
+    const Fila conectado{"127.0.0.1", "Conectado"};
+    const Fila libre{"127.0.0.1", "NO CONECTADO Y LIBRE"};
+
+    Ventana ventana;
+    HoraFija reloj;
+    Esclavos esclavos;
+    Monitores monitores;
+    Peticiones peticiones{esclavos, monitores, reloj};
+    Reactor reactor;
+    Escucha escucha{reactor, peticiones, ventana, "/opt/esclavo-modbus"};
+};
+
+TEST_F(EscuchaTest, listensShowsThePortAndWritesItBack) {
+    escucha.levantarEscucha();
+    escucha.refrescarConexiones();
+    EXPECT_TRUE(escucha.escuchando());
+    EXPECT_EQ(ventana.etiqueta, "Puerto: " + std::to_string(puerto()));
+    EXPECT_EQ(ventana.guardado, puerto());
+    EXPECT_TRUE(ventana.verde);
+    EXPECT_THAT(ventana.avisos, IsEmpty());
+}
+
+TEST_F(EscuchaTest, answersARequest) {
+    escucha.levantarEscucha();
+    Peer maestro(puerto());
+    maestro.send(peticion);
+    std::string respuesta;
+    ASSERT_TRUE(runUntil(reactor, [&] { return (respuesta += maestro.receive()).size() == 29; }));
+    EXPECT_EQ(respuesta.substr(0, 9), std::string("\0\1\0\0\0\27\1\3\24", 9));
+}
+
+TEST_F(EscuchaTest, showsNoRowBeforeTheFirstMaster) {
+    escucha.levantarEscucha();
+    escucha.refrescarConexiones();
+    EXPECT_THAT(ventana.filas, IsEmpty());
+}
+
+TEST_F(EscuchaTest, threeMastersAtOnceUseThreeSocketsAndThreeRows) {
+    escucha.levantarEscucha();
+    const auto a = conectar();
+    const auto b = conectar();
+    const auto c = conectar();
+    EXPECT_EQ(escucha.conexiones(), 3U);
+    EXPECT_THAT(ventana.filas, ElementsAre(conectado, conectado, conectado));
+}
+
+TEST_F(EscuchaTest, withNoMastersConnectedEveryRowIsFree) {
+    escucha.levantarEscucha();
+    auto a = conectar();
+    auto b = conectar();
+    desconectar(a);
+    desconectar(b);
+    EXPECT_THAT(ventana.filas, ElementsAre(libre, libre));
+}
+
+TEST_F(EscuchaTest, nextMasterReusesTheLowestFreeSocketAndTheArrayDoesNotGrow) {
+    escucha.levantarEscucha();
+    auto a = conectar();
+    auto b = conectar();
+    const auto c = conectar();
+    desconectar(b);
+    desconectar(a);
+    const auto d = conectar();
+    EXPECT_EQ(escucha.conexiones(), 3U);
+    EXPECT_THAT(ventana.filas, ElementsAre(conectado, libre, conectado));
+}
+
+TEST_F(EscuchaTest, rowKeepsItsTextUntilTheNextRefresh) {
+    escucha.levantarEscucha();
+    auto a = conectar();
+    a.reset();
+    const auto nuevo = std::make_unique<Peer>(puerto());
+    nuevo->send(peticion);
+    ASSERT_TRUE(runUntil(reactor, [&] { return !nuevo->receive().empty(); }));
+    EXPECT_EQ(ventana.filas.front(), conectado);
+}
+
+TEST_F(EscuchaTest, acceptsWhileHandlersLetEventsPass) {
+    ventana.alPasarEventos = [this] { reactor.turn(); };
+    escucha.levantarEscucha();
+    std::vector<std::unique_ptr<Peer>> maestros;
+    for (int i = 0; i < 40; ++i) {
+        maestros.push_back(std::make_unique<Peer>(puerto()));
+        maestros.back()->send(peticion);
+    }
+    for (auto& maestro : maestros)
+        EXPECT_TRUE(runUntil(reactor, [&] { return !maestro->receive().empty(); }));
+    EXPECT_EQ(escucha.conexiones(), 40U);
+}
+
+TEST_F(EscuchaTest, takenPortStaysRedIsRetriedAndSaidOnce) {
+    Reactor otro;
+    Recorder nadie;
+    Winsock ocupante(otro, nadie);
+    ocupante.LocalPort(puerto());
+    ASSERT_FALSE(ocupante.Listen());
+
+    escucha.levantarEscucha();
+    escucha.levantarEscucha();
+    escucha.refrescarConexiones();
+    EXPECT_FALSE(escucha.escuchando());
+    EXPECT_FALSE(ventana.verde);
+    EXPECT_THAT(ventana.avisos, ElementsAre(HasSubstr("ocupado por otro programa")));
+
+    ocupante.Close();
+    escucha.levantarEscucha();
+    EXPECT_TRUE(escucha.escuchando());
+    EXPECT_EQ(ventana.avisos.back(), "");
+}
+
+TEST_F(EscuchaTest, editedPortMovesTheListener) {
+    escucha.levantarEscucha();
+    const auto anterior = puerto();
+    ventana.puerto = puertoLibre();
+    escucha.levantarEscucha();
+    EXPECT_EQ(ventana.etiqueta, "Puerto: " + std::to_string(puerto()));
+    EXPECT_TRUE(Peer(puerto()).connected());
+    EXPECT_FALSE(Peer(anterior).connected());
+}
+
+TEST_F(EscuchaTest, connectedMastersSurviveAChangeOfPort) {
+    escucha.levantarEscucha();
+    const auto maestro = conectar();
+    ventana.puerto = puertoLibre();
+    escucha.levantarEscucha();
+    maestro->send(peticion);
+    EXPECT_TRUE(runUntil(reactor, [&] { return !maestro->receive().empty(); }));
+}
+
+class PuertoInvalido : public EscuchaTest, public testing::WithParamInterface<std::pair<double, std::string>> {};
+
+TEST_P(PuertoInvalido, isRedAndTheNoticeSaysWhy) {
+    ventana.puerto = GetParam().first;
+    escucha.levantarEscucha();
+    escucha.refrescarConexiones();
+    EXPECT_FALSE(escucha.escuchando());
+    EXPECT_FALSE(ventana.verde);
+    EXPECT_EQ(ventana.etiqueta, "Puerto: " + GetParam().second);
+    EXPECT_THAT(ventana.avisos, ElementsAre(HasSubstr("no es válido")));
+}
+
+INSTANTIATE_TEST_SUITE_P(Valores, PuertoInvalido,
+                         testing::Values(std::pair(0.0, "0"), std::pair(70000.0, "70000"), std::pair(-1.0, "-1"),
+                                         std::pair(1e9, "1000000000")));
+
+} // namespace
