@@ -1,0 +1,107 @@
+#include "bridge/Puente.h"
+
+#include "bridge/TextoBloque.h"
+
+#include <algorithm>
+
+Puente::Extremo::Extremo(Reactor& reactor, WinsockEvents& eventos, double puertoLocal)
+    : puerto(puertoLocal), socket(reactor, eventos) {
+    socket.LocalPort(static_cast<std::uint16_t>(puertoLocal));
+    socket.readWhileSending(true); // each direction flows by itself; contener() bounds what waits
+}
+
+Puente::Puente(Reactor& reactor, VentanaPuente& ventana, double puerto1, double puerto2)
+    : ventana_(ventana), lados_{Extremo(reactor, *this, puerto1), Extremo(reactor, *this, puerto2)} {}
+
+void Puente::verificarEstado() {
+    verificarLado(Lado::uno);
+    verificarLado(Lado::dos);
+    contener();
+}
+
+void Puente::verificarLado(Lado lado) {
+    const WinsockState leido = socket(lado).State();
+    switch (leido) {
+    case WinsockState::connected:
+        ventana_.colorear(lado, ColorPuerto::verde);
+        return;
+    case WinsockState::listening:
+        ventana_.colorear(lado, ColorPuerto::azul);
+        return;
+    case WinsockState::connecting:
+        ventana_.colorear(lado, ColorPuerto::amarillo);
+        return;
+    default:
+        break;
+    }
+    // Read again on purpose: a state that changes between the two readings is left for the next check.
+    if (socket(lado).State() != leido)
+        return;
+    ventana_.colorear(lado, ColorPuerto::rojo);
+    ponerAEscuchar(socket(lado), puerto(lado));
+}
+
+void Puente::ponerAEscuchar(Winsock& socket, double puerto) {
+    socket.Close();
+    socket.LocalPort(static_cast<std::uint16_t>(puerto));
+    if (const std::error_code fallo = socket.Listen())
+        ventana_.puertoRechazado(puerto, fallo);
+}
+
+void Puente::onConnectionRequest(Winsock& socket, std::uint32_t requestId) {
+    socket.Close();
+    socket.Accept(requestId);
+}
+
+void Puente::onDataArrival(Winsock& origen, std::span<const std::uint8_t> bloque) {
+    const Lado lado = ladoDe(origen);
+    if (lado == Lado::uno && ventana_.echo())
+        enviar(Lado::uno, bloque);
+    enviar(otro(lado), bloque);
+    contener();
+    mostrarBloque(lado, bloque);
+}
+
+void Puente::enviar(Lado lado, std::span<const std::uint8_t> bloque) {
+    // A connection that breaks in this very send loses the block as one that broke before it would.
+    if (socket(lado).State() == WinsockState::connected)
+        static_cast<void>(socket(lado).SendData(bloque));
+}
+
+void Puente::onClose(Winsock&) {
+    contener();
+}
+
+void Puente::onSendComplete(Winsock&) {
+    contener();
+}
+
+// Side 1 feeds side 2 and, by its echo, itself; side 2 feeds side 1.
+void Puente::contener() {
+    const bool lento1 = socket(Lado::uno).bytesPending() > maxPendiente;
+    const bool lento2 = socket(Lado::dos).bytesPending() > maxPendiente;
+    socket(Lado::uno).pauseReading(lento2 || (lento1 && ventana_.echo()));
+    socket(Lado::dos).pauseReading(lento1);
+}
+
+// Events are let pass while the text is built, so that a large block does not hold the window; it has been relayed by
+// then, but the texts of two blocks may interleave.
+void Puente::mostrarBloque(Lado lado, std::span<const std::uint8_t> bloque) {
+    const bool hexadecimal = ventana_.modbus();
+    if (hexadecimal && lado == Lado::uno)
+        primerByteModbus_ = bloque.front();
+    if (ventana_.stop())
+        return;
+    constexpr std::size_t porTrozo = 256; // bytes between two looks at the pending events
+    std::string texto;
+    for (std::size_t i = 0; i < bloque.size(); i += porTrozo) {
+        const auto trozo = bloque.subspan(i, std::min(porTrozo, bloque.size() - i));
+        (hexadecimal ? agregarHexadecimal : agregarCaracteres)(texto, trozo);
+        ventana_.dejarPasarEventos();
+    }
+    if (ventana_.stop())
+        return;
+    if (hexadecimal)
+        texto.append("\r\n");
+    ventana_.mostrar(lado, texto);
+}
