@@ -1,0 +1,191 @@
+#include "shell/ControlesPrincipal.h"
+
+#include "modbus/VistaMonitor.h"
+
+#include <QCheckBox>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QPushButton>
+#include <QSplitter>
+#include <QStackedWidget>
+#include <QTabBar>
+#include <QTreeWidget>
+#include <QVBoxLayout>
+
+namespace {
+
+template <typename Control>
+Control* nombrado(Control* control, const char* nombre) {
+    control->setObjectName(QLatin1String(nombre));
+    return control;
+}
+
+QLabel* titulo(QWidget* padre, const char* nombre, const QString& texto) {
+    auto* etiqueta = nombrado(new QLabel(texto, padre), nombre);
+    QFont negrita = etiqueta->font();
+    negrita.setBold(true);
+    etiqueta->setFont(negrita);
+    return etiqueta;
+}
+
+QPushButton* boton(QWidget* padre, const char* nombre, const QString& texto, const QString& ayuda) {
+    auto* control = nombrado(new QPushButton(texto, padre), nombre);
+    control->setAutoDefault(false);
+    control->setToolTip(ayuda);
+    return control;
+}
+
+QLabel* aviso(QWidget* padre, const char* nombre) {
+    auto* etiqueta = nombrado(new QLabel(padre), nombre);
+    etiqueta->setWordWrap(true);
+    etiqueta->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    etiqueta->hide();
+    return etiqueta;
+}
+
+} // namespace
+
+ControlesPrincipal::ControlesPrincipal(QWidget& ventana, TextoMonitor& escrituras) {
+    auto* divisor = nombrado(new QSplitter(Qt::Horizontal, &ventana), "divisorPrincipal");
+    divisor->addWidget(columnaIzquierda(divisor));
+    divisor->addWidget(columnaDerecha(divisor, escrituras));
+    divisor->setStretchFactor(0, 1);
+    divisor->setStretchFactor(1, 0);
+    divisor->setChildrenCollapsible(false);
+
+    auto* diseno = new QVBoxLayout(&ventana);
+    diseno->addWidget(divisor);
+    ordenarTabulacion();
+}
+
+QWidget* ControlesPrincipal::columnaIzquierda(QWidget* padre) {
+    auto* columna = new QWidget(padre);
+    TabStrip1 = nombrado(new QTabBar(columna), "TabStrip1");
+    TabStrip1->setUsesScrollButtons(true);
+    TabStrip1->setElideMode(Qt::ElideNone);
+    TabStrip1->setExpanding(false);
+    TabStrip1->setAccessibleName(QStringLiteral("Esclavos"));
+    paginas = nombrado(new QStackedWidget(columna), "paginas");
+
+    auto* diseno = new QVBoxLayout(columna);
+    diseno->setContentsMargins(0, 0, 0, 0);
+    diseno->setSpacing(0);
+    diseno->addWidget(TabStrip1);
+    diseno->addWidget(paginas, 1);
+    return columna;
+}
+
+QWidget* ControlesPrincipal::columnaDerecha(QWidget* padre, TextoMonitor& escrituras) {
+    auto* columna = new QWidget(padre);
+    auto* diseno = new QVBoxLayout(columna);
+    diseno->setContentsMargins(0, 0, 0, 0);
+    grupoConexiones(*diseno, columna);
+    grupoEscrituras(*diseno, columna, escrituras);
+    grupoScript(*diseno, columna);
+    grupoBotones(*diseno, columna);
+    return columna;
+}
+
+void ControlesPrincipal::grupoConexiones(QVBoxLayout& columna, QWidget* padre) {
+    auto* cabecera = new QHBoxLayout;
+    cabecera->addWidget(titulo(padre, "Label3", QStringLiteral("Conexiones")));
+    cabecera->addStretch(1);
+    LblPuertoLocal = nombrado(new QLabel(QStringLiteral("Puerto:"), padre), "LblPuertoLocal");
+    LblPuertoLocal->setAccessibleDescription(QStringLiteral("Puerto TCP en el que escucha la estación"));
+    cabecera->addWidget(LblPuertoLocal);
+
+    ListView1 = nombrado(new QTreeWidget(padre), "ListView1");
+    ListView1->setRootIsDecorated(false);
+    ListView1->setUniformRowHeights(true);
+    ListView1->setAllColumnsShowFocus(true);
+    ListView1->setAccessibleName(QStringLiteral("Conexiones"));
+    ListView1->setColumnCount(0);
+
+    lblDDEAviso = aviso(padre, "lblDDEAviso");
+    columna.addLayout(cabecera);
+    columna.addWidget(lblDDEAviso);
+    columna.addWidget(ListView1, 2);
+}
+
+void ControlesPrincipal::grupoEscrituras(QVBoxLayout& columna, QWidget* padre, TextoMonitor& escrituras) {
+    auto* cabecera = new QHBoxLayout;
+    auto* Label1 = titulo(padre, "Label1", QStringLiteral("Escrituras:"));
+    cabecera->addWidget(Label1);
+    cabecera->addStretch(1);
+    BtnBorrar = boton(padre, "BtnBorrar", QStringLiteral("Borrar Escrituras"),
+                      QStringLiteral("Vacía el monitor de escrituras"));
+    cabecera->addWidget(BtnBorrar);
+
+    txtEscrituras = nombrado(new VistaMonitor(escrituras, padre), "txtEscrituras");
+    txtEscrituras->setAccessibleName(QStringLiteral("Escrituras"));
+    Label1->setBuddy(txtEscrituras);
+    columna.addLayout(cabecera);
+    columna.addWidget(txtEscrituras, 3);
+}
+
+void ControlesPrincipal::grupoScript(QVBoxLayout& columna, QWidget* padre) {
+    auto* fila = new QHBoxLayout;
+    chScript = nombrado(new QCheckBox(QStringLiteral("Ejecutar"), padre), "chScript");
+    chScript->setToolTip(QStringLiteral("Ejecuta el script periódicamente: verde, sin errores; rojo, con error"));
+    chScript->setAutoFillBackground(true);
+    BtnEdicionCodigo =
+        boton(padre, "BtnEdicionCodigo", QStringLiteral("Editar"), QStringLiteral("Abre el editor del script"));
+    lblBaseDeTiempo = nombrado(new QLabel(QStringLiteral("Tiempo:"), padre), "lblBaseDeTiempo");
+    fila->addWidget(chScript);
+    fila->addWidget(BtnEdicionCodigo);
+    fila->addWidget(lblBaseDeTiempo, 1);
+
+    columna.addWidget(titulo(padre, "Label2", QStringLiteral("Codigo Script")));
+    columna.addLayout(fila);
+}
+
+void ControlesPrincipal::grupoBotones(QVBoxLayout& columna, QWidget* padre) {
+    ChRxTx = nombrado(new QCheckBox(QStringLiteral("Ver TX/RX"), padre), "ChRxTx");
+    ChRxTx->setToolTip(QStringLiteral("Anota en los monitores cada trama recibida y enviada"));
+    BtnBorrarTextosRXTX = boton(padre, "BtnBorrarTextosRXTX", QStringLiteral("Borrar Tx/Rx"),
+                                QStringLiteral("Vacía los monitores de tramas de todos los esclavos"));
+    Command2 = boton(padre, "Command2", QStringLiteral("Puentes"),
+                     QStringLiteral("Muestra el puente entre los puertos 500 y 501"));
+    btnVerFormularioRS232 =
+        boton(padre, "btnVerFormularioRS232", QStringLiteral("RS232"), QStringLiteral("Muestra el puerto serie"));
+    Command1 = boton(padre, "Command1", QStringLiteral("About"), QStringLiteral("Acerca de este programa"));
+    BtnOcultar = boton(padre, "BtnOcultar", QStringLiteral("Ocultar"),
+                       QStringLiteral("Oculta esta ventana; el esclavo sigue respondiendo"));
+    BtnCerrar = boton(padre, "BtnCerrar", QStringLiteral("Cerrar Esclavo"),
+                      QStringLiteral("Termina el programa y cierra todas las conexiones"));
+    Label4 = aviso(padre, "Label4");
+
+    auto* rejilla = new QGridLayout;
+    rejilla->addWidget(ChRxTx, 0, 0);
+    rejilla->addWidget(BtnBorrarTextosRXTX, 0, 1, 1, 2);
+    rejilla->addWidget(Command2, 1, 0);
+    rejilla->addWidget(btnVerFormularioRS232, 1, 1);
+    rejilla->addWidget(Command1, 1, 2);
+    rejilla->addWidget(BtnOcultar, 2, 0);
+    rejilla->addWidget(BtnCerrar, 2, 1, 1, 2);
+    for (int c = 0; c < 3; ++c)
+        rejilla->setColumnStretch(c, 1);
+    columna.addWidget(Label4);
+    columna.addLayout(rejilla);
+}
+
+void ControlesPrincipal::ordenarTabulacion() const {
+    QWidget* const orden[] = {TabStrip1,
+                              paginas,
+                              ListView1,
+                              txtEscrituras,
+                              BtnBorrar,
+                              chScript,
+                              BtnEdicionCodigo,
+                              ChRxTx,
+                              BtnBorrarTextosRXTX,
+                              Command2,
+                              btnVerFormularioRS232,
+                              Command1,
+                              BtnOcultar,
+                              BtnCerrar};
+    for (std::size_t i = 1; i < std::size(orden); ++i)
+        QWidget::setTabOrder(orden[i - 1], orden[i]);
+}

@@ -1,0 +1,101 @@
+// The main window: it owns the register store, the monitors, the listener and the pages, and brings them up in order.
+//
+// It starts hidden; the configuration key "ver" shows and hides it, read again on every tick of TimerCambioPuerto, so
+// that hiding survives a restart and a second start of the program brings the running one to the front.
+#pragma once
+
+#include "modbus/Escucha.h"
+#include "modbus/Monitores.h"
+#include "modbus/Peticiones.h"
+#include "platform/net/Reactor.h"
+#include "platform/window/Eventos.h"
+#include "registers/Esclavos.h"
+#include "shell/RelojSistema.h"
+
+#include <QPointer>
+#include <QTimer>
+#include <QWidget>
+
+#include <map>
+#include <memory>
+#include <string>
+
+class FrmAbout;
+class FrmMW;
+class FrmTxRx;
+class Modulo_Config;
+class VistaPagina;
+struct ControlesPrincipal;
+
+// What the program was started with.
+struct Arranque {
+    std::string rutaPrograma;     // the executable's real path
+    QString lineaDeComandos;      // the arguments as one text
+    bool instanciaPrevia = false; // another copy of the same executable is running
+};
+
+class FrmPrincipal final : public QWidget, private ObservadorEsclavos, private EntornoEscucha {
+    Q_OBJECT
+
+public:
+    // `config` is borrowed and outlives the window. Nothing runs before cargar().
+    FrmPrincipal(Modulo_Config& config, Arranque arranque);
+    ~FrmPrincipal() override;
+
+    // The load step: brings everything up in the documented order. False when a previous instance is running: the
+    // message has been shown, that instance has been asked to show itself, and this one is to end.
+    bool cargar();
+
+    // Ends the program as "Cerrar Esclavo" does: unloads the windows, then leaves the event loop.
+    void apagar();
+
+    const Esclavos& esclavos() const { return esclavos_; }
+    const Escucha& escucha() const { return escucha_; }
+
+protected:
+    void closeEvent(QCloseEvent* evento) override;
+
+private:
+    // ObservadorEsclavos
+    void esclavoCreado(Pagina& pagina) override;
+
+    // EntornoEscucha
+    double leerPuerto() override;
+    void guardarPuerto(double puerto) override;
+    void mostrarPuerto(const std::string& texto) override;
+    void mostrarEscuchando(bool escuchando) override;
+    void avisar(const std::string& motivo) override;
+    void agregarFila() override;
+    void mostrarFila(std::size_t fila, const std::string& ip, const std::string& estado) override;
+    void dejarPasarEventos() override;
+
+    void conectarControles();
+    void conectarTeclado();
+    bool rechazarSegundaInstancia();
+    void crearTablasIniciales();
+    void comprobarPuertoYVisibilidad();
+    void aplicarVisibilidad();
+    void atenderLineaDeComandos();
+    void seleccionarPestana(int indice);
+    void cambiarEsclavo(int paso);
+    void abrirFrmMW(int esclavo, int direccion, const QString& texto);
+    void alternarTxRx(bool ver);
+    void ocultar();
+
+    Modulo_Config& config_;
+    Arranque arranque_;
+    Esclavos esclavos_;
+    Monitores monitores_;
+    RelojSistema reloj_;
+    Peticiones peticiones_{esclavos_, monitores_, reloj_};
+    Reactor reactor_;
+    Eventos eventos_;
+    Escucha escucha_;
+
+    std::unique_ptr<ControlesPrincipal> controles_;
+    std::map<int, VistaPagina*> vistas_; // by slave number; owned by their parent
+    QPointer<FrmAbout> frmAbout_;
+    QPointer<FrmTxRx> frmTxRx_;
+    QPointer<FrmMW> frmMW_;
+    QTimer TimerCambioPuerto_;
+};

@@ -1,0 +1,12 @@
+#include "shell/RelojSistema.h"
+
+std::string_view RelojSistema::hora() {
+    const std::time_t ahora = std::time(nullptr);
+    if (ahora != segundo_) {
+        segundo_ = ahora;
+        std::tm local{};
+        localtime_r(&ahora, &local);
+        std::strftime(texto_.data(), texto_.size(), "%H:%M:%S", &local);
+    }
+    return {texto_.data(), texto_.size() - 1};
+}

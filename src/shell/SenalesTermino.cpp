@@ -1,0 +1,26 @@
+#include "shell/SenalesTermino.h"
+
+#include <csignal>
+#include <sys/signalfd.h>
+#include <unistd.h>
+
+SenalesTermino::SenalesTermino(std::function<void()> alLlegar) : alLlegar_(std::move(alLlegar)) {
+    sigset_t senales;
+    sigemptyset(&senales);
+    sigaddset(&senales, SIGTERM);
+    sigaddset(&senales, SIGINT);
+    sigprocmask(SIG_BLOCK, &senales, nullptr);
+    descriptor_ = signalfd(-1, &senales, SFD_NONBLOCK | SFD_CLOEXEC);
+    avisador_ = std::make_unique<QSocketNotifier>(descriptor_, QSocketNotifier::Read);
+    QObject::connect(avisador_.get(), &QSocketNotifier::activated, avisador_.get(), [this] {
+        signalfd_siginfo leida{};
+        while (read(descriptor_, &leida, sizeof leida) == static_cast<ssize_t>(sizeof leida)) {
+        }
+        alLlegar_();
+    });
+}
+
+SenalesTermino::~SenalesTermino() {
+    avisador_.reset();
+    close(descriptor_);
+}

@@ -1,0 +1,67 @@
+// The entry of esclavo-modbus: finds out how it was started, then leaves everything to the main window.
+
+#include "platform/system/CarpetaPrograma.h"
+#include "platform/system/InstanciaPrevia.h"
+#include "platform/window/TextosQt.h"
+#include "shell/FrmPrincipal.h"
+#include "shell/Modulo_Config.h"
+#include "shell/SenalesTermino.h"
+
+#include <QApplication>
+#include <QIcon>
+
+#include <csignal>
+#include <cstdio>
+#include <filesystem>
+#include <sys/resource.h>
+
+namespace {
+
+// Without a screen the station serves all the same.
+void elegirPlataforma() {
+    if (qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY") ||
+        qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+        return;
+    std::fputs("esclavo-modbus: no hay pantalla; la estación atiende sin ventana.\n", stderr);
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+}
+
+// Every master takes a descriptor: use all that the system grants.
+void ampliarDescriptores() {
+    rlimit limite{};
+    if (getrlimit(RLIMIT_NOFILE, &limite) == 0 && limite.rlim_cur < limite.rlim_max) {
+        limite.rlim_cur = limite.rlim_max;
+        setrlimit(RLIMIT_NOFILE, &limite);
+    }
+}
+
+QIcon iconoPrograma() {
+    QIcon icono;
+    for (const int lado : {16, 32, 64, 256})
+        icono.addFile(QStringLiteral(":/icono-%1.png").arg(lado));
+    return icono;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    std::signal(SIGPIPE, SIG_IGN);
+    ampliarDescriptores();
+    elegirPlataforma();
+
+    QApplication aplicacion(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("esclavo-modbus"));
+    QApplication::setQuitOnLastWindowClosed(false);
+    QApplication::setWindowIcon(iconoPrograma());
+    TextosQt textosDeQt;
+    QApplication::installTranslator(&textosDeQt);
+
+    const std::filesystem::path ruta = rutaEjecutable();
+    const InstanciaPrevia instancia(ruta);
+    Modulo_Config config(carpetaPrograma());
+    FrmPrincipal principal(config, Arranque{.rutaPrograma = ruta.string(),
+                                            .lineaDeComandos = QApplication::arguments().mid(1).join(QLatin1Char(' ')),
+                                            .instanciaPrevia = instancia.hayOtra()});
+    const SenalesTermino senales([&principal] { principal.apagar(); });
+    return principal.cargar() ? QApplication::exec() : 0;
+}
