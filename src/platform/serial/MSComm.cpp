@@ -2,7 +2,6 @@
 
 #include <QDir>
 #include <QFileInfo>
-#include <QTimer>
 
 #include <algorithm>
 #include <array>
@@ -228,7 +227,7 @@ void MSComm::alFallar(QSerialPort::SerialPortError error) {
     if (!desaparecido || perdido_ || !puerto_.isOpen())
         return;
     perdido_ = true;
-    QTimer::singleShot(0, this, &MSComm::cerrarPerdido);
+    QMetaObject::invokeMethod(this, &MSComm::cerrarPerdido, Qt::QueuedConnection);
 }
 
 void MSComm::cerrarPerdido() {

@@ -1,12 +1,13 @@
 Class Cola
   Public alTerminar
-  Public Function Corre(dato)
-    Corre = alTerminar(dato)
-  End Function
+  Public Sub Corre
+    WScript.Echo alTerminar("x")
+  End Sub
 End Class
 Function Grita(s)
   Grita = UCase(s) & "!"
 End Function
 Set c = New Cola
 Set c.alTerminar = GetRef("Grita")
-WScript.Echo c.Corre("x") '> X!
+Set f = c.alTerminar
+WScript.Echo f("a") '> A!

@@ -1,2 +1,0 @@
-Set d = CreateObject("Scripting.Dictionary")
-d.Key("a") = "b" '! 32811

@@ -1,6 +1,0 @@
-Sub Pon(d)
-  d("k") = "puesto"
-End Sub
-Set x = CreateObject("Scripting.Dictionary")
-Pon x
-WScript.Echo x("k") '> puesto

@@ -1,2 +1,0 @@
-Set d = CreateObject("Scripting.Dictionary")
-d.Remove "a" '! 32811

@@ -1,1 +1,0 @@
-On Error GoTo Etiqueta '! 1002

@@ -1,3 +1,0 @@
-If True Then
-  x = 1
-End Sub '! 1012

@@ -1,3 +1,0 @@
-Class C
-  Public x
-'! 1014 @*

@@ -1,2 +1,0 @@
-Function F
-End Sub '! 1015

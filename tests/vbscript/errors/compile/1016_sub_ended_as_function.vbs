@@ -1,2 +1,0 @@
-Sub S
-End Function '! 1016

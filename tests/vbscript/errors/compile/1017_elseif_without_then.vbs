@@ -1,3 +1,0 @@
-If x = 1 Then
-ElseIf x = 2 '! 1017
-End If

@@ -1,2 +1,0 @@
-For Each v In a
-'! 1020 @*

@@ -1,2 +1,0 @@
-Select x '! 1021
-End Select

@@ -1,3 +1,0 @@
-Select Case x
-  Case 1
-End If '! 1022

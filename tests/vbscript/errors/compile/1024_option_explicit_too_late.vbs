@@ -1,2 +1,0 @@
-Dim x
-Option Explicit '! 1024

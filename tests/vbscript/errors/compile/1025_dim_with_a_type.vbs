@@ -1,1 +1,0 @@
-Dim x As Integer '! 1025

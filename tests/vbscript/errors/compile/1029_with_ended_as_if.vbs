@@ -1,2 +1,0 @@
-With o
-End If '! 1029

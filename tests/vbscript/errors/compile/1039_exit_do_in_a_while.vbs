@@ -1,3 +1,0 @@
-While True
-  Exit Do '! 1039
-Wend

@@ -1,3 +1,0 @@
-Sub S
-  Exit Function '! 1039
-End Sub

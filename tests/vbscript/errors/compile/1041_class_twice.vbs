@@ -1,4 +1,0 @@
-Class K
-End Class
-Class K '! 1041
-End Class

@@ -1,2 +1,0 @@
-Dim C
-Const C = 2 '! 1041

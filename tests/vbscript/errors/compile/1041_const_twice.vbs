@@ -1,2 +1,0 @@
-Const C = 1
-Const C = 2 '! 1041

@@ -1,3 +1,0 @@
-Sub S(a)
-  Dim a '! 1041
-End Sub

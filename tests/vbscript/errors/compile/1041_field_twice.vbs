@@ -1,4 +1,0 @@
-Class K
-  Public v
-  Private v '! 1041
-End Class

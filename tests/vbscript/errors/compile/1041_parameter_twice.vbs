@@ -1,2 +1,0 @@
-Sub S(a, b, a) '! 1041
-End Sub

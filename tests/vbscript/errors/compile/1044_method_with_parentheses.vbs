@@ -1,2 +1,0 @@
-Set d = CreateObject("Scripting.Dictionary")
-d.Add("a", 1) '! 1044

@@ -1,1 +1,0 @@
-Const C = Len("abc") '! 1045

@@ -1,2 +1,0 @@
-For Each v Of a '! 1046
-Next

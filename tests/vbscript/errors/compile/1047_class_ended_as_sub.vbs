@@ -1,2 +1,0 @@
-Class K
-End Sub '! 1047

@@ -1,2 +1,0 @@
-Property Get P '! 1048
-End Property

@@ -1,4 +1,0 @@
-Class K
-  Public Property Get P
-  End Sub '! 1050
-End Class

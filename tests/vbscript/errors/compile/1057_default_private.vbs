@@ -1,4 +1,0 @@
-Class K
-  Private Default Function A '! 1057
-  End Function
-End Class

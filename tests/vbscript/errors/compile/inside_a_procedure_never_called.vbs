@@ -1,3 +1,0 @@
-Sub NuncaLlamada
-  x = (1 '! 1006
-End Sub

@@ -1,3 +1,0 @@
-On Error Resume Next
-x = FormatNumber(Null)
-WScript.Echo Err.Number <> 0 '> True

@@ -1,3 +1,0 @@
-'options --comprobar
-WScript.Echo "no sale"
-x = (1 '! 1006

@@ -1,6 +1,0 @@
-Sub Fin
-  WScript.Quit
-End Sub
-WScript.Echo "antes" '> antes
-Fin
-WScript.Echo "nunca"

@@ -1,4 +1,0 @@
-On Error Resume Next
-WScript.Echo "antes" '> antes
-WScript.Quit 0
-WScript.Echo "nunca"

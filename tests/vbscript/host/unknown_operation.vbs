@@ -1,1 +1,0 @@
-mw.noExiste 1 '! 438

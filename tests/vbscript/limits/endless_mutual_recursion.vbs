@@ -1,7 +1,0 @@
-Sub A
-  B '! 28 @*
-End Sub
-Sub B
-  A
-End Sub
-A

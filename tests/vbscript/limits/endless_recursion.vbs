@@ -1,4 +1,0 @@
-Function F(n)
-  F = F(n + 1) '! 28
-End Function
-x = F(0)

@@ -1,6 +1,0 @@
-Sub S
-  S
-End Sub
-On Error Resume Next
-S
-WScript.Echo Err.Number '> 28

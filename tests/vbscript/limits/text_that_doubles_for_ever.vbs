@@ -1,4 +1,0 @@
-s = "x"
-Do
-  s = s & s '! 7
-Loop

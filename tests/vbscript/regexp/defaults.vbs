@@ -1,2 +1,0 @@
-Set r = New RegExp
-WScript.Echo "[" & r.Pattern & "]", r.Global, r.IgnoreCase, r.Multiline '> [] False False False

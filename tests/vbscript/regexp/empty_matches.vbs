@@ -1,4 +1,0 @@
-Set r = New RegExp
-r.Pattern = "x*"
-r.Global = True
-WScript.Echo r.Replace("ab", "-") '> -a-b-

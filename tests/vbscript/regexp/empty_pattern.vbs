@@ -1,3 +1,0 @@
-Set r = New RegExp
-r.Pattern = ""
-WScript.Echo r.Test("abc"), r.Test("") '> True True

@@ -1,3 +1,0 @@
-Set r = New RegExp
-r.Pattern = "a"
-WScript.Echo r.Replace("banana", "o") '> bonana

@@ -1,2 +1,0 @@
-Set r = New RegExp
-r.NoExiste = 1 '! 438
