@@ -1,0 +1,3 @@
+Class K
+  Public Default v '! 1056
+End Class
