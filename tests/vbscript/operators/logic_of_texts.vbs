@@ -1,1 +1,1 @@
-WScript.Echo "5" And 4, "True" And True, Not "0" '> 4 True -1
+WScript.Echo "5" And 4, Not "0" '> 4 -1

@@ -1,3 +1,0 @@
-Class K
-  Public Default v '! 1056
-End Class
