@@ -10,6 +10,7 @@
 #include <QPushButton>
 #include <QSplitter>
 #include <QStackedWidget>
+#include <QStyle>
 #include <QTabBar>
 #include <QTreeWidget>
 #include <QVBoxLayout>
@@ -54,6 +55,10 @@ ControlesPrincipal::ControlesPrincipal(QWidget& ventana, TextoMonitor& escritura
     divisor->setStretchFactor(0, 1);
     divisor->setStretchFactor(1, 0);
     divisor->setChildrenCollapsible(false);
+    // Wide enough at first for both columns of the connection list and for a line of the writes monitor.
+    const int linea = txtEscrituras->fontMetrics().horizontalAdvance(
+        QStringLiteral("00:00:00 Ingreso de Escritura. IP:000.000.000.000"));
+    divisor->setSizes({3 * linea, linea + 3 * ventana.style()->pixelMetric(QStyle::PM_ScrollBarExtent)});
 
     auto* diseno = new QVBoxLayout(&ventana);
     diseno->addWidget(divisor);

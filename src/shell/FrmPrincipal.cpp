@@ -94,6 +94,7 @@ bool FrmPrincipal::cargar() {
     SeRepiteProgramaEnRunTime(std::filesystem::path(arranque_.rutaPrograma).filename().string());
     dejarPasarEventos();
     controles_->ListView1->setHeaderLabels({QStringLiteral("IP"), QStringLiteral("ESTADO")});
+    controles_->ListView1->setColumnWidth(0, fontMetrics().horizontalAdvance(QStringLiteral("  000.000.000.000  ")));
     dejarPasarEventos();
     crearTablasIniciales();
     controles_->TabStrip1->setCurrentIndex(1);
