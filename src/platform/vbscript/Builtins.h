@@ -28,12 +28,17 @@ struct Builtin {
 inline constexpr std::uint8_t anyNumber = 255;
 
 std::span<const Builtin> stringBuiltins();
+std::span<const Builtin> characterBuiltins();
+std::span<const Builtin> searchBuiltins();
 std::span<const Builtin> mathBuiltins();
+std::span<const Builtin> randomBuiltins();
 std::span<const Builtin> convertBuiltins();
 std::span<const Builtin> dateBuiltins();
+std::span<const Builtin> intervalBuiltins();
 std::span<const Builtin> formatBuiltins();
 std::span<const Builtin> arrayBuiltins();
 std::span<const Builtin> infoBuiltins();
+std::span<const Builtin> systemBuiltins();
 
 // All of them, theme after theme.
 std::span<const Builtin> builtins();

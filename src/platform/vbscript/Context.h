@@ -6,7 +6,9 @@
 #include "platform/vbscript/Object.h"
 #include "platform/vbscript/Value.h"
 
+#include <array>
 #include <cstdint>
+#include <string_view>
 
 namespace vbs {
 
@@ -33,6 +35,18 @@ public:
         m_locale = found;
     }
 
+    // The text of one character. Those below 256 are made once and shared, so cutting texts up allocates nothing.
+    Value character(char16_t unit) {
+        if (unit >= m_characters.size()) {
+            return Value::ofString(std::u16string_view(&unit, 1));
+        }
+        Value& made = m_characters[unit];
+        if (made.isEmpty()) {
+            made = Value::ofString(std::u16string_view(&unit, 1));
+        }
+        return made;
+    }
+
     // State of Rnd: the 24 bits of the documented linear congruential sequence.
     std::uint32_t random = 0x50000;
 
@@ -52,6 +66,7 @@ public:
 
 private:
     const Locale* m_locale;
+    std::array<Value, 256> m_characters;
 };
 
 } // namespace vbs

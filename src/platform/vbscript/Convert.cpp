@@ -147,10 +147,14 @@ std::int64_t toCurrency(Context& context, const Value& value) {
     return currencyFromDouble(toDouble(context, v));
 }
 
+std::optional<double> textAsDate(Context& context, std::u16string_view text) {
+    return parseDate(text, context.locale(), context.host.now().year);
+}
+
 double toDate(Context& context, const Value& value) {
     const Value& v = value.deref();
     if (v.isString()) {
-        auto date = parseDate(v.text(), context.locale());
+        auto date = textAsDate(context, v.text());
         if (!date) {
             date = parseNumber(v.text(), context.locale());
         }

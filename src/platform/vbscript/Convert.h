@@ -40,4 +40,7 @@ String wholeText(std::int64_t n);
 // Text as number: blanks around it, thousands signs, exponent, &H and &O, currency sign and brackets are understood.
 std::optional<double> parseNumber(std::u16string_view text, const Locale& locale);
 
+// Text as date in the locale and the year in force.
+std::optional<double> textAsDate(Context& context, std::u16string_view text);
+
 } // namespace vbs

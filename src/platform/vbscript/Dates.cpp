@@ -97,6 +97,18 @@ double dateFrom(const LocalTime& t) {
     return joinDate(dateSerial(t.year, t.month, t.day), timeSerial(t.hour, t.minute, t.second));
 }
 
+double secondsSinceMidnight(const LocalTime& t) noexcept {
+    return t.hour * 3600 + t.minute * 60 + t.second + t.millisecond / 1000.0;
+}
+
+int fullYear(int year) noexcept {
+    return year < 0 || year > 99 ? year : year < 30 ? year + 2000 : year + 1900;
+}
+
+int weekdayFrom(int weekday, int firstDay) noexcept {
+    return (weekday - firstDay + 7) % 7 + 1;
+}
+
 bool isLeapYear(int year) noexcept {
     return year % 4 == 0 && (year % 100 != 0 || year % 400 == 0);
 }

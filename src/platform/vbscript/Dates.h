@@ -34,11 +34,17 @@ double daysOf(double date) noexcept;
 double timeOf(double date) noexcept;
 
 double dateFrom(const LocalTime& time);
+double secondsSinceMidnight(const LocalTime& time) noexcept; // with the milliseconds as fraction
+// 0 to 29 is 2000 to 2029, 30 to 99 is 1930 to 1999, anything else the year itself.
+int fullYear(int year) noexcept;
+// Place of a weekday (1 is Sunday) in a week that begins on `firstDay`: 1 to 7.
+int weekdayFrom(int weekday, int firstDay) noexcept;
 bool isLeapYear(int year) noexcept;
 int daysInMonth(int year, int month) noexcept;
 
-// Text as date: numbers in the locale's order, month names, times with AM/PM. Two-digit years: 0-29 is 2000-2029.
-std::optional<double> parseDate(std::u16string_view text, const Locale& locale);
+// Text as date: numbers in the locale's order, month names, times with AM/PM. Two-digit years go through fullYear();
+// a day and a month alone lie in `thisYear` (0: they are no date).
+std::optional<double> parseDate(std::u16string_view text, const Locale& locale, int thisYear = 0);
 
 // Short date, a blank and long time; only the date when the time is midnight, only the time on day 0.
 String dateText(double date, const Locale& locale);

@@ -1,0 +1,81 @@
+// How intrinsic functions read their arguments: texts without a copy where the argument is one already, whole numbers
+// on a short road, and the arguments that many functions have in common (kind of comparison, first day of the week).
+#pragma once
+
+#include "platform/vbscript/Builtins.h"
+
+#include <string_view>
+
+namespace vbs {
+
+// An argument as text. A text is looked at in place; anything else is converted once. Must not outlive the argument.
+class TextArgument {
+public:
+    TextArgument(Context& context, const Value& v) {
+        if (v.isString()) {
+            m_view = v.text();
+        } else {
+            m_converted = toString(context, v);
+            m_view = m_converted.view();
+        }
+    }
+    TextArgument(const TextArgument&) = delete;
+    TextArgument& operator=(const TextArgument&) = delete;
+
+    std::u16string_view view() const noexcept { return m_view; }
+    std::size_t size() const noexcept { return m_view.size(); }
+
+private:
+    String m_converted;
+    std::u16string_view m_view;
+};
+
+inline std::int32_t longArgument(Context& context, const Value& v) {
+    return v.isWhole() ? static_cast<std::int32_t>(v.n) : toLong(context, v);
+}
+
+// The argument at `i`, or `otherwise` if it was left out.
+inline std::int32_t longArgument(Context& context, Arguments arguments, std::size_t i, std::int32_t otherwise) {
+    const Value* v = optional(arguments, i);
+    return v != nullptr ? longArgument(context, *v) : otherwise;
+}
+
+inline bool booleanArgument(Context& context, Arguments arguments, std::size_t i, bool otherwise) {
+    const Value* v = optional(arguments, i);
+    return v != nullptr ? toBoolean(context, *v) : otherwise;
+}
+
+// A length or count: not negative, else error 5.
+inline std::size_t countArgument(Context& context, const Value& v) {
+    const std::int32_t count = longArgument(context, v);
+    if (count < 0) {
+        raise(ErrorNumber::InvalidCall);
+    }
+    return static_cast<std::size_t>(count);
+}
+
+enum class TextComparison : bool { Binary, Text };
+
+// vbBinaryCompare (also when left out) or vbTextCompare; anything else raises 5.
+inline TextComparison comparisonArgument(Context& context, Arguments arguments, std::size_t i) {
+    const std::int32_t kind = longArgument(context, arguments, i, 0);
+    if (kind != 0 && kind != 1) {
+        raise(ErrorNumber::InvalidCall);
+    }
+    return kind == 1 ? TextComparison::Text : TextComparison::Binary;
+}
+
+// 1 (Sunday, also when left out) to 7; 0 stands for the locale's own. Anything else raises 5.
+inline int firstDayArgument(Context& context, Arguments arguments, std::size_t i) {
+    const std::int32_t day = longArgument(context, arguments, i, 1);
+    if (day < 0 || day > 7) {
+        raise(ErrorNumber::InvalidCall);
+    }
+    return day == 0 ? context.locale().firstDayOfWeek : day;
+}
+
+// Place of `needle` at or after `from`, or npos. An empty needle is found at `from`.
+std::size_t findText(std::u16string_view text, std::u16string_view needle, std::size_t from,
+                     TextComparison comparison) noexcept;
+
+} // namespace vbs
