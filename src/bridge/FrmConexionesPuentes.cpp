@@ -59,6 +59,7 @@ FrmConexionesPuentes::FrmConexionesPuentes(QWidget& principal, Reactor& reactor,
     diseno->addWidget(crearBotones());
     resize(860, 520);
 
+    timerVerificarEstado_.setObjectName(QStringLiteral("timerVerificarEstado"));
     connect(&timerVerificarEstado_, &QTimer::timeout, this, [this] { puente_.verificarEstado(); });
     timerVerificarEstado_.start(periodoVerificacion);
 }
@@ -165,12 +166,12 @@ void FrmConexionesPuentes::colorear(Lado lado, ColorPuerto color) {
 }
 
 // The operator sees the red node; whoever reads stderr learns why, once for each cause.
-void FrmConexionesPuentes::puertoRechazado(double puerto, const std::error_code& fallo) {
-    const std::size_t i = puerto == puente_.puerto(Lado::uno) ? 0 : 1;
+void FrmConexionesPuentes::puertoRechazado(Lado lado, const std::error_code& fallo) {
+    const auto i = static_cast<std::size_t>(lado);
     if (ultimoFallo_[i] == fallo)
         return;
     ultimoFallo_[i] = fallo;
-    std::fprintf(stderr, "esclavo-modbus: puente: no se puede abrir el puerto %.0f: %s\n", puerto,
+    std::fprintf(stderr, "esclavo-modbus: puente: no se puede abrir el puerto %.0f: %s\n", puente_.puerto(lado),
                  fallo == std::errc::address_in_use      ? "está ocupado por otro programa"
                  : fallo == std::errc::permission_denied ? "sin permiso para puertos menores que 1024"
                                                          : fallo.message().c_str());

@@ -34,7 +34,7 @@ private:
     bool stop() const override;
     void mostrar(Lado lado, std::string_view texto) override;
     void colorear(Lado lado, ColorPuerto color) override;
-    void puertoRechazado(double puerto, const std::error_code& fallo) override;
+    void puertoRechazado(Lado lado, const std::error_code& fallo) override;
     void dejarPasarEventos() override;
 
     void crearArbol();
@@ -51,5 +51,5 @@ private:
     QCheckBox* chStop_;
     std::array<std::error_code, 2> ultimoFallo_;
     Puente puente_;
-    QTimer timerVerificarEstado_;
+    QTimer timerVerificarEstado_{this};
 };

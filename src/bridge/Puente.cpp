@@ -2,8 +2,6 @@
 
 #include "bridge/TextoBloque.h"
 
-#include <algorithm>
-
 Puente::Extremo::Extremo(Reactor& reactor, WinsockEvents& eventos, double puertoLocal)
     : puerto(puertoLocal), socket(reactor, eventos) {
     socket.LocalPort(static_cast<std::uint16_t>(puertoLocal));
@@ -38,14 +36,14 @@ void Puente::verificarLado(Lado lado) {
     if (socket(lado).State() != leido)
         return;
     ventana_.colorear(lado, ColorPuerto::rojo);
-    ponerAEscuchar(socket(lado), puerto(lado));
+    ponerAEscuchar(lado);
 }
 
-void Puente::ponerAEscuchar(Winsock& socket, double puerto) {
-    socket.Close();
-    socket.LocalPort(static_cast<std::uint16_t>(puerto));
-    if (const std::error_code fallo = socket.Listen())
-        ventana_.puertoRechazado(puerto, fallo);
+void Puente::ponerAEscuchar(Lado lado) {
+    socket(lado).Close();
+    socket(lado).LocalPort(static_cast<std::uint16_t>(puerto(lado)));
+    if (const std::error_code fallo = socket(lado).Listen())
+        ventana_.puertoRechazado(lado, fallo);
 }
 
 void Puente::onConnectionRequest(Winsock& socket, std::uint32_t requestId) {
@@ -84,24 +82,21 @@ void Puente::contener() {
     socket(Lado::dos).pauseReading(lento1);
 }
 
-// Events are let pass while the text is built, so that a large block does not hold the window; it has been relayed by
-// then, but the texts of two blocks may interleave.
+// Pending events run when the block is shown and not between its bytes: building the text of the largest block takes
+// a fraction of a millisecond, and so the texts of two blocks never interleave.
 void Puente::mostrarBloque(Lado lado, std::span<const std::uint8_t> bloque) {
     const bool hexadecimal = ventana_.modbus();
     if (hexadecimal && lado == Lado::uno)
         primerByteModbus_ = bloque.front();
     if (ventana_.stop())
         return;
-    constexpr std::size_t porTrozo = 256; // bytes between two looks at the pending events
     std::string texto;
-    for (std::size_t i = 0; i < bloque.size(); i += porTrozo) {
-        const auto trozo = bloque.subspan(i, std::min(porTrozo, bloque.size() - i));
-        (hexadecimal ? agregarHexadecimal : agregarCaracteres)(texto, trozo);
-        ventana_.dejarPasarEventos();
-    }
-    if (ventana_.stop())
-        return;
-    if (hexadecimal)
+    if (hexadecimal) {
+        agregarHexadecimal(texto, bloque);
         texto.append("\r\n");
+    } else {
+        agregarCaracteres(texto, bloque);
+    }
     ventana_.mostrar(lado, texto);
+    ventana_.dejarPasarEventos();
 }

@@ -31,7 +31,7 @@ public:
     virtual void mostrar(Lado lado, std::string_view texto) = 0;
     virtual void colorear(Lado lado, ColorPuerto color) = 0;
     // The port could not be opened. Told at every failed attempt.
-    virtual void puertoRechazado(double puerto, const std::error_code& fallo) = 0;
+    virtual void puertoRechazado(Lado lado, const std::error_code& fallo) = 0;
     virtual void dejarPasarEventos() = 0;
 
 protected:
@@ -77,7 +77,7 @@ private:
     void onSendComplete(Winsock& socket) override;
 
     void verificarLado(Lado lado);
-    void ponerAEscuchar(Winsock& socket, double puerto);
+    void ponerAEscuchar(Lado lado);
     void enviar(Lado lado, std::span<const std::uint8_t> bloque);
     void contener();
     void mostrarBloque(Lado lado, std::span<const std::uint8_t> bloque);

@@ -142,6 +142,9 @@ void ControlesPrincipal::grupoScript(QVBoxLayout& columna, QWidget* padre) {
     fila->addWidget(BtnEdicionCodigo);
     fila->addWidget(lblBaseDeTiempo, 1);
 
+    // Until there is a script runner behind them.
+    chScript->setEnabled(false);
+    BtnEdicionCodigo->setEnabled(false);
     columna.addWidget(titulo(padre, "Label2", QStringLiteral("Codigo Script")));
     columna.addLayout(fila);
 }
@@ -155,6 +158,7 @@ void ControlesPrincipal::grupoBotones(QVBoxLayout& columna, QWidget* padre) {
                      QStringLiteral("Muestra el puente entre los puertos 500 y 501"));
     btnVerFormularioRS232 =
         boton(padre, "btnVerFormularioRS232", QStringLiteral("RS232"), QStringLiteral("Muestra el puerto serie"));
+    btnVerFormularioRS232->setEnabled(false); // until there is a window behind it
     Command1 = boton(padre, "Command1", QStringLiteral("About"), QStringLiteral("Acerca de este programa"));
     BtnOcultar = boton(padre, "BtnOcultar", QStringLiteral("Ocultar"),
                        QStringLiteral("Oculta esta ventana; el esclavo sigue respondiendo"));

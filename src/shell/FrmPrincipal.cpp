@@ -1,5 +1,6 @@
 #include "shell/FrmPrincipal.h"
 
+#include "bridge/FrmConexionesPuentes.h"
 #include "modbus/VistaMonitor.h"
 #include "platform/window/MsgBox.h"
 #include "registers/FrmMW.h"
@@ -24,12 +25,14 @@
 #include <QTreeWidget>
 
 #include <chrono>
+#include <cmath>
 #include <cstdio>
 #include <filesystem>
 
 namespace {
 
 constexpr std::chrono::milliseconds periodoCambioPuerto{5000};
+constexpr std::chrono::milliseconds periodoAux{1000};
 constexpr int tablasIniciales = 12;
 constexpr double ultimoRegistroInicial = 499;
 
@@ -37,6 +40,12 @@ void colorear(QWidget& control, const QColor& color) {
     QPalette paleta = control.palette();
     paleta.setColor(QPalette::WindowText, color);
     control.setPalette(paleta);
+}
+
+void mostrarDelante(QWidget& ventana) {
+    ventana.show();
+    ventana.raise();
+    ventana.activateWindow();
 }
 
 } // namespace
@@ -47,6 +56,10 @@ FrmPrincipal::FrmPrincipal(Modulo_Config& config, Arranque arranque)
     setObjectName(QStringLiteral("FrmPrincipal"));
     setWindowTitle(QStringLiteral("Trelvano"));
     resize(1180, 760);
+    TimerCambioPuerto_.setObjectName(QStringLiteral("TimerCambioPuerto"));
+    TimerCambioPuerto_.setInterval(periodoCambioPuerto);
+    timerAux_.setObjectName(QStringLiteral("timerAux"));
+    timerAux_.setInterval(periodoAux);
     conectarControles();
     conectarTeclado();
     esclavos_.observar(this);
@@ -66,12 +79,8 @@ void FrmPrincipal::conectarControles() {
     connect(c.BtnBorrar, &QPushButton::clicked, this, [this] { monitores_.borrarEscrituras(); });
     connect(c.BtnOcultar, &QPushButton::clicked, this, &FrmPrincipal::ocultar);
     connect(c.BtnCerrar, &QPushButton::clicked, this, &FrmPrincipal::apagar);
-    connect(c.Command1, &QPushButton::clicked, this, [this] {
-        if (!frmAbout_)
-            frmAbout_ = new FrmAbout(*this);
-        frmAbout_->show();
-        frmAbout_->raise();
-    });
+    connect(c.Command1, &QPushButton::clicked, this, &FrmPrincipal::mostrarAbout);
+    connect(c.Command2, &QPushButton::clicked, this, &FrmPrincipal::mostrarPuentes);
     connect(&TimerCambioPuerto_, &QTimer::timeout, this, &FrmPrincipal::comprobarPuertoYVisibilidad);
 
     auto* avisador = new QSocketNotifier(reactor_.descriptor(), QSocketNotifier::Read, this);
@@ -88,10 +97,13 @@ void FrmPrincipal::conectarTeclado() {
 bool FrmPrincipal::cargar() {
     ponerAyudaContextual(*this);
     hide();
-    if (arranque_.instanciaPrevia)
-        return rechazarSegundaInstancia();
+    if (arranque_.instanciaPrevia) {
+        rechazarSegundaInstancia();
+        return false;
+    }
     // The result is of no use: the single-instance rule rests on the previous instance alone.
     SeRepiteProgramaEnRunTime(std::filesystem::path(arranque_.rutaPrograma).filename().string());
+    prepararScript();
     dejarPasarEventos();
     controles_->ListView1->setHeaderLabels({QStringLiteral("IP"), QStringLiteral("ESTADO")});
     controles_->ListView1->setColumnWidth(0, fontMetrics().horizontalAdvance(QStringLiteral("  000.000.000.000  ")));
@@ -101,16 +113,26 @@ bool FrmPrincipal::cargar() {
     for (int vez = 0; vez < 5; ++vez)
         dejarPasarEventos();
     comprobarPuertoYVisibilidad();
-    TimerCambioPuerto_.start(periodoCambioPuerto);
+    TimerCambioPuerto_.start();
     atenderLineaDeComandos();
-    return true;
+    cargarPuentes();
+    return !apagada_;
 }
 
-bool FrmPrincipal::rechazarSegundaInstancia() {
-    MsgBox(nullptr, QStringLiteral("Programa en ejecucion"), vbCritical + vbSystemModal,
-           QStringLiteral("Esclavo Modbus"));
-    config_.escribirConfiguracion("VER", "1");
-    return false;
+void FrmPrincipal::rechazarSegundaInstancia() {
+    const QString mensaje = QStringLiteral("Programa en ejecucion");
+    // Where nobody can close a message box, waiting for it would never end.
+    if (arranque_.sinPantalla)
+        std::fprintf(stderr, "esclavo-modbus: %s\n", qUtf8Printable(mensaje));
+    else
+        MsgBox(nullptr, mensaje, vbCritical + vbSystemModal, QStringLiteral("Esclavo Modbus"));
+    if (!apagada_)
+        config_.escribirConfiguracion("VER", "1");
+}
+
+void FrmPrincipal::prepararScript() {
+    const double ejecutar = std::nearbyint(config_.leerNumero("Codigo_Ejecutar", "0").value_or(0));
+    controles_->chScript->setChecked(ejecutar == 1);
 }
 
 void FrmPrincipal::crearTablasIniciales() {
@@ -123,6 +145,22 @@ void FrmPrincipal::atenderLineaDeComandos() {
         return;
     config_.escribirConfiguracion("ver", "1");
     show();
+}
+
+void FrmPrincipal::cargarPuentes() {
+    if (!frmPuentes_)
+        frmPuentes_ = new FrmConexionesPuentes(*this, reactor_, eventos_);
+}
+
+void FrmPrincipal::mostrarPuentes() {
+    cargarPuentes();
+    mostrarDelante(*frmPuentes_);
+}
+
+void FrmPrincipal::mostrarAbout() {
+    if (!frmAbout_)
+        frmAbout_ = new FrmAbout(*this);
+    mostrarDelante(*frmAbout_);
 }
 
 void FrmPrincipal::comprobarPuertoYVisibilidad() {
@@ -149,8 +187,12 @@ void FrmPrincipal::closeEvent(QCloseEvent* evento) {
 }
 
 void FrmPrincipal::apagar() {
+    apagada_ = true;
     TimerCambioPuerto_.stop();
-    delete frmMW_;
+    // Hidden, not deleted: a message box of theirs may still be on the stack. They end with this window.
+    if (frmMW_)
+        frmMW_->hide();
+    hide();
     QCoreApplication::exit(0);
 }
 
@@ -160,6 +202,7 @@ void FrmPrincipal::esclavoCreado(Pagina& pagina) {
     auto* vista = new VistaPagina(esclavos_, pagina, tramas, controles_->paginas);
     connect(vista, &VistaPagina::celdaActivada, this, &FrmPrincipal::abrirFrmMW);
     vistas_[numero] = vista;
+    ponerAyudaContextual(*vista);
     controles_->paginas->addWidget(vista);
     const int pestana = controles_->TabStrip1->addTab(QStringLiteral("#%1").arg(numero));
     controles_->TabStrip1->setTabData(pestana, QStringLiteral("T%1").arg(numero));

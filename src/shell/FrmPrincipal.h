@@ -21,6 +21,7 @@
 #include <string>
 
 class FrmAbout;
+class FrmConexionesPuentes;
 class FrmMW;
 class FrmTxRx;
 class Modulo_Config;
@@ -32,6 +33,7 @@ struct Arranque {
     std::string rutaPrograma;     // the executable's real path
     QString lineaDeComandos;      // the arguments as one text
     bool instanciaPrevia = false; // another copy of the same executable is running
+    bool sinPantalla = false;     // nobody sees the windows
 };
 
 class FrmPrincipal final : public QWidget, private ObservadorEsclavos, private EntornoEscucha {
@@ -42,11 +44,12 @@ public:
     FrmPrincipal(Modulo_Config& config, Arranque arranque);
     ~FrmPrincipal() override;
 
-    // The load step: brings everything up in the documented order. False when a previous instance is running: the
-    // message has been shown, that instance has been asked to show itself, and this one is to end.
+    // The load step: brings everything up in the documented order. False when the program is to end at once: it was
+    // told to meanwhile, or a previous instance is running (which then has been asked to show itself).
     bool cargar();
 
-    // Ends the program as "Cerrar Esclavo" does: unloads the windows, then leaves the event loop.
+    // Ends the program as "Cerrar Esclavo" does: unloads the windows, then leaves every event loop, that of an open
+    // message box too.
     void apagar();
 
     const Esclavos& esclavos() const { return esclavos_; }
@@ -71,11 +74,15 @@ private:
 
     void conectarControles();
     void conectarTeclado();
-    bool rechazarSegundaInstancia();
+    void rechazarSegundaInstancia();
+    void prepararScript();
     void crearTablasIniciales();
     void comprobarPuertoYVisibilidad();
     void aplicarVisibilidad();
     void atenderLineaDeComandos();
+    void cargarPuentes();
+    void mostrarPuentes();
+    void mostrarAbout();
     void seleccionarPestana(int indice);
     void cambiarEsclavo(int paso);
     void abrirFrmMW(int esclavo, int direccion, const QString& texto);
@@ -97,5 +104,8 @@ private:
     QPointer<FrmAbout> frmAbout_;
     QPointer<FrmTxRx> frmTxRx_;
     QPointer<FrmMW> frmMW_;
-    QTimer TimerCambioPuerto_;
+    QPointer<FrmConexionesPuentes> frmPuentes_;
+    QTimer TimerCambioPuerto_{this};
+    QTimer timerAux_{this}; // the script runner's auxiliary tick; nothing starts it
+    bool apagada_ = false;
 };

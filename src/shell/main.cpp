@@ -17,13 +17,14 @@
 
 namespace {
 
-// Without a screen the station serves all the same.
-void elegirPlataforma() {
+// Without a screen the station serves all the same. Returns whether there is none.
+bool elegirPlataforma() {
     if (qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY") ||
         qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
-        return;
+        return false;
     std::fputs("esclavo-modbus: no hay pantalla; la estación atiende sin ventana.\n", stderr);
     qputenv("QT_QPA_PLATFORM", "offscreen");
+    return true;
 }
 
 // Every master takes a descriptor: use all that the system grants.
@@ -47,7 +48,7 @@ QIcon iconoPrograma() {
 int main(int argc, char** argv) {
     std::signal(SIGPIPE, SIG_IGN);
     ampliarDescriptores();
-    elegirPlataforma();
+    const bool sinPantalla = elegirPlataforma();
 
     QApplication aplicacion(argc, argv);
     QApplication::setApplicationName(QStringLiteral("esclavo-modbus"));
@@ -61,7 +62,8 @@ int main(int argc, char** argv) {
     Modulo_Config config(carpetaPrograma());
     FrmPrincipal principal(config, Arranque{.rutaPrograma = ruta.string(),
                                             .lineaDeComandos = QApplication::arguments().mid(1).join(QLatin1Char(' ')),
-                                            .instanciaPrevia = instancia.hayOtra()});
+                                            .instanciaPrevia = instancia.hayOtra(),
+                                            .sinPantalla = sinPantalla});
     const SenalesTermino senales([&principal] { principal.apagar(); });
     return principal.cargar() ? QApplication::exec() : 0;
 }
