@@ -53,8 +53,13 @@ Value setLocale(Context& context, Arguments arguments) {
     return Value::ofLong(before);
 }
 
+// CreateObject(program identifier[, server]): an identifier has a dot; names without one are classes for New.
 Value createObjectNamed(Context& context, Arguments arguments) {
-    return createObject(context, TextArgument(context, arguments[0]).view());
+    const TextArgument name(context, arguments[0]);
+    if (name.view().find(u'.') == std::u16string_view::npos) {
+        raise(ErrorNumber::CannotCreateObject);
+    }
+    return createObject(context, name.view());
 }
 
 // No object of another program can be reached from here.

@@ -3,7 +3,6 @@
 #include "platform/vbscript/ArrayEnumerator.h"
 #include "platform/vbscript/Context.h"
 #include "platform/vbscript/Convert.h"
-#include "platform/vbscript/Memory.h"
 
 namespace vbs {
 
@@ -21,12 +20,10 @@ Value wholeOrElement(Context& context, Value list, Arguments arguments) {
 } // namespace
 
 Dictionary::Dictionary(Context& context) : m_context(&context) {
-    chargeMemory(sizeof *this);
     context.adopt(*this);
 }
 
 Dictionary::~Dictionary() {
-    releaseMemory(sizeof *this);
     if (m_context != nullptr) {
         m_context->abandon(*this);
     }

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "platform/vbscript/KeyedTable.h"
+#include "platform/vbscript/Memory.h"
 #include "platform/vbscript/Object.h"
 
 namespace vbs {
@@ -32,6 +33,7 @@ private:
     // The keys or the items as an array.
     Value list(Value KeyedTable::Entry::*part) const;
 
+    MemoryCharge m_charge{sizeof(Dictionary)};
     Context* m_context; // null once the engine has gone
     KeyedTable m_table;
     std::int32_t m_compareMode = 0;

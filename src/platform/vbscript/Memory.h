@@ -21,4 +21,16 @@ MemoryMeter& memoryMeter() noexcept;
 void chargeMemory(std::size_t bytes);
 void releaseMemory(std::size_t bytes) noexcept;
 
+// Charges bytes for as long as it lives; a member of objects that scripts can make in any number.
+class MemoryCharge {
+public:
+    explicit MemoryCharge(std::size_t bytes) : m_bytes(bytes) { chargeMemory(bytes); }
+    ~MemoryCharge() { releaseMemory(m_bytes); }
+    MemoryCharge(const MemoryCharge&) = delete;
+    MemoryCharge& operator=(const MemoryCharge&) = delete;
+
+private:
+    std::size_t m_bytes;
+};
+
 } // namespace vbs
