@@ -24,6 +24,7 @@ constexpr const char* errorDeDireccion = "Error de numero de Direccion";
 constexpr const char* errorDeValor = "Error de valor numerico";
 constexpr const char* fueraDeRango = "Valor fuera de rango, se admiten valores entre -32768 y 65535";
 
+constexpr int entreCuartetos = 8; // pixels between groups of four bits
 constexpr std::int16_t retroceso = 8;
 constexpr std::int16_t teclaIgnorada = 16;
 
@@ -49,6 +50,7 @@ FrmMW::FrmMW(Esclavos& esclavos, QWidget* padre)
     setWindowTitle(QStringLiteral("Escribir MW"));
 
     auto* campos = new QFormLayout;
+    campos->setFieldGrowthPolicy(QFormLayout::FieldsStayAtSizeHint);
     campos->addRow(QStringLiteral("&PLC:"), TxtPlc_);
     campos->addRow(QStringLiteral("&Dirección:"), TxtDireccion_);
     campos->addRow(QStringLiteral("&Valor:"), TxtValor_);
@@ -104,6 +106,8 @@ QWidget* FrmMW::crearBits() {
         casilla->setAccessibleName(QStringLiteral("Bit %1").arg(i));
         connect(casilla, &QCheckBox::clicked, this, [this, i] { clicEnBit(i); });
         caja->addWidget(casilla);
+        if (i > 0 && i % 4 == 0)
+            caja->addSpacing(entreCuartetos);
         CheckBin_[static_cast<std::size_t>(i)] = casilla;
     }
     return fila;

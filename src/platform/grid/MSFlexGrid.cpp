@@ -65,8 +65,6 @@ MSFlexGrid::MSFlexGrid(const FuenteCuadricula& fuente, QWidget* padre)
     esquina_->setAccessibleName(fuente_.texto(0, 0));
     esquina_->setToolTip(QStringLiteral("Seleccionar todo"));
     medir();
-    connect(this, &QTableView::doubleClicked, this,
-            [this](const QModelIndex& celda) { Q_EMIT celdaActivada(celda.row() + 1, celda.column() + 1); });
     connect(horizontalHeader(), &QHeaderView::sectionResized, this, [this] { anchosPropios_ |= !repartiendo_; });
 }
 
@@ -130,6 +128,13 @@ void MSFlexGrid::keyPressEvent(QKeyEvent* evento) {
     }
 }
 
+void MSFlexGrid::mouseDoubleClickEvent(QMouseEvent* evento) {
+    QTableView::mouseDoubleClickEvent(evento);
+    const QModelIndex celda = indexAt(evento->position().toPoint());
+    if (evento->button() == Qt::LeftButton && celda.isValid())
+        Q_EMIT celdaActivada(celda.row() + 1, celda.column() + 1);
+}
+
 void MSFlexGrid::contextMenuEvent(QContextMenuEvent* evento) {
     auto* menu = new QMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
@@ -164,6 +169,7 @@ void MSFlexGrid::medir() {
     horizontalHeader()->setFixedHeight(titulo.height() + 2 * margen);
     horizontalHeader()->setMinimumSectionSize(letra.horizontalAdvance(QStringLiteral("65535")) + 2 * margen);
     repartirColumnas();
+    updateGeometries();
 }
 
 // The columns share the width of the view until the operator sets one himself.

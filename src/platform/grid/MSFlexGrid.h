@@ -51,6 +51,7 @@ Q_SIGNALS:
 
 protected:
     void keyPressEvent(QKeyEvent* evento) override;
+    void mouseDoubleClickEvent(QMouseEvent* evento) override;
     void contextMenuEvent(QContextMenuEvent* evento) override;
     void changeEvent(QEvent* evento) override;
     void resizeEvent(QResizeEvent* evento) override;

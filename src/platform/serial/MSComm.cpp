@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QTimer>
 
 #include <algorithm>
 #include <array>
@@ -227,7 +228,7 @@ void MSComm::alFallar(QSerialPort::SerialPortError error) {
     if (!desaparecido || perdido_ || !puerto_.isOpen())
         return;
     perdido_ = true;
-    QMetaObject::invokeMethod(this, &MSComm::cerrarPerdido, Qt::QueuedConnection);
+    QTimer::singleShot(0, this, &MSComm::cerrarPerdido);
 }
 
 void MSComm::cerrarPerdido() {

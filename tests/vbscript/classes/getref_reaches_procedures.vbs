@@ -1,13 +1,12 @@
 Class Cola
   Public alTerminar
-  Public Sub Corre
-    WScript.Echo alTerminar("x")
-  End Sub
+  Public Function Corre(dato)
+    Corre = alTerminar(dato)
+  End Function
 End Class
 Function Grita(s)
   Grita = UCase(s) & "!"
 End Function
 Set c = New Cola
 Set c.alTerminar = GetRef("Grita")
-Set f = c.alTerminar
-WScript.Echo f("a") '> A!
+WScript.Echo c.Corre("x") '> X!

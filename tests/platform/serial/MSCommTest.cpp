@@ -353,4 +353,4 @@ private Q_SLOTS:
 };
 
 QTEST_GUILESS_MAIN(TestMSComm)
-#include "test_mscomm.moc"
+#include "MSCommTest.moc"

@@ -164,4 +164,4 @@ private Q_SLOTS:
 };
 
 QTEST_MAIN(TestVistaTexto)
-#include "test_vista_texto.moc"
+#include "VistaTextoTest.moc"

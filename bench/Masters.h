@@ -1,0 +1,43 @@
+#pragma once
+
+#include "platform/net/Descriptor.h"
+
+#include <array>
+#include <chrono>
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+/// A port of the loopback that nobody uses.
+std::uint16_t freePort();
+/// Whether somebody accepts connections on that port of the loopback.
+bool accepts(std::uint16_t port);
+
+/// Modbus TCP masters in closed loop, all in the calling thread: each sends a read request of ten registers (unit 1,
+/// address 0) and the next one when its answer has come.
+class Masters {
+public:
+    /// Connects; throws std::runtime_error when a connection is refused.
+    Masters(std::uint16_t port, std::size_t count);
+
+    std::size_t count() const { return masters_.size(); }
+    /// Runs for that long and until the last answer has come, and returns how many requests were answered. Adds the
+    /// latency of each to latencies(). Throws std::runtime_error on a wrong answer or one that takes five seconds.
+    std::size_t run(std::chrono::nanoseconds duration);
+    const std::vector<std::chrono::nanoseconds>& latencies() const { return latencies_; }
+
+private:
+    using Clock = std::chrono::steady_clock;
+    struct Master {
+        Descriptor connection;
+        Clock::time_point sent;
+        std::uint16_t transaction = 0;
+    };
+
+    static void ask(Master& master);
+    void takeAnswer(Master& master);
+
+    Descriptor epoll_;
+    std::vector<Master> masters_;
+    std::vector<std::chrono::nanoseconds> latencies_;
+};

@@ -1,0 +1,246 @@
+#include "platform/grid/MSFlexGrid.h"
+#include "registers/VistaPagina.h"
+
+#include <QCheckBox>
+#include <QElapsedTimer>
+#include <QGroupBox>
+#include <QHeaderView>
+#include <QLocale>
+#include <QPlainTextEdit>
+#include <QSignalSpy>
+#include <QTest>
+
+#include <memory>
+
+class TestVistaPagina : public QObject {
+    Q_OBJECT
+
+private:
+    std::unique_ptr<Esclavos> esclavos_;
+    std::unique_ptr<VistaPagina> vista_;
+    int pinturas_ = 0;
+
+    Pagina& pagina() { return *esclavos_->pagina(2); }
+
+    template <typename Control>
+    Control* control(const char* nombre) {
+        return vista_->findChild<Control*>(QStringLiteral("%1(2)").arg(QLatin1String(nombre)));
+    }
+    MSFlexGrid& grid() { return *control<MSFlexGrid>("MSFlexGrid"); }
+    QString celda(int fila, int columna) { return grid().TextMatrix(fila, columna); }
+    QString sugerencia(int direccion) {
+        return grid().model()->index(direccion / 10, direccion % 10).data(Qt::ToolTipRole).toString();
+    }
+
+    void pulsar(const char* nombre) {
+        auto* casilla = control<QCheckBox>(nombre);
+        QTest::mouseClick(casilla, Qt::LeftButton, {}, QPoint(8, casilla->height() / 2));
+    }
+
+    bool eventFilter(QObject* objeto, QEvent* evento) override {
+        pinturas_ += evento->type() == QEvent::Paint ? 1 : 0;
+        return QObject::eventFilter(objeto, evento);
+    }
+
+private Q_SLOTS:
+    void init() {
+        QLocale::setDefault(QLocale::c());
+        vista_.reset();
+        esclavos_ = std::make_unique<Esclavos>();
+        esclavos_->crearEsclavo(2, 0, 99);
+        vista_ = std::make_unique<VistaPagina>(*esclavos_, pagina(), new QPlainTextEdit);
+        vista_->resize(800, 600);
+        vista_->show();
+        QVERIFY(QTest::qWaitForWindowExposed(vista_.get()));
+        pinturas_ = 0;
+        grid().viewport()->installEventFilter(this);
+    }
+
+    void theSevenControlsBearTheirNames() {
+        QVERIFY(control<MSFlexGrid>("MSFlexGrid") != nullptr);
+        QVERIFY(control<QPlainTextEdit>("txtTramas") != nullptr);
+        QCOMPARE(control<QGroupBox>("FrameControles")->title(), QStringLiteral("Controles de #2"));
+        QCOMPARE(control<QCheckBox>("ChRecibir")->text(), QStringLiteral("Recibir Lecturas"));
+        QCOMPARE(control<QCheckBox>("ChResponder")->text(), QStringLiteral("Responder Lecturas"));
+        QCOMPARE(control<QCheckBox>("ChRecibirEscrituras")->text(), QStringLiteral("Recibir Escrituras"));
+        QCOMPARE(control<QCheckBox>("ChResponderEscrituras")->text(), QStringLiteral("Responder Escrituras"));
+    }
+
+    void aNewPageHasEveryBoxChecked() {
+        for (const char* nombre : {"ChRecibir", "ChResponder", "ChRecibirEscrituras", "ChResponderEscrituras"})
+            QVERIFY(control<QCheckBox>(nombre)->isChecked());
+    }
+
+    void headingsAreLaidOut() {
+        QCOMPARE(celda(0, 0), QStringLiteral("MW - PLC 2"));
+        QCOMPARE(celda(0, 1), QStringLiteral("+0"));
+        QCOMPARE(celda(0, 10), QStringLiteral("+9"));
+        QCOMPARE(grid().Cols(), 11);
+    }
+
+    void lastAddress99EndsWithRowsHeaded0To90AndZeros() {
+        QCOMPARE(grid().Rows(), 11);
+        for (int fila = 1; fila <= 10; ++fila)
+            QCOMPARE(celda(fila, 0), QString::number((fila - 1) * 10));
+        QCOMPARE(celda(1, 1), QStringLiteral("0"));
+        QCOMPARE(celda(10, 10), QStringLiteral("0"));
+    }
+
+    void aGridBeginsWithSevenRowsAndAppendsTwoForRegister75() {
+        esclavos_->crearEsclavo(3, 0, 0);
+        Pagina& corta = *esclavos_->pagina(3);
+        const VistaPagina vista(*esclavos_, corta, new QPlainTextEdit);
+        auto* rejilla = vista.findChild<MSFlexGrid*>();
+        QCOMPARE(rejilla->Rows(), 7);
+        QCOMPARE(rejilla->TextMatrix(6, 0), QStringLiteral("50"));
+        esclavos_->ampliarTablaMW(3, 75, 0);
+        esclavos_->escribir(3, 75, 4321);
+        QCOMPARE(rejilla->Rows(), 9);
+        QCOMPARE(rejilla->TextMatrix(7, 0), QStringLiteral("60"));
+        QCOMPARE(rejilla->TextMatrix(8, 0), QStringLiteral("70"));
+        QCOMPARE(rejilla->TextMatrix(8, 6), QStringLiteral("4321"));
+        QTRY_COMPARE(rejilla->model()->rowCount(), 8);
+    }
+
+    void aWriteIsSeenInTheCellAtOnce() {
+        esclavos_->escribir(2, 13, 777);
+        QCOMPARE(celda(2, 4), QStringLiteral("777"));
+    }
+
+    void aFractionShowsTheDecimalSignOfTheLocale() {
+        esclavos_->escribir(2, 5, 12.5);
+        QCOMPARE(celda(1, 6), QStringLiteral("12.5"));
+        QLocale::setDefault(QLocale(QLocale::Spanish, QLocale::Spain));
+        QCOMPARE(celda(1, 6), QStringLiteral("12,5"));
+    }
+
+    void cellsBeyondTheTableAreBlank() {
+        esclavos_->ampliarTablaMW(2, 100, 3);
+        QCOMPARE(celda(11, 4), QStringLiteral("0"));
+        QCOMPARE(celda(11, 5), QString());
+        QCOMPARE(sugerencia(104), QString());
+    }
+
+    void tooltipShowsUnsignedSignedHexadecimalAndBits() {
+        esclavos_->escribir(2, 23, 65534);
+        QCOMPARE(sugerencia(23), QStringLiteral("Registro: 23\nSin signo: 65534\nCon signo: -2\nHexadecimal: FFFE\n"
+                                                "Bits: 1111 1111 1111 1110"));
+        QCOMPARE(sugerencia(24), QStringLiteral("Registro: 24\nSin signo: 0\nCon signo: 0\nHexadecimal: 0000\n"
+                                                "Bits: 0000 0000 0000 0000"));
+    }
+
+    void doubleClickTellsSlaveAddressAndText() {
+        esclavos_->escribir(2, 20, 55);
+        QSignalSpy espia(vista_.get(), &VistaPagina::celdaActivada);
+        const QPoint centro = grid().visualRect(grid().model()->index(2, 0)).center(); // row 3, column 1
+        QTest::mouseDClick(grid().viewport(), Qt::LeftButton, {}, centro);
+        QCOMPARE(espia.count(), 1);
+        QCOMPARE(espia.at(0), (QVariantList{2, 20, QStringLiteral("55")}));
+    }
+
+    void uncheckingRecibirLecturasUnchecksResponderLecturas() {
+        pulsar("ChRecibir");
+        QVERIFY(!pagina().recibir);
+        QVERIFY(!pagina().responder);
+        QVERIFY(!control<QCheckBox>("ChResponder")->isChecked());
+        QVERIFY(pagina().recibirEscrituras && pagina().responderEscrituras);
+    }
+
+    void uncheckingRecibirEscriturasLeavesResponderEscrituras() {
+        pulsar("ChRecibirEscrituras");
+        QVERIFY(!pagina().recibirEscrituras);
+        QVERIFY(!control<QCheckBox>("ChRecibirEscrituras")->isChecked());
+        QVERIFY(pagina().responderEscrituras);
+        QVERIFY(control<QCheckBox>("ChResponderEscrituras")->isChecked());
+    }
+
+    void checkingARecibirBoxNeverChecksTheMatchingResponderBox() {
+        pulsar("ChResponderEscrituras");
+        pulsar("ChRecibir");
+        pulsar("ChRecibirEscrituras");
+        pulsar("ChRecibir");
+        pulsar("ChRecibirEscrituras");
+        QVERIFY(pagina().recibir && pagina().recibirEscrituras);
+        QVERIFY(!pagina().responder && !pagina().responderEscrituras);
+    }
+
+    void responderAloneTouchesNothingElse() {
+        pulsar("ChResponder");
+        QVERIFY(!pagina().responder);
+        QVERIFY(pagina().recibir);
+    }
+
+    void theInterlockHoldsWhenTheProgramUnchecks() {
+        control<QCheckBox>("ChRecibir")->setChecked(false);
+        QVERIFY(!pagina().recibir && !pagina().responder);
+    }
+
+    void aWriteRepaintsTheVisiblePage() {
+        QTest::qWait(0);
+        pinturas_ = 0;
+        esclavos_->escribir(2, 0, 1);
+        QTRY_VERIFY(pinturas_ > 0);
+        QVERIFY(!pagina().marcada());
+    }
+
+    void aStreamOfWritesRepaintsAtMost60TimesASecond() {
+        QElapsedTimer reloj;
+        reloj.start();
+        pinturas_ = 0;
+        while (reloj.elapsed() < 400) {
+            esclavos_->escribir(2, 0, static_cast<double>(reloj.elapsed()));
+            QCoreApplication::processEvents();
+        }
+        QVERIFY2(pinturas_ <= reloj.elapsed() * 60 / 1000 + 2, qPrintable(QString::number(pinturas_)));
+        QVERIFY(pinturas_ >= 2);
+    }
+
+    void aHiddenPageCatchesUpWhenItIsShown() {
+        vista_->hide();
+        esclavos_->ampliarTablaMW(2, 400, 9);
+        QCOMPARE(grid().model()->rowCount(), 10);
+        vista_->show();
+        QCOMPARE(grid().model()->rowCount(), 41);
+    }
+
+    void aHiddenPageLearnsOfItsRowsAllTheSame() {
+        vista_->hide();
+        esclavos_->ampliarTablaMW(2, 400, 9);
+        QTRY_COMPARE(grid().model()->rowCount(), 41);
+        QVERIFY(!pagina().marcada());
+    }
+
+    void a65661RegisterTableShowsItsLastRegister() {
+        esclavos_->ampliarTablaMW(2, 65535, 125);
+        esclavos_->escribir(2, 65660, 7);
+        QCOMPARE(grid().Rows(), 6568);
+        QTRY_COMPARE(grid().model()->rowCount(), 6567);
+        QCOMPARE(celda(6567, 0), QStringLiteral("65660"));
+        QCOMPARE(celda(6567, 1), QStringLiteral("7"));
+        grid().setFocus();
+        QTest::keyClick(&grid(), Qt::Key_End, Qt::ControlModifier);
+        QCOMPARE(grid().Row(), 6567);
+    }
+
+    void theFrameStaysReadableInANarrowWindow() {
+        for (const int ancho : {1200, 420, 220}) {
+            vista_->resize(ancho, 700);
+            QTest::qWait(0);
+            for (const char* nombre : {"ChRecibir", "ChResponder", "ChRecibirEscrituras", "ChResponderEscrituras"}) {
+                const auto* casilla = control<QCheckBox>(nombre);
+                QVERIFY(casilla->width() >= casilla->sizeHint().width());
+                QVERIFY(casilla->height() >= casilla->sizeHint().height());
+                QVERIFY(casilla->parentWidget()->rect().contains(casilla->geometry()));
+            }
+        }
+    }
+
+    void theViewCanGoBeforeItsPage() {
+        vista_.reset();
+        esclavos_->escribir(2, 0, 1);
+        QVERIFY(pagina().marcada());
+    }
+};
+
+QTEST_MAIN(TestVistaPagina)
+#include "VistaPagina_test.moc"

@@ -1,0 +1,50 @@
+// The rest of the program as the serial link sees it, for tests: settings in memory, the lines of the log, the texts
+// that the script engine was given.
+#pragma once
+
+#include "serial/EntornoSerie.h"
+
+#include <map>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+class ConfiguracionFalsa : public ConfiguracionSerie {
+public:
+    std::map<std::string, std::string, std::less<>> valores; // by stored key, the defaults written back included
+    std::vector<std::string> leidas;                         // stored keys in the order of reading
+
+    std::string leerConfiguracion(std::string_view clave, std::string_view porDefecto) override {
+        leidas.emplace_back(clave);
+        return valores.try_emplace(std::string(clave), porDefecto).first->second;
+    }
+
+    std::string leerConfiguracionRS232(std::string_view clave, std::string_view porDefecto) override {
+        return leerConfiguracion("RS232_" + std::string(clave), porDefecto);
+    }
+};
+
+class LogFalso : public LogSerie {
+public:
+    std::vector<std::string> lineas; // origin>message>detail>description
+
+    void escribirLog(std::string_view origen, std::string_view mensaje, std::string_view detalle,
+                     std::string_view descripcionError) override {
+        std::string linea;
+        linea.append(origen).append(">").append(mensaje).append(">").append(detalle).append(">").append(
+            descripcionError);
+        lineas.push_back(linea);
+    }
+};
+
+class MotorFalso : public MotorSerie {
+public:
+    std::vector<std::string> textos;
+    std::string rechaza; // a text that contains this is an error; empty rejects nothing
+
+    void AddCode(std::string_view codigo) override {
+        if (!rechaza.empty() && codigo.find(rechaza) != std::string_view::npos)
+            throw std::runtime_error("Error de sintaxis");
+        textos.emplace_back(codigo);
+    }
+};

@@ -1,0 +1,3 @@
+Set d = CreateObject("Scripting.Dictionary")
+d.Add "a", Empty
+WScript.Echo d.Exists("a"), d.Exists("b"), d.Count '> True False 1

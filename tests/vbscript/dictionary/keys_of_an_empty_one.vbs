@@ -1,0 +1,2 @@
+Set d = CreateObject("Scripting.Dictionary")
+WScript.Echo UBound(d.Keys), UBound(d.Items) '> -1 -1

@@ -1,0 +1,2 @@
+Set d = CreateObject("Scripting.Dictionary")
+d.Remove "a" '! 32811

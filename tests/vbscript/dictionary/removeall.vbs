@@ -1,0 +1,5 @@
+Set d = CreateObject("Scripting.Dictionary")
+d.Add "a", 1
+d.Add "b", 2
+d.RemoveAll
+WScript.Echo d.Count '> 0

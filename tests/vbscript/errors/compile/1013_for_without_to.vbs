@@ -1,0 +1,2 @@
+For i = 1 Until 3 '! 1013
+Next

@@ -1,0 +1,3 @@
+Class C
+  Public x
+'! 1014 @*

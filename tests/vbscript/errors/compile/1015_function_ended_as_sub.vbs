@@ -1,0 +1,2 @@
+Function F
+End Sub '! 1015

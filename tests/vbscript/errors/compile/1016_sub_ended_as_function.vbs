@@ -1,0 +1,2 @@
+Sub S
+End Function '! 1016

@@ -1,0 +1,2 @@
+For Each v In a
+'! 1020 @*

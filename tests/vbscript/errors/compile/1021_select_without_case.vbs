@@ -1,0 +1,2 @@
+Select x '! 1021
+End Select

@@ -1,0 +1,2 @@
+Dim x
+Option Explicit '! 1024

@@ -1,0 +1,2 @@
+With o
+End If '! 1029

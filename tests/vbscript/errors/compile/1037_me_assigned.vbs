@@ -1,0 +1,5 @@
+Class K
+  Public Sub S
+    Set Me = Nothing '! 1037
+  End Sub
+End Class

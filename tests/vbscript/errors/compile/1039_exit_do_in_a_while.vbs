@@ -1,0 +1,3 @@
+While True
+  Exit Do '! 1039
+Wend

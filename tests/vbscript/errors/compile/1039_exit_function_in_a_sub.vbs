@@ -1,0 +1,3 @@
+Sub S
+  Exit Function '! 1039
+End Sub

@@ -1,0 +1,4 @@
+Class K
+End Class
+Class K '! 1041
+End Class

@@ -1,0 +1,2 @@
+Dim C
+Const C = 2 '! 1041

@@ -1,0 +1,2 @@
+Const C = 1
+Const C = 2 '! 1041

@@ -1,0 +1,3 @@
+Sub S(a)
+  Dim a '! 1041
+End Sub

@@ -1,0 +1,4 @@
+Class K
+  Public v
+  Private v '! 1041
+End Class

@@ -1,0 +1,6 @@
+Class K
+  Public Sub S
+  End Sub
+  Public Sub S '! 1041
+  End Sub
+End Class

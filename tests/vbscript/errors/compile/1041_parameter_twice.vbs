@@ -1,0 +1,2 @@
+Sub S(a, b, a) '! 1041
+End Sub

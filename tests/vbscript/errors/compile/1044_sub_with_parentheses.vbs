@@ -1,0 +1,3 @@
+Sub S(a, b)
+End Sub
+S(1, 2) '! 1044

@@ -1,0 +1,1 @@
+Const C = Len("abc") '! 1045

@@ -1,0 +1,2 @@
+For Each v Of a '! 1046
+Next

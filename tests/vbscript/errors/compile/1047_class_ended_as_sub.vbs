@@ -1,0 +1,2 @@
+Class K
+End Sub '! 1047

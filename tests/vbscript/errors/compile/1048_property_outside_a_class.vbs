@@ -1,0 +1,2 @@
+Property Get P '! 1048
+End Property

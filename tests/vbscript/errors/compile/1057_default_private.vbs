@@ -1,0 +1,4 @@
+Class K
+  Private Default Function A '! 1057
+  End Function
+End Class

@@ -1,0 +1,4 @@
+Class K
+  Public Default Property Let P(v) '! 1058
+  End Property
+End Class

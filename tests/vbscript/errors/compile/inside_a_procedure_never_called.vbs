@@ -1,0 +1,3 @@
+Sub NuncaLlamada
+  x = (1 '! 1006
+End Sub

@@ -1,0 +1,3 @@
+'options --comprobar
+WScript.Echo "no sale"
+x = (1 '! 1006

@@ -1,0 +1,6 @@
+Sub Fin
+  WScript.Quit
+End Sub
+WScript.Echo "antes" '> antes
+Fin
+WScript.Echo "nunca"

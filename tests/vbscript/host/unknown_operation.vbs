@@ -1,0 +1,1 @@
+mw.noExiste 1 '! 438

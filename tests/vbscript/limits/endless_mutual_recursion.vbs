@@ -1,0 +1,7 @@
+Sub A
+  B '! 28 @*
+End Sub
+Sub B
+  A
+End Sub
+A

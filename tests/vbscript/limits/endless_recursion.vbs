@@ -1,0 +1,4 @@
+Function F(n)
+  F = F(n + 1) '! 28
+End Function
+x = F(0)

@@ -1,0 +1,6 @@
+Sub S
+  S
+End Sub
+On Error Resume Next
+S
+WScript.Echo Err.Number '> 28

@@ -1,0 +1,3 @@
+Set r = New RegExp
+r.Pattern = ""
+WScript.Echo r.Test("abc"), r.Test("") '> True True

@@ -1,0 +1,2 @@
+Set r = New RegExp
+r.NoExiste = 1 '! 438

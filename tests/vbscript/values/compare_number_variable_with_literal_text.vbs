@@ -1,0 +1,2 @@
+n = 10
+WScript.Echo n = "10", "10" = n '> True True
