@@ -83,3 +83,10 @@ void VistaMonitor::showEvent(QShowEvent* evento) {
     if (espera_.isActive())
         ponerAlDia();
 }
+
+// The lines wrap anew; the newest one must not slip out of view.
+void VistaMonitor::resizeEvent(QResizeEvent* evento) {
+    QPlainTextEdit::resizeEvent(evento);
+    if (textCursor().atEnd())
+        ensureCursorVisible();
+}

@@ -23,6 +23,7 @@ public:
 
 protected:
     void showEvent(QShowEvent* evento) override;
+    void resizeEvent(QResizeEvent* evento) override;
 
 private:
     void textoCambiado() override;
