@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-class ConfiguracionFalsa : public ConfiguracionSerie {
+class ConfiguracionFalsa final : public ConfiguracionSerie {
 public:
     std::map<std::string, std::string, std::less<>> valores; // by stored key, the defaults written back included
     std::vector<std::string> leidas;                         // stored keys in the order of reading
@@ -24,7 +24,7 @@ public:
     }
 };
 
-class LogFalso : public LogSerie {
+class LogFalso final : public LogSerie {
 public:
     std::vector<std::string> lineas; // origin>message>detail>description
 
@@ -37,7 +37,7 @@ public:
     }
 };
 
-class MotorFalso : public MotorSerie {
+class MotorFalso final : public MotorSerie {
 public:
     std::vector<std::string> textos;
     std::string rechaza; // a text that contains this is an error; empty rejects nothing

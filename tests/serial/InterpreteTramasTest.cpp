@@ -8,7 +8,7 @@
 
 namespace {
 
-class SalidaFalsa : public SalidaTramas {
+class SalidaFalsa final : public SalidaTramas {
 public:
     std::vector<std::string> asignaciones;
     std::vector<std::string> listados;

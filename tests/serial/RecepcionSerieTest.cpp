@@ -9,7 +9,7 @@
 namespace {
 
 // A window that tells in order what was done to it.
-class VentanaFalsa : public VentanaRecepcion {
+class VentanaFalsa final : public VentanaRecepcion {
 public:
     std::deque<std::string> entradas; // of Input; empty texts from their end on
     std::vector<std::string> pasos;

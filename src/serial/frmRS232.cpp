@@ -1,0 +1,184 @@
+#include "serial/frmRS232.h"
+
+#include "platform/profile/Ansi.h"
+#include "platform/window/VistaTexto.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPalette>
+#include <QPushButton>
+#include <QSplitter>
+#include <QVBoxLayout>
+
+#include <chrono>
+
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr QRgb verde = 0xFF00FF00;
+constexpr QRgb rojo = 0xFFFF0000;
+
+QString deUtf8(std::string_view utf8) {
+    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
+}
+
+template <typename Control>
+Control* conNombre(Control* control, const QString& nombre, const QString& descripcion) {
+    control->setObjectName(nombre);
+    control->setAccessibleName(descripcion);
+    return control;
+}
+
+// A text box under its label.
+QWidget* conRotulo(VistaTexto* vista) {
+    auto* panel = new QWidget;
+    auto* rotulo = new QLabel(vista->accessibleName() + u':');
+    rotulo->setBuddy(vista);
+    auto* columna = new QVBoxLayout(panel);
+    columna->setContentsMargins(0, 0, 0, 0);
+    columna->addWidget(rotulo);
+    columna->addWidget(vista);
+    return panel;
+}
+
+} // namespace
+
+frmRS232::frmRS232(const QString& carpeta, ConfiguracionSerie& configuracion, LogSerie& log, MotorSerie& motor,
+                   QWidget* parent)
+    : QWidget(parent, Qt::Window), configuracion_(configuracion), log_(log), motor_(motor), comm_(carpeta, this) {
+    crearControles();
+    comm_.setObjectName(QStringLiteral("MSComm"));
+    connect(&comm_, &MSComm::OnComm, this, &frmRS232::MSComm_OnComm);
+    connect(&comm_, &MSComm::perdido, this, [this](const QString& causa) {
+        escribirFallo("OnComm", "", causa.toStdString());
+        timerEstado_Timer();
+    });
+
+    SetearConfig();
+    const MarcaFin marca = leerMarcaFin(configuracion_, log_);
+    recepcion_.emplace(marca, static_cast<VentanaRecepcion&>(*this));
+    interprete_.emplace(marca, configuracion_, static_cast<SalidaTramas&>(*this));
+
+    timerLimpiarBuffer_.setObjectName(QStringLiteral("timerLimpiarBuffer"));
+    timerLimpiarBuffer_.setInterval(3000ms);
+    connect(&timerLimpiarBuffer_, &QTimer::timeout, this, [this] { recepcion_->alCallar(); });
+    timerEstado_.setObjectName(QStringLiteral("timerEstado"));
+    connect(&timerEstado_, &QTimer::timeout, this, &frmRS232::timerEstado_Timer);
+    timerEstado_.start(5000ms);
+    timerEstado_Timer();
+}
+
+void frmRS232::crearControles() {
+    setObjectName(QStringLiteral("frmRS232"));
+    setWindowTitle(QStringLiteral("RS232"));
+
+    txtConfigRS232_ = conNombre(new QLineEdit, QStringLiteral("txtConfigRS232"), QStringLiteral("Configuración"));
+    txtConfigRS232_->setReadOnly(true);
+    lblEstado_ = conNombre(new QLabel, QStringLiteral("lblEstado"), QStringLiteral("Estado del puerto"));
+    lblEstado_->setAlignment(Qt::AlignCenter);
+    lblEstado_->setAutoFillBackground(true);
+    lblEstado_->setMargin(fontMetrics().height() / 4);
+    lblEstado_->setMinimumWidth(fontMetrics().horizontalAdvance(QStringLiteral("  CLOSE  ")));
+    auto* btnAbrir = new QPushButton(QStringLiteral("Abrir Puerto"));
+    conNombre(btnAbrir, QStringLiteral("BtnAbrirPuerto"), btnAbrir->text());
+    auto* btnOcultar = new QPushButton(QStringLiteral("Ocultar"));
+    conNombre(btnOcultar, QStringLiteral("BtnOcultar"), btnOcultar->text());
+    txtInputCom_ = conNombre(new VistaTexto, QStringLiteral("TxtInputCom"), QStringLiteral("Texto recibido"));
+    txtTramas_ = conNombre(new VistaTexto, QStringLiteral("txtTramas"), QStringLiteral("Tramas interpretadas"));
+
+    auto* rotulo = new QLabel(txtConfigRS232_->accessibleName() + u':');
+    rotulo->setBuddy(txtConfigRS232_);
+    auto* arriba = new QHBoxLayout;
+    arriba->addWidget(rotulo);
+    arriba->addWidget(txtConfigRS232_, 1);
+    arriba->addWidget(lblEstado_);
+    arriba->addWidget(btnAbrir);
+    arriba->addWidget(btnOcultar);
+    auto* textos = new QSplitter(Qt::Vertical);
+    textos->setChildrenCollapsible(false);
+    textos->addWidget(conRotulo(txtInputCom_));
+    textos->addWidget(conRotulo(txtTramas_));
+    auto* columna = new QVBoxLayout(this);
+    columna->addLayout(arriba);
+    columna->addWidget(textos, 1);
+    resize(fontMetrics().averageCharWidth() * 90, fontMetrics().height() * 28);
+
+    setTabOrder(txtConfigRS232_, btnAbrir);
+    setTabOrder(btnAbrir, btnOcultar);
+    setTabOrder(btnOcultar, txtInputCom_);
+    setTabOrder(txtInputCom_, txtTramas_);
+    connect(btnAbrir, &QPushButton::clicked, this, [this] {
+        SetearConfig();
+        timerEstado_Timer();
+    });
+    connect(btnOcultar, &QPushButton::clicked, this, &QWidget::hide);
+}
+
+void frmRS232::SetearConfig() {
+    ajustes_ = ConfiguracionRS232::leer(configuracion_);
+    const auto intentar = [this](std::string_view propiedad, const auto& asignacion) {
+        try {
+            asignacion();
+        } catch (const std::exception& error) {
+            escribirFallo("SetearConfig", propiedad, error.what());
+        }
+    };
+    intentar("CommPort", [this] { comm_.setCommPort(ajustes_.CommPort()); });
+    intentar("Settings", [this] { comm_.setSettings(ajustes_.Settings()); });
+    intentar("InputLen", [this] { comm_.setInputLen(0); });
+    intentar("RThreshold", [this] { comm_.setRThreshold(1); });
+    intentar("SThreshold", [this] { comm_.setSThreshold(1); });
+    intentar("PortOpen", [this] { comm_.setPortOpen(true); });
+    txtConfigRS232_->setText(deUtf8("Com: " + ajustes_.NomCOM + " / " + comm_.Settings()));
+}
+
+void frmRS232::escribirFallo(std::string_view operacion, std::string_view detalle, std::string_view descripcion) {
+    log_.escribirLog("RS232", std::string(operacion) + ": Com:" + ajustes_.NomCOM + "/" + ajustes_.Settings(), detalle,
+                     descripcion);
+}
+
+void frmRS232::MSComm_OnComm() {
+    try {
+        recepcion_->alRecibir();
+    } catch (const std::exception& error) {
+        escribirFallo("OnComm", "", error.what());
+    }
+}
+
+void frmRS232::timerEstado_Timer() {
+    const bool abierto = comm_.PortOpen();
+    QPalette colores = lblEstado_->palette();
+    colores.setColor(QPalette::Window, QColor::fromRgb(abierto ? verde : rojo));
+    colores.setColor(QPalette::WindowText, Qt::black);
+    lblEstado_->setPalette(colores);
+    lblEstado_->setText(abierto ? QStringLiteral("OPEN") : QStringLiteral("CLOSE"));
+}
+
+void frmRS232::interpretarTrama(std::string_view trama) {
+    interprete_->interpretarTrama(trama);
+}
+
+void frmRS232::darValor_A_Variable(std::string_view texto) {
+    motor_.AddCode(texto);
+}
+
+std::string frmRS232::Input() {
+    return comm_.Input();
+}
+
+void frmRS232::agregarRecibido(std::string_view trozo) {
+    txtInputCom_->agregar(deUtf8(utf8DeAnsi(trozo)));
+}
+
+void frmRS232::vigilarSilencio(bool activo) {
+    if (activo)
+        timerLimpiarBuffer_.start();
+    else
+        timerLimpiarBuffer_.stop();
+}
+
+void frmRS232::agregarListado(std::string_view listado) {
+    txtTramas_->agregar(deUtf8(utf8DeAnsi(listado)));
+}

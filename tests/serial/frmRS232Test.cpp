@@ -1,0 +1,309 @@
+// The window over real pseudo-terminals: opening, receiving, the silence and state timers, faults and losses.
+#include "serial/frmRS232.h"
+
+#include "EntornoFalso.h"
+#include "platform/serial/ParSerie.h"
+#include "platform/window/VistaTexto.h"
+
+#include <QElapsedTimer>
+#include <QLabel>
+#include <QLineEdit>
+#include <QProcess>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTest>
+#include <QTimer>
+
+#include <memory>
+#include <thread>
+
+namespace {
+
+using Ajustes = std::map<std::string, std::string, std::less<>>; // by stored key
+
+// A station with a device on COM port 1 and the window of the serial link.
+struct Estacion {
+    explicit Estacion(const Ajustes& ajustes = {}) {
+        configuracion.valores = ajustes;
+        ventana = std::make_unique<frmRS232>(par.carpeta(), configuracion, log, motor);
+    }
+
+    template <typename Control>
+    Control* control(const char* nombre) {
+        return ventana->findChild<Control*>(QString::fromLatin1(nombre));
+    }
+
+    QString texto(const char* nombre) { return control<VistaTexto>(nombre)->texto(); }
+    QString estado() { return control<QLabel>("lblEstado")->text(); }
+    QColor color() { return control<QLabel>("lblEstado")->palette().color(QPalette::Window); }
+    void pulsar(const char* boton) { QTest::mouseClick(control<QPushButton>(boton), Qt::LeftButton); }
+
+    // The timer ticks at once instead of after its whole interval.
+    void adelantar(const char* temporizador) { control<QTimer>(temporizador)->setInterval(1); }
+
+    ParSerie par;
+    ConfiguracionFalsa configuracion;
+    LogFalso log;
+    MotorFalso motor;
+    std::unique_ptr<frmRS232> ventana;
+};
+
+const std::string asignaciones123 = "AA =24\r\nMM =05\r\nDD = 17\r\nID = 123\n\r\nVALIDEZ = 2\r\n";
+
+} // namespace
+
+class TestFrmRS232 : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void freshConfigurationOpensPortOneAndWritesTheKeys() {
+        Estacion estacion;
+        QCOMPARE(estacion.control<QLineEdit>("txtConfigRS232")->text(), QStringLiteral("Com: 1 / 9600,N,8,1"));
+        QCOMPARE(estacion.control<MSComm>("MSComm")->PortOpen(), true);
+        QVERIFY(estacion.log.lineas.empty());
+        QCOMPARE(estacion.configuracion.leidas,
+                 (std::vector<std::string>{"RS232_NomCOM", "RS232_Baudios", "RS232_Paridad", "RS232_DataBits",
+                                           "RS232_StopBit", "Caracter_Fin_TRAMA_1", "Caracter_Fin_TRAMA_2"}));
+    }
+
+    void missingPortIsLoggedOnceAndShownClosed() {
+        Estacion estacion(Ajustes{{"RS232_NomCOM", "3000"}});
+        QCOMPARE(estacion.log.lineas.size(), std::size_t{1});
+        QCOMPARE(QByteArray::fromStdString(estacion.log.lineas[0]),
+                 QByteArray("RS232>SetearConfig: Com:3000/9600,N,8,1>PortOpen>"
+                            "No se puede abrir /dev/ttyS2999: no existe"));
+        QCOMPARE(estacion.estado(), QStringLiteral("CLOSE"));
+        QCOMPARE(estacion.color(), QColor(255, 0, 0));
+        QCOMPARE(estacion.control<QLineEdit>("txtConfigRS232")->text(), QStringLiteral("Com: 3000 / 9600,N,8,1"));
+    }
+
+    void lettersAsPortNumberFailThatStepAloneAndTheNextOnesFollow() {
+        Estacion estacion(Ajustes{{"RS232_NomCOM", "COM3"}});
+        QCOMPARE(estacion.log.lineas,
+                 std::vector<std::string>{"RS232>SetearConfig: Com:COM3/9600,N,8,1>CommPort>No coinciden los tipos"});
+        QCOMPARE(estacion.estado(), QStringLiteral("OPEN"));
+        QCOMPARE(estacion.control<QLineEdit>("txtConfigRS232")->text(), QStringLiteral("Com: COM3 / 9600,N,8,1"));
+    }
+
+    void badSettingsFailThatStepAloneAndTheFormerAreShown() {
+        Estacion estacion(Ajustes{{"RS232_Baudios", "999999999"}, {"RS232_Paridad", "E"}});
+        QCOMPARE(estacion.log.lineas,
+                 std::vector<std::string>{"RS232>SetearConfig: Com:1/999999999,E,8,1>Settings>"
+                                          "Valor de propiedad no válido: Settings = 999999999,E,8,1"});
+        QCOMPARE(estacion.control<QLineEdit>("txtConfigRS232")->text(), QStringLiteral("Com: 1 / 9600,N,8,1"));
+        QCOMPARE(estacion.estado(), QStringLiteral("OPEN"));
+    }
+
+    void eachFailingStepIsLoggedOnce() {
+        Estacion estacion(Ajustes{{"RS232_NomCOM", "-1"}, {"RS232_StopBit", "uno"}});
+        QCOMPARE(estacion.log.lineas.size(), std::size_t{2});
+    }
+
+    void pressingAbrirPuertoOnAnOpenPortIsOnlyLogged() {
+        Estacion estacion;
+        estacion.pulsar("BtnAbrirPuerto");
+        QCOMPARE(estacion.log.lineas,
+                 std::vector<std::string>{"RS232>SetearConfig: Com:1/9600,N,8,1>PortOpen>El puerto ya está abierto"});
+        QCOMPARE(estacion.estado(), QStringLiteral("OPEN"));
+        estacion.par.enviar("x");
+        QTRY_COMPARE(estacion.texto("TxtInputCom"), QStringLiteral("x"));
+    }
+
+    void wrongEndCharacterIsLoggedAndTheWindowGoesOn() {
+        Estacion estacion(Ajustes{{"Caracter_Fin_TRAMA_1", "300"}, {"Caracter_Fin_TRAMA_2", "fin"}});
+        QCOMPARE(estacion.log.lineas.size(), std::size_t{2});
+        estacion.par.enviar("240517123\n\r");
+        QTRY_COMPARE(estacion.motor.textos, std::vector<std::string>{asignaciones123});
+    }
+
+    void openPortIsShownGreen() {
+        Estacion estacion;
+        QCOMPARE(estacion.estado(), QStringLiteral("OPEN"));
+        QCOMPARE(estacion.color(), QColor(0, 255, 0));
+    }
+
+    void stateTimerFollowsThePort() {
+        Estacion estacion;
+        QCOMPARE(estacion.control<QTimer>("timerEstado")->interval(), 5000);
+        QVERIFY(estacion.control<QTimer>("timerEstado")->isActive());
+        estacion.control<MSComm>("MSComm")->setPortOpen(false);
+        QCOMPARE(estacion.estado(), QStringLiteral("OPEN"));
+        estacion.adelantar("timerEstado");
+        QTRY_COMPARE(estacion.estado(), QStringLiteral("CLOSE"));
+        QCOMPARE(estacion.color(), QColor(255, 0, 0));
+    }
+
+    void readingReachesTheEngineAndTheLists() {
+        Estacion estacion;
+        estacion.par.enviar("240517123\n\r");
+        QTRY_COMPARE(estacion.motor.textos, std::vector<std::string>{asignaciones123});
+        QTRY_COMPARE(estacion.texto("txtTramas"), QStringLiteral("240517123\n\n"));
+        QCOMPARE(estacion.texto("TxtInputCom"), QStringLiteral("240517123\n\n"));
+        QVERIFY(estacion.log.lineas.empty());
+    }
+
+    void hiddenWindowReceivesAllTheSame() {
+        Estacion estacion;
+        estacion.ventana->show();
+        estacion.pulsar("BtnOcultar");
+        QVERIFY(estacion.ventana->isHidden());
+        estacion.par.enviar("240517123\n\r");
+        QTRY_COMPARE(estacion.motor.textos.size(), std::size_t{1});
+        estacion.ventana->show();
+        estacion.ventana->close();
+        QVERIFY(estacion.control<MSComm>("MSComm")->PortOpen());
+    }
+
+    void everyByteIsShownAsItsAnsiCharacter() {
+        Estacion estacion;
+        estacion.par.enviar("a\xF1o \x80");
+        QTRY_COMPARE(estacion.texto("TxtInputCom"), QStringLiteral("año €"));
+    }
+
+    void allBytesPassThroughWithoutHarm() {
+        Estacion estacion;
+        for (int vez = 0; vez < 3; ++vez) {
+            std::string todos;
+            for (int codigo = 255; codigo >= 0; --codigo)
+                todos += static_cast<char>(codigo);
+            estacion.par.enviar(todos);
+        }
+        QTRY_VERIFY(estacion.texto("TxtInputCom").count(QStringLiteral("cba")) == 3);
+    }
+
+    void silenceTimerRunsFromTheEndOfAnEvent() {
+        Estacion estacion;
+        auto* silencio = estacion.control<QTimer>("timerLimpiarBuffer");
+        QCOMPARE(silencio->interval(), 3000);
+        QVERIFY(!silencio->isActive());
+        estacion.par.enviar("media");
+        QTRY_VERIFY(silencio->isActive());
+    }
+
+    void halfAFrameIsGoneAfterTheNextSilentTick() {
+        Estacion estacion;
+        auto* silencio = estacion.control<QTimer>("timerLimpiarBuffer");
+        estacion.par.enviar("media");
+        QTRY_VERIFY(silencio->isActive());
+        QSignalSpy tics(silencio, &QTimer::timeout);
+        estacion.adelantar("timerLimpiarBuffer");
+        QTRY_VERIFY(tics.count() > 0);
+        QVERIFY(silencio->isActive()); // stays on after clearing
+        estacion.par.enviar("240517123\n\r");
+        QTRY_COMPARE(estacion.motor.textos, std::vector<std::string>{asignaciones123});
+    }
+
+    void leftOverEndCharacterShiftsTheNextReading() {
+        Estacion estacion;
+        estacion.par.enviar("240517123\n\r");
+        QTRY_COMPARE(estacion.motor.textos.size(), std::size_t{1});
+        estacion.par.enviar("240518456\n\r");
+        QTRY_COMPARE(estacion.motor.textos.size(), std::size_t{2});
+        QVERIFY(estacion.motor.textos[1].starts_with("AA =\r2\r\nMM =40\r\n"));
+    }
+
+    void faultOfTheEngineGoesToTheLogAndTheWindowGoesOn() {
+        Estacion estacion;
+        estacion.motor.rechaza = "mal";
+        estacion.par.enviar("240517mal\n\r");
+        QTRY_COMPARE(estacion.log.lineas,
+                     std::vector<std::string>{"RS232>OnComm: Com:1/9600,N,8,1>>Error de sintaxis"});
+        QVERIFY(!estacion.control<QTimer>("timerLimpiarBuffer")->isActive());
+        QCOMPARE(estacion.texto("txtTramas"), QString());
+        estacion.par.enviar("240518456\n\r");
+        QTRY_COMPARE(estacion.motor.textos.size(), std::size_t{1});
+    }
+
+    void validityThatIsNoNumberGoesToTheLog() {
+        Estacion estacion(Ajustes{{"RS232_Cant_Intervalos_Validez", "dos"}});
+        estacion.par.enviar("240517123\n\r");
+        QTRY_COMPARE(estacion.log.lineas,
+                     std::vector<std::string>{"RS232>OnComm: Com:1/9600,N,8,1>>No coinciden los tipos"});
+        QVERIFY(estacion.motor.textos.empty());
+    }
+
+    void vanishedDeviceIsLoggedOnceShownClosedAndOpenedAgainByTheButton() {
+        Estacion estacion;
+        estacion.par.desconectar();
+        QTRY_COMPARE(estacion.estado(), QStringLiteral("CLOSE"));
+        QTest::qWait(50); // nothing more is to happen
+        QCOMPARE(estacion.log.lineas.size(), std::size_t{1});
+        QVERIFY(estacion.log.lineas[0].ends_with("el dispositivo ha desaparecido"));
+        estacion.par.conectar();
+        estacion.pulsar("BtnAbrirPuerto");
+        QCOMPARE(estacion.estado(), QStringLiteral("OPEN"));
+        estacion.par.enviar("240517123\n\r");
+        QTRY_COMPARE(estacion.motor.textos.size(), std::size_t{1});
+        QCOMPARE(estacion.log.lineas.size(), std::size_t{1});
+    }
+
+    void everyControlHasANameForAssistiveTools() {
+        Estacion estacion;
+        for (const char* nombre :
+             {"TxtInputCom", "txtConfigRS232", "txtTramas", "lblEstado", "BtnAbrirPuerto", "BtnOcultar"})
+            QVERIFY2(!estacion.control<QWidget>(nombre)->accessibleName().isEmpty(), nombre);
+    }
+
+    void tabWalksThroughTheControlsInOrder() {
+        Estacion estacion;
+        estacion.ventana->show();
+        QVERIFY(QTest::qWaitForWindowActive(estacion.ventana.get()));
+        estacion.control<QLineEdit>("txtConfigRS232")->setFocus();
+        for (const char* siguiente : {"BtnAbrirPuerto", "BtnOcultar", "TxtInputCom", "txtTramas"}) {
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+            QCOMPARE(QApplication::focusWidget()->objectName(), QString::fromLatin1(siguiente));
+        }
+    }
+
+    // 100 MB without an end mark: the events go on and the window answers meanwhile.
+    void hundredMegabytesWithoutEndMarkLeaveTheWindowUsable() {
+        Estacion estacion;
+        estacion.ventana->show();
+        constexpr qsizetype total = 100'000'000;
+        std::thread aparato([&] {
+            for (qsizetype enviados = 0; enviados < total; enviados += 1'000'000)
+                estacion.par.enviar(std::string(1'000'000, 'x'));
+        });
+        auto* vista = estacion.control<VistaTexto>("TxtInputCom");
+        qint64 masLarga = 0;
+        qsizetype mostrados = 0;
+        const QDeadlineTimer plazo(100'000);
+        while (mostrados < total && !plazo.hasExpired()) {
+            QElapsedTimer vuelta;
+            vuelta.start();
+            QCoreApplication::processEvents(QEventLoop::AllEvents);
+            masLarga = std::max(masLarga, vuelta.elapsed());
+            mostrados = vista->alDia() ? vista->document()->characterCount() - vista->blockCount() : 0;
+        }
+        aparato.join();
+        QCOMPARE(mostrados, total);
+        QVERIFY2(masLarga < 1000, qPrintable(QString::number(masLarga)));
+        QVERIFY(estacion.log.lineas.empty());
+    }
+
+    void deviceBehindSocatIsReadFromEndToEnd() {
+        const QTemporaryDir carpeta;
+        QProcess socat;
+        socat.start(
+            QStringLiteral("socat"),
+            {QStringLiteral("-"), QStringLiteral("PTY,rawer,link=%1").arg(carpeta.filePath(QStringLiteral("com1")))});
+        QVERIFY(socat.waitForStarted());
+        QTRY_VERIFY(QFileInfo(carpeta.filePath(QStringLiteral("com1"))).isSymLink());
+        ConfiguracionFalsa configuracion;
+        LogFalso log;
+        MotorFalso motor;
+        {
+            const frmRS232 ventana(carpeta.path(), configuracion, log, motor);
+            socat.write("240517123\n\r");
+            QTRY_COMPARE(motor.textos, std::vector<std::string>{asignaciones123});
+            socat.closeWriteChannel();
+            socat.terminate();
+            QTRY_COMPARE(log.lineas.size(), std::size_t{1});
+            QCOMPARE(ventana.findChild<QLabel*>(QStringLiteral("lblEstado"))->text(), QStringLiteral("CLOSE"));
+        }
+        QTRY_COMPARE(socat.state(), QProcess::NotRunning);
+    }
+};
+
+QTEST_MAIN(TestFrmRS232)
+#include "frmRS232Test.moc"
