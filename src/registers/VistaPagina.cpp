@@ -49,6 +49,7 @@ VistaPagina::VistaPagina(const Esclavos& esclavos, Pagina& pagina, QWidget* txtT
 
 VistaPagina::~VistaPagina() {
     pagina_.observar(nullptr);
+    delete cuadricula_; // it asks its source until its end, so it goes before the members do
 }
 
 void VistaPagina::nombrar(QWidget* control, const char* nombre, const QString& nombreAccesible) const {

@@ -56,4 +56,4 @@ private Q_SLOTS:
 };
 
 QTEST_MAIN(TestTextosQt)
-#include "TextosQt_test.moc"
+#include "TextosQtTest.moc"

@@ -13,8 +13,10 @@
 namespace {
 
 // Three columns below the headings; a cell shows "row.column".
-class Fuente final : public FuenteCuadricula {
+class Fuente : public FuenteCuadricula {
 public:
+    virtual ~Fuente() = default;
+
     int filas_ = 6;
 
     int filas() const override { return filas_; }
@@ -241,4 +243,4 @@ private Q_SLOTS:
 };
 
 QTEST_MAIN(TestMSFlexGrid)
-#include "MSFlexGrid_test.moc"
+#include "MSFlexGridTest.moc"

@@ -52,4 +52,4 @@ private Q_SLOTS:
 };
 
 QTEST_MAIN(TestMsgBox)
-#include "MsgBox_test.moc"
+#include "MsgBoxTest.moc"

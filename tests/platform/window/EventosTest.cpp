@@ -4,13 +4,44 @@
 #include <QTest>
 #include <QTimer>
 
+namespace {
+
+// A handler that calls itself through the event queue and lets the call run inside itself.
+class Apilador : public QObject {
+public:
+    explicit Apilador(Eventos& eventos) : eventos_(eventos) {}
+
+    void llamar() { QCoreApplication::postEvent(this, new QEvent(QEvent::User)); }
+
+    int nivel = 0;
+    int mayor = 0; // level reached
+
+protected:
+    void customEvent(QEvent* /*evento*/) override {
+        mayor = qMax(mayor, ++nivel);
+        llamar();
+        QElapsedTimer espera;
+        espera.start();
+        while (espera.elapsed() < 3)
+            eventos_.dejarPasarEventos();
+        --nivel;
+    }
+
+private:
+    Eventos& eventos_;
+};
+
+} // namespace
+
 class TestEventos : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
     void pendingEventsRun() {
         bool corrio = false;
-        QTimer::singleShot(0, this, [&corrio] { corrio = true; });
+        QTimer reloj;
+        connect(&reloj, &QTimer::timeout, this, [&corrio] { corrio = true; });
+        reloj.start(0);
         Eventos eventos;
         eventos.dejarPasarEventos();
         QVERIFY(corrio);
@@ -62,25 +93,13 @@ private Q_SLOTS:
 
     void handlersDoNotPileUp() {
         Eventos eventos;
-        int nivel = 0;
-        int mayor = 0;
-        // Each handler starts the next one and lets it run inside itself.
-        std::function<void()> manejador = [&] {
-            mayor = qMax(mayor, ++nivel);
-            QMetaObject::invokeMethod(this, manejador, Qt::QueuedConnection);
-            QElapsedTimer espera;
-            espera.start();
-            while (espera.elapsed() < 3)
-                eventos.dejarPasarEventos();
-            --nivel;
-        };
-        QMetaObject::invokeMethod(this, manejador, Qt::QueuedConnection);
+        Apilador apilador(eventos);
+        apilador.llamar();
         eventos.dejarPasarEventos();
-        QCOMPARE(mayor, Eventos::maxNivel);
-        manejador = [] {};
-        QTest::qWait(0);
+        QCOMPARE(apilador.mayor, Eventos::maxNivel);
+        QCOMPARE(apilador.nivel, 0);
     }
 };
 
 QTEST_MAIN(TestEventos)
-#include "Eventos_test.moc"
+#include "EventosTest.moc"
