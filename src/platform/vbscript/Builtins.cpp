@@ -8,9 +8,9 @@ namespace {
 
 std::vector<Builtin> assemble() {
     std::vector<Builtin> all;
-    for (const auto theme :
-         {stringBuiltins(), characterBuiltins(), searchBuiltins(), mathBuiltins(), randomBuiltins(), convertBuiltins(),
-          dateBuiltins(), intervalBuiltins(), formatBuiltins(), arrayBuiltins(), infoBuiltins(), systemBuiltins()}) {
+    for (const auto theme : {stringBuiltins(), characterBuiltins(), searchBuiltins(), byteBuiltins(), mathBuiltins(),
+                             randomBuiltins(), convertBuiltins(), dateBuiltins(), intervalBuiltins(), formatBuiltins(),
+                             arrayBuiltins(), infoBuiltins(), systemBuiltins()}) {
         all.insert(all.end(), theme.begin(), theme.end());
     }
     return all;

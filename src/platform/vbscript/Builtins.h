@@ -30,6 +30,7 @@ inline constexpr std::uint8_t anyNumber = 255;
 std::span<const Builtin> stringBuiltins();
 std::span<const Builtin> characterBuiltins();
 std::span<const Builtin> searchBuiltins();
+std::span<const Builtin> byteBuiltins();
 std::span<const Builtin> mathBuiltins();
 std::span<const Builtin> randomBuiltins();
 std::span<const Builtin> convertBuiltins();

@@ -61,7 +61,7 @@ private:
     void rebuild();
 
     std::vector<Entry> m_entries;
-    std::vector<Slot> m_slots; // a power of two, at most half in use
+    std::vector<Slot> m_slots;   // a power of two, at most half in use
     std::size_t m_usedSlots = 0; // those of removed entries and former keys included
     std::size_t m_count = 0;
     std::size_t m_charged = 0; // bytes

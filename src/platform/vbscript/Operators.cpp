@@ -4,6 +4,7 @@
 #include "platform/vbscript/Errors.h"
 
 #include <cmath>
+#include <vector>
 
 namespace vbs {
 
@@ -272,6 +273,17 @@ Value power(Context& context, const Value& a, const Value& b) {
     return finite(std::pow(base, exponent));
 }
 
+namespace {
+
+// Texts with an odd number of bytes join byte by byte.
+Value joinedBytes(const String& text, const String& tail) {
+    std::vector<std::uint8_t> bytes(text.bytes().begin(), text.bytes().end());
+    bytes.insert(bytes.end(), tail.bytes().begin(), tail.bytes().end());
+    return Value::ofString(String::fromBytes(bytes));
+}
+
+} // namespace
+
 Value concatenate(Context& context, const Value& a, const Value& b) {
     const Value left = withoutObject(context, a);
     const Value right = withoutObject(context, b);
@@ -280,6 +292,9 @@ Value concatenate(Context& context, const Value& a, const Value& b) {
     }
     String text = left.isNull() ? String() : toString(context, left);
     const String tail = right.isNull() ? String() : toString(context, right);
+    if (text.hasOddByte() || tail.hasOddByte()) {
+        return joinedBytes(text, tail);
+    }
     if (text.empty()) {
         return Value::ofString(tail);
     }

@@ -4,6 +4,7 @@
 #include "platform/vbscript/Memory.h"
 
 #include <algorithm>
+#include <bit>
 #include <cstdlib>
 #include <cstring>
 #include <new>
@@ -30,7 +31,7 @@ StringBlock* StringBlock::allocate(std::size_t capacity) {
         raise(ErrorNumber::OutOfMemory);
     }
     auto* block = new (memory) StringBlock;
-    block->capacity = static_cast<std::uint32_t>((bytes - sizeof(StringBlock)) / sizeof(char16_t));
+    block->capacity = static_cast<std::uint32_t>((bytes - sizeof(StringBlock)) / sizeof(char16_t)) & 0x7FFFFFFFU;
     return block;
 }
 
@@ -60,6 +61,18 @@ String String::uninitialized(std::size_t length) {
     if (length > 0) {
         s.m_block = StringBlock::allocate(length);
         s.m_block->length = static_cast<std::uint32_t>(length);
+    }
+    return s;
+}
+
+String String::fromBytes(std::span<const std::uint8_t> bytes) {
+    static_assert(std::endian::native == std::endian::little);
+    String s;
+    if (!bytes.empty()) {
+        s.m_block = StringBlock::allocate((bytes.size() + 1) / sizeof(char16_t));
+        std::memcpy(s.m_block->text(), bytes.data(), bytes.size());
+        s.m_block->length = static_cast<std::uint32_t>(bytes.size() / sizeof(char16_t));
+        s.m_block->oddByte = bytes.size() % sizeof(char16_t);
     }
     return s;
 }
@@ -102,12 +115,14 @@ void String::append(std::u16string_view tail) {
         std::memmove(m_block->text() + size(), tail.data(), tail.size() * sizeof(char16_t));
     }
     m_block->length = static_cast<std::uint32_t>(total);
+    m_block->oddByte = 0;
 }
 
 void String::truncate(std::size_t length) {
     if (length < size()) {
         reserveUnique(size());
         m_block->length = static_cast<std::uint32_t>(length);
+        m_block->oddByte = 0;
     }
 }
 

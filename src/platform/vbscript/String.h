@@ -5,6 +5,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <span>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -18,8 +19,9 @@ struct Counted {
 
 // The shared block; only String and Value touch it.
 struct StringBlock : Counted {
-    std::uint32_t length = 0;   // code units
-    std::uint32_t capacity = 0; // code units
+    std::uint32_t length = 0;        // code units
+    std::uint32_t capacity : 31 = 0; // code units
+    std::uint32_t oddByte : 1 = 0;   // one byte more stands behind the last whole unit (see String::fromBytes)
     char16_t* text() noexcept { return reinterpret_cast<char16_t*>(this + 1); }
     const char16_t* text() const noexcept { return reinterpret_cast<const char16_t*>(this + 1); }
 
@@ -61,6 +63,15 @@ public:
     void truncate(std::size_t length);     // to at most its present length
 
     bool operator==(const String& other) const noexcept { return view() == other.view(); }
+
+    // A text is also a row of bytes, two a code unit, the lower one first. One made by ChrB or cut by LeftB may have an
+    // odd number: the last byte is then no part of the text, but stays with it until the text is changed, and joining
+    // such texts joins their bytes.
+    static String fromBytes(std::span<const std::uint8_t> bytes);
+    std::span<const std::uint8_t> bytes() const noexcept {
+        return {reinterpret_cast<const std::uint8_t*>(data()), size() * sizeof(char16_t) + (hasOddByte() ? 1 : 0)};
+    }
+    bool hasOddByte() const noexcept { return m_block != nullptr && m_block->oddByte != 0; }
 
     // Ownership passes to and from a Value's payload.
     static String adopt(StringBlock* block) noexcept {
