@@ -1,3 +1,3 @@
 On Error Resume Next
 WScript.Echo "no llega"
-x = = 1 '! 1002
+x = (1 '! 1006
