@@ -43,6 +43,9 @@ public:
     static constexpr double puertoLado1 = 500;
     static constexpr double puertoLado2 = 501;
 
+    // Bytes that may wait for a slow side before the one that feeds it is no longer read.
+    static constexpr std::size_t maxPendiente = 256 * 1024;
+
     // Both are borrowed. Nothing listens before the first verificarEstado().
     Puente(Reactor& reactor, VentanaPuente& ventana, double puerto1 = puertoLado1, double puerto2 = puertoLado2);
 
@@ -53,6 +56,9 @@ public:
     double puerto(Lado lado) const { return lados_[indice(lado)].puerto; }
     WinsockState estado(Lado lado) const { return lados_[indice(lado)].socket.State(); }
 
+    // Bytes that wait for the client of that side: at most maxPendiente and the blocks of one turn.
+    std::size_t pendiente(Lado lado) const { return lados_[indice(lado)].socket.bytesPending(); }
+
     // First byte of the last block of side 1 that was shown as hexadecimal.
     double primerByteModbus() const { return primerByteModbus_; }
 
@@ -62,9 +68,6 @@ private:
         double puerto;
         Winsock socket;
     };
-
-    // Bytes that may wait for a slow side before the one that feeds it is no longer read.
-    static constexpr std::size_t maxPendiente = 256 * 1024;
 
     static std::size_t indice(Lado lado) { return static_cast<std::size_t>(lado); }
     static Lado otro(Lado lado) { return lado == Lado::uno ? Lado::dos : Lado::uno; }
