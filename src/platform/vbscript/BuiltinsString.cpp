@@ -1,6 +1,7 @@
 // Intrinsic functions that cut, pad, fold and compare texts.
 #include "platform/vbscript/Ansi.h"
 #include "platform/vbscript/BuiltinArguments.h"
+#include "platform/vbscript/Collation.h"
 
 #include <algorithm>
 
@@ -88,13 +89,14 @@ Value trim(Context& context, Arguments arguments) {
     return trimmed(context, arguments[0], true, true);
 }
 
-Value mapped(Context& context, const Value& argument, char16_t (*map)(char16_t) noexcept) {
+template <char16_t (*map)(char16_t) noexcept>
+Value mapped(Context& context, const Value& argument) {
     if (argument.isNull()) {
         return Value::null();
     }
     String text = toString(context, argument);
     const std::u16string_view old = text.view();
-    const auto changed = std::find_if(old.begin(), old.end(), [map](char16_t c) { return map(c) != c; });
+    const auto changed = std::find_if(old.begin(), old.end(), [](char16_t c) { return map(c) != c; });
     if (changed == old.end()) {
         return Value::ofString(std::move(text));
     }
@@ -105,11 +107,11 @@ Value mapped(Context& context, const Value& argument, char16_t (*map)(char16_t) 
 }
 
 Value lcase(Context& context, Arguments arguments) {
-    return mapped(context, arguments[0], toLower);
+    return mapped<toLower>(context, arguments[0]);
 }
 
 Value ucase(Context& context, Arguments arguments) {
-    return mapped(context, arguments[0], toUpper);
+    return mapped<toUpper>(context, arguments[0]);
 }
 
 Value space(Context& context, Arguments arguments) {
@@ -149,7 +151,8 @@ Value strComp(Context& context, Arguments arguments) {
     }
     const TextArgument a(context, arguments[0]);
     const TextArgument b(context, arguments[1]);
-    const int order = comparison == TextComparison::Text ? compareText(a.view(), b.view()) : a.view().compare(b.view());
+    const int order =
+        comparison == TextComparison::Text ? collate(a.view(), b.view(), context.locale()) : a.view().compare(b.view());
     return Value::ofInteger(static_cast<std::int16_t>((order > 0) - (order < 0)));
 }
 

@@ -44,6 +44,10 @@ std::uint64_t hashIgnoringCase(std::u16string_view text) noexcept {
     return h;
 }
 
+bool sameUnits(std::u16string_view a, std::u16string_view b) noexcept {
+    return a.size() == b.size() && std::memcmp(a.data(), b.data(), a.size() * sizeof(char16_t)) == 0;
+}
+
 bool isNumber(const Value& v) noexcept {
     return v.type <= Type::Byte;
 }
@@ -98,7 +102,8 @@ std::uint32_t KeyedTable::hashOf(const Value& key) const {
 
 bool KeyedTable::same(const Value& a, const Value& b) const noexcept {
     if (a.isString() && b.isString()) {
-        return m_ignoresCase ? equalNoCase(a.text(), b.text()) : a.text() == b.text();
+        return a.counted == b.counted ||
+               (m_ignoresCase ? equalNoCase(a.text(), b.text()) : sameUnits(a.text(), b.text()));
     }
     if (a.isWhole() && b.isWhole()) {
         return a.n == b.n;

@@ -216,10 +216,7 @@ char16_t shifted(char16_t c, int by) noexcept {
 
 } // namespace
 
-char16_t toLower(char16_t c) noexcept {
-    if (c < 0x80) {
-        return c >= u'A' && c <= u'Z' ? shifted(c, 32) : c;
-    }
+char16_t toLowerBeyondAscii(char16_t c) noexcept {
     if ((c >= 0xC0 && c <= 0xDE && c != 0xD7) || (c >= 0x391 && c <= 0x3AB && c != 0x3A2) ||
         (c >= 0x410 && c <= 0x42F)) {
         return shifted(c, 32);
@@ -236,10 +233,7 @@ char16_t toLower(char16_t c) noexcept {
     return c;
 }
 
-char16_t toUpper(char16_t c) noexcept {
-    if (c < 0x80) {
-        return c >= u'a' && c <= u'z' ? shifted(c, -32) : c;
-    }
+char16_t toUpperBeyondAscii(char16_t c) noexcept {
     if ((c >= 0xE0 && c <= 0xFE && c != 0xF7) || (c >= 0x3B1 && c <= 0x3CB && c != 0x3C2) ||
         (c >= 0x430 && c <= 0x44F)) {
         return shifted(c, -32);

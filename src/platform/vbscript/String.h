@@ -103,8 +103,18 @@ std::u16string fromUtf8(std::string_view bytes);
 std::string toUtf8(std::u16string_view text);
 
 // Simple case mapping of one code unit: ASCII, Latin, Greek and Cyrillic; independent of the C locale.
-char16_t toLower(char16_t unit) noexcept;
-char16_t toUpper(char16_t unit) noexcept;
+char16_t toLowerBeyondAscii(char16_t unit) noexcept;
+char16_t toUpperBeyondAscii(char16_t unit) noexcept;
+inline char16_t toLower(char16_t unit) noexcept {
+    return unit >= 0x80                   ? toLowerBeyondAscii(unit)
+           : unit >= u'A' && unit <= u'Z' ? static_cast<char16_t>(unit + 32)
+                                          : unit;
+}
+inline char16_t toUpper(char16_t unit) noexcept {
+    return unit >= 0x80                   ? toUpperBeyondAscii(unit)
+           : unit >= u'a' && unit <= u'z' ? static_cast<char16_t>(unit - 32)
+                                          : unit;
+}
 // Order without regard to case: negative, zero or positive.
 int compareText(std::u16string_view a, std::u16string_view b) noexcept;
 bool equalNoCase(std::u16string_view a, std::u16string_view b) noexcept;
