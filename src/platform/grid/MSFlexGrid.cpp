@@ -61,6 +61,8 @@ MSFlexGrid::MSFlexGrid(const FuenteCuadricula& fuente, QWidget* padre)
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     verticalHeader()->setDefaultAlignment(Qt::AlignRight | Qt::AlignVCenter);
     horizontalHeader()->setDefaultAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    verticalHeader()->setModel(nullptr); // see showEvent
+    modelo_->agregarFilas();
     esquina_->installEventFilter(this);
     esquina_->setAccessibleName(fuente_.texto(0, 0));
     esquina_->setToolTip(QStringLiteral("Seleccionar todo"));
@@ -142,6 +144,16 @@ void MSFlexGrid::contextMenuEvent(QContextMenuEvent* evento) {
         ->setEnabled(selectionModel()->hasSelection());
     menu->addAction(QStringLiteral("&Seleccionar todo\tCtrl+A"), this, &MSFlexGrid::selectAll);
     menu->popup(evento->globalPos());
+}
+
+// A header keeps a record for every row. A grid that has never been shown does without: with hundreds of pages of
+// thousands of rows that is a sixth of the memory of the registers themselves.
+void MSFlexGrid::showEvent(QShowEvent* evento) {
+    if (verticalHeader()->model() != modelo_) {
+        verticalHeader()->setModel(modelo_);
+        verticalHeader()->setSelectionModel(selectionModel());
+    }
+    QTableView::showEvent(evento);
 }
 
 void MSFlexGrid::changeEvent(QEvent* evento) {

@@ -1,7 +1,7 @@
 #include "platform/grid/ModeloCuadricula.h"
 
 ModeloCuadricula::ModeloCuadricula(const FuenteCuadricula& fuente, QObject* padre)
-    : QAbstractTableModel(padre), fuente_(fuente), filas_(fuente.filas() - 1) {}
+    : QAbstractTableModel(padre), fuente_(fuente) {}
 
 int ModeloCuadricula::rowCount(const QModelIndex& padre) const {
     return padre.isValid() ? 0 : filas_;

@@ -11,7 +11,7 @@ class ModeloCuadricula : public QAbstractTableModel {
     Q_OBJECT
 
 public:
-    // The source is borrowed and outlives the model.
+    // The source is borrowed and outlives the model, which begins without rows.
     ModeloCuadricula(const FuenteCuadricula& fuente, QObject* padre);
 
     int rowCount(const QModelIndex& padre = {}) const override;
@@ -24,5 +24,5 @@ public:
 
 private:
     const FuenteCuadricula& fuente_;
-    int filas_; // headings not counted
+    int filas_ = 0; // headings not counted
 };

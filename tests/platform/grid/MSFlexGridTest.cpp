@@ -139,6 +139,21 @@ private Q_SLOTS:
         QCOMPARE(grid_->selectionModel()->selectedIndexes(), QModelIndexList{celda(50, 2)});
     }
 
+    void aGridThatWasNeverShownIsUsableAndShowsItsRowsLater() {
+        MSFlexGrid otra(fuente_);
+        fuente_.filas_ = 100;
+        otra.refrescar();
+        QCOMPARE(otra.model()->rowCount(), 99);
+        otra.setCurrentIndex(otra.model()->index(49, 1));
+        QCOMPARE(otra.Row(), 50);
+        otra.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&otra));
+        QCOMPARE(otra.verticalHeader()->count(), 99);
+        QCOMPARE(otra.verticalHeader()->selectionModel(), otra.selectionModel());
+        QCOMPARE(otra.Row(), 50);
+        QVERIFY(otra.rowHeight(98) >= otra.fontMetrics().height());
+    }
+
     void refreshingPaintsAgain() {
         QTest::qWait(0);
         ContadorDePinturas contador(grid_->viewport());

@@ -1,5 +1,6 @@
-#include "CajaDeMensaje.h"
 #include "platform/window/MsgBox.h"
+
+#include "CajaDeMensaje.h"
 
 class TestMsgBox : public QObject {
     Q_OBJECT
