@@ -43,7 +43,7 @@ void comprobarRespuesta(Bytes respuesta) {
     }
 }
 
-class Maestro : public Conexion {
+class Maestro final : public Conexion {
 public:
     explicit Maestro(std::uint8_t interruptores)
         : abierta_((interruptores & 2) == 0), enviosBuenos_((interruptores & 4) == 0 ? -1 : 1) {}
@@ -60,7 +60,7 @@ private:
     int enviosBuenos_; // -1: no send fails
 };
 
-class RelojParado : public Reloj {
+class RelojParado final : public Reloj {
 public:
     std::string_view hora() override { return "00:00:00"; }
 };

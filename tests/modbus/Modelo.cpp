@@ -26,7 +26,7 @@ std::string texto(double numero) {
 std::string respuestaComoTexto(const Datos& respuesta) {
     std::string R;
     for (const int b : respuesta)
-        R = R + ' ' + texto(b);
+        R += " " + texto(b);
     return R;
 }
 
@@ -113,7 +113,7 @@ void Estacion::ampliarTablaMW(double esclavo, double direccion, double margen) {
         return;
     registro.primero.redimensionar(direccion + margen);
     registro.Valores.redimensionar(direccion + margen);
-    for (double a = anterior + 1; a <= registro.Valores.limite(); ++a) {
+    for (int a = static_cast<int>(anterior) + 1; a <= registro.Valores.limite(); ++a) {
         registro.primero(a) = a;
         darValorEsclavoLogico(esclavo, a, 0);
     }
@@ -153,8 +153,8 @@ Datos Estacion::leerRegistrosComoBytes(double esclavo, double inicio, double can
         ampliarTablaMW(esclavo, inicio - cantidad, 2 * cantidad);
 
     std::string piezas;
-    double tomados = 0;
-    for (double a = inicio; a <= Esclavos(esclavo).Valores.limite() && tomados < cantidad; ++a) {
+    int tomados = 0;
+    for (int a = static_cast<int>(inicio); a <= Esclavos(esclavo).Valores.limite() && tomados < cantidad; ++a) {
         if (Esclavos(esclavo).primero(a) != inicio + tomados)
             continue;
         const double valor = Esclavos(esclavo).Valores(a);
@@ -206,7 +206,7 @@ void Estacion::recorrer(const Datos& datos, Socket& k) {
         }
         std::string T = texto(byte(datos, i));
         for (std::size_t n = 1; n <= 8; ++n)
-            T = T + " " + texto(byte(datos, i + n));
+            T += " " + texto(byte(datos, i + n));
         if (f == 6)
             escritura(datos, i, T, k);
         else
@@ -218,7 +218,7 @@ void Estacion::recorrer(const Datos& datos, Socket& k) {
 void Estacion::escritura(const Datos& datos, std::size_t i, std::string T, Socket& k) {
     const double s = byte(datos, i + 6);
     for (std::size_t n = 9; n <= 11; ++n)
-        T = T + " " + texto(byte(datos, i + n));
+        T += " " + texto(byte(datos, i + n));
     const double direccion = byte(datos, i + 8) * 256 + byte(datos, i + 9);
     const double valor = byte(datos, i + 10) * 256 + byte(datos, i + 11);
     Datos respuesta(12);
@@ -249,7 +249,7 @@ void Estacion::lectura(const Datos& datos, std::size_t i, std::string T, Socket&
     if (!casillasDe(s).ChRecibir)
         return;
     for (std::size_t n = 9; n <= 11; ++n)
-        T = T + " " + texto(byte(datos, i + n));
+        T += " " + texto(byte(datos, i + n));
     if (ChRxTx)
         agregarTramas(s, hora + " ( <-RX- Lectura ) " + T + "\r\n");
     if (!casillasDe(s).ChResponder)
@@ -283,7 +283,7 @@ void Estacion::excepcion(const Datos& datos, std::size_t i, double f, bool funci
         const int b = byte(datos, j + i);
         if (copiados < 6)
             E[copiados++] = static_cast<std::uint8_t>(b);
-        T = T + texto(b) + " ";
+        T += texto(b) + " ";
     }
     E[5] = 3;
     E[7] = static_cast<std::uint8_t>(E[7] + 128);
@@ -298,7 +298,7 @@ void Estacion::excepcion(const Datos& datos, std::size_t i, double f, bool funci
     if (ChRxTx) {
         T = "";
         for (const int b : E)
-            T = T + texto(b) + " ";
+            T += texto(b) + " ";
         agregarTramas(s, hora + " ( -TX-> RESPUESTA ) " + T + "\r\n");
     }
 }

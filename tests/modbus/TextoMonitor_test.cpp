@@ -5,7 +5,7 @@
 
 namespace {
 
-class Contador : public ObservadorTexto {
+class Contador final : public ObservadorTexto {
 public:
     void textoCambiado() override { ++llamadas; }
 

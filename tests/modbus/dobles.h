@@ -12,7 +12,7 @@
 using Bytes = std::vector<std::uint8_t>;
 
 // A socket that keeps what is sent on it.
-class ConexionFalsa : public Conexion {
+class ConexionFalsa final : public Conexion {
 public:
     bool conectada() const override { return abierta; }
     std::string_view direccionRemota() const override { return remota; }
@@ -31,7 +31,7 @@ public:
 };
 
 // A clock that stands still.
-class RelojFijo : public Reloj {
+class RelojFijo final : public Reloj {
 public:
     std::string_view hora() override { return texto; }
 

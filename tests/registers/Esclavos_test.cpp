@@ -104,7 +104,7 @@ TEST_F(Store, pagesStayWhereTheyAreWhenSlavesAreAdded) {
 }
 
 TEST_F(Store, observerHearsOfEverySlaveOnceWithItsTableReady) {
-    struct Observador : ObservadorEsclavos {
+    struct Observador final : ObservadorEsclavos {
         void esclavoCreado(Pagina& pagina) override {
             numeros.push_back(pagina.numero());
             filas.push_back(pagina.filas());

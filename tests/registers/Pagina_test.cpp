@@ -5,7 +5,7 @@
 
 namespace {
 
-class Contador : public ObservadorPagina {
+class Contador final : public ObservadorPagina {
 public:
     void paginaCambiada(Pagina& pagina) override {
         ++llamadas;
