@@ -1,12 +1,11 @@
 // libmodbus_master PORT COUNT: COUNT libmodbus masters connected to 127.0.0.1 at once. Each writes a register of its
 // own, reads it back with both functions, and is refused a coil. Exit status 0 when everything was as expected.
 
-#include <modbus/modbus.h>
-
 #include <cerrno>
 #include <cstdio>
 #include <cstdlib>
 #include <memory>
+#include <modbus/modbus.h>
 #include <vector>
 
 namespace {

@@ -1,5 +1,6 @@
-#include "ParSerie.h"
 #include "platform/serial/MSComm.h"
+
+#include "ParSerie.h"
 
 #include <QDeadlineTimer>
 #include <QSignalSpy>
