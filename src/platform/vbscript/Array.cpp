@@ -122,7 +122,7 @@ void ArrayBlock::resizeLast(std::int32_t size) {
 
 ArrayBlock& writableArray(Value& array) {
     ArrayBlock* block = array.array();
-    if (block->references > 1) {
+    if (block->references > 1 + static_cast<std::uint32_t>(block->locks)) {
         array = Value::ofArray(block->clone());
     }
     return *array.array();

@@ -34,7 +34,8 @@ public:
     // New upper bound of the last dimension, contents kept; the caller holds the only reference.
     void resizeLast(std::int32_t size);
 
-    // While locked (a For Each runs over it) ReDim and Erase raise error 10.
+    // While a For Each runs over the array it holds a lock and a reference: writes still go in place, but ReDim and
+    // Erase raise error 10.
     int locks = 0;
 
 private:

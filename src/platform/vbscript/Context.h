@@ -64,6 +64,9 @@ public:
     // To be called now and then by builtins that may run long; raises when the script was stopped or its time is up.
     virtual void poll() = 0;
 
+    // Ends the running text at once; no On Error sees it.
+    [[noreturn]] virtual void interrupt() { raise(ErrorNumber::Stopped); }
+
 private:
     const Locale* m_locale;
     std::array<Value, 256> m_characters;

@@ -117,6 +117,8 @@ constexpr Entry entries[] = {
     {RegexBracket, u"Se esperaba ']' en la expresión regular"},
     {RegexParenthesis, u"Se esperaba ')' en la expresión regular"},
     {RegexRange, u"Intervalo no válido en el conjunto de caracteres"},
+    {TimedOut, u"Se agotó el tiempo de ejecución de la secuencia de comandos"},
+    {Stopped, u"La secuencia de comandos se detuvo"},
     {ElementNotFound, u"No se encontró el elemento"},
 };
 
@@ -136,6 +138,12 @@ bool hasErrorText(std::int32_t number) noexcept {
 String errorText(std::int32_t number) {
     const Entry* entry = find(number);
     return String(std::u16string_view(entry != nullptr ? entry->text : u"Error desconocido en tiempo de ejecución"));
+}
+
+String errorSource(std::int32_t number) {
+    const bool compiling = number >= 1001 && number < 2000;
+    return String(std::u16string_view(compiling ? u"Error de compilación de VBScript"
+                                                : u"Error en tiempo de ejecución de VBScript"));
 }
 
 void raise(ErrorNumber number) {

@@ -54,6 +54,8 @@ enum class ErrorNumber : std::int32_t {
     InvalidReference = 505,
     ClassUndefined = 506,
     ExceptionOccurred = 507,
+    TimedOut = 32765,
+    Stopped = 32766,
     ElementNotFound = 32811,
     // compile time
     OutOfMemoryCompiling = 1001,
@@ -119,6 +121,9 @@ enum class ErrorNumber : std::int32_t {
 // Standard Spanish text of a number; the general text for numbers that have none.
 String errorText(std::int32_t number);
 
+// What Err.Source says of an error that the engine itself raises.
+String errorSource(std::int32_t number);
+
 // True for the numbers that have a text of their own.
 bool hasErrorText(std::int32_t number) noexcept;
 
@@ -129,6 +134,8 @@ struct ScriptError {
     String source;
     String helpFile;
     std::int32_t helpContext = 0;
+    std::uint32_t line = 0; // of the statement that failed, from 1; 0 while it is not known
+    std::uint32_t column = 0;
 };
 
 [[noreturn]] void raise(ErrorNumber number);

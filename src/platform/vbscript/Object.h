@@ -59,6 +59,12 @@ public:
     // Objects with the same non-null shape resolve every name alike, so the machine may remember the numbers.
     const void* shape = nullptr;
 
+    // What the machine treats in a way of its own.
+    enum class Role : std::uint8_t { Native, Instance, ProcedureReference, Iterator };
+    Role role = Role::Native;
+    // True for an object that writes through by-reference arguments; the others get plain values.
+    bool takesReferences = false;
+
     // Called when the last reference goes; deletes the object, now or (in long chains) a little later.
     static void lastReferenceGone(Object* object) noexcept;
 

@@ -1,0 +1,371 @@
+#include "platform/vbscript/Compiler.h"
+
+#include "platform/vbscript/CodeGen.h"
+#include "platform/vbscript/Convert.h"
+#include "platform/vbscript/Operators.h"
+#include "platform/vbscript/Parser.h"
+
+#include <algorithm>
+
+namespace vbs {
+
+UnitScope::UnitScope(const Ast& theAst, SymbolTable& theSymbols, Globals& theGlobals, Unit& theUnit)
+    : ast(theAst), symbols(theSymbols), globals(theGlobals), unit(theUnit) {
+    for (const ProcedureDecl* procedure : ast.procedures) {
+        m_procedures[procedure->name] = procedure;
+    }
+    for (const ClassDecl* decl : ast.classes) {
+        m_classes.insert(decl->name);
+    }
+    for (const Variable& variable : ast.main.variables) {
+        m_variables.insert(variable.name);
+    }
+    for (const ConstDecl& constant : ast.main.constants) {
+        m_constants.insert(constant.name);
+    }
+}
+
+void UnitScope::makeImplicit(Symbol symbol) {
+    if (m_implicit.insert(symbol).second) {
+        unit.implicit.push_back(globals.slotOf(symbol));
+    }
+}
+
+Resolved UnitScope::resolve(Symbol symbol) {
+    Resolved r;
+    const auto procedure = m_procedures.find(symbol);
+    const std::uint32_t existing = globals.find(symbol);
+    const GlobalKind kind = existing == Globals::none ? GlobalKind::Undefined : globals.kind(existing);
+    const bool own = m_variables.contains(symbol) || m_constants.contains(symbol) || m_implicit.contains(symbol);
+    if (procedure == m_procedures.end() && !m_classes.contains(symbol) && !own && kind == GlobalKind::Undefined) {
+        const std::u16string& name = symbols.folded(symbol);
+        r.special = name == u"execute"         ? Special::Execute
+                    : name == u"executeglobal" ? Special::ExecuteGlobal
+                    : name == u"eval"          ? Special::Eval
+                    : name == u"getref"        ? Special::GetRef
+                                               : Special::None;
+        r.builtin = r.special == Special::None ? findBuiltin(name) : nullptr;
+        if (r.special != Special::None || r.builtin != nullptr) {
+            r.kind = r.special != Special::None ? Resolved::Kind::Special : Resolved::Kind::Intrinsic;
+            return r;
+        }
+    }
+    r.slot = globals.slotOf(symbol);
+    r.operand = operandOf(Place::Global, r.slot);
+    if (procedure != m_procedures.end()) {
+        r.kind = Resolved::Kind::Callable;
+        r.procedure = procedure->second;
+    } else if (m_classes.contains(symbol)) {
+        r.kind = Resolved::Kind::Callable;
+    } else if (m_constants.contains(symbol)) {
+        r.kind = Resolved::Kind::Constant;
+    } else if (own || kind == GlobalKind::Variable) {
+        r.kind = Resolved::Kind::Variable;
+    } else if (kind == GlobalKind::Callable) {
+        r.kind = Resolved::Kind::Callable;
+    } else if (kind != GlobalKind::Undefined) {
+        r.kind = Resolved::Kind::Constant;
+    }
+    return r;
+}
+
+bool UnitScope::writesParameter(const ProcedureDecl& procedure, std::size_t index) {
+    const Symbol name = procedure.parameters[index].name;
+    const auto contains = [name](const std::vector<Symbol>& list) {
+        return std::find(list.begin(), list.end(), name) != list.end();
+    };
+    if (procedure.dynamicScope || contains(procedure.assigned) || contains(procedure.changed)) {
+        return true;
+    }
+    return std::any_of(procedure.passed.begin(), procedure.passed.end(), [&](const Passed& passed) {
+        return passed.name == name && mayWriteArgument(procedure, index, passed);
+    });
+}
+
+bool UnitScope::mayWriteArgument(const ProcedureDecl& caller, std::size_t callerIndex, const Passed& passed) {
+    if (passed.callee == noSymbol) {
+        return true;
+    }
+    const auto named = [&passed](const auto& entry) { return entry.name == passed.callee; };
+    if (std::any_of(caller.parameters.begin(), caller.parameters.end(), named) ||
+        std::any_of(caller.variables.begin(), caller.variables.end(), named)) {
+        return false; // an array that is indexed
+    }
+    const Resolved callee = resolve(passed.callee);
+    if (callee.kind == Resolved::Kind::Intrinsic || callee.kind == Resolved::Kind::Variable) {
+        return false;
+    }
+    if (callee.procedure == nullptr || passed.index >= callee.procedure->parameters.size()) {
+        return true;
+    }
+    const bool itself = callee.procedure == &caller && passed.index == callerIndex;
+    return !itself && !callee.procedure->parameters[passed.index].byValue;
+}
+
+namespace {
+
+// A context for folding constants: no objects can occur.
+class FoldingContext : public Context {
+public:
+    explicit FoldingContext(Host& theHost) : Context(theHost) {}
+    Value defaultValue(const Value& /*object*/) override { raise(ErrorNumber::TypeMismatch); }
+    Value call(const Value& /*procedure*/, Arguments /*arguments*/) override { raise(ErrorNumber::TypeMismatch); }
+    void adopt(Object& /*object*/) override {}
+    void abandon(Object& /*object*/) noexcept override {}
+    void poll() override {}
+};
+
+Value foldBinary(Context& context, BinaryOp op, const Value& a, const Value& b) {
+    switch (op) {
+    case BinaryOp::Add:
+        return add(context, a, b);
+    case BinaryOp::Subtract:
+        return subtract(context, a, b);
+    case BinaryOp::Multiply:
+        return multiply(context, a, b);
+    case BinaryOp::Divide:
+        return divide(context, a, b);
+    case BinaryOp::IntegerDivide:
+        return integerDivide(context, a, b);
+    case BinaryOp::Modulo:
+        return modulo(context, a, b);
+    case BinaryOp::Power:
+        return power(context, a, b);
+    case BinaryOp::Concatenate:
+        return concatenate(context, a, b);
+    case BinaryOp::And:
+        return logicalAnd(context, a, b);
+    case BinaryOp::Or:
+        return logicalOr(context, a, b);
+    case BinaryOp::Xor:
+        return logicalXor(context, a, b);
+    default:
+        raise(ErrorNumber::ExpectedLiteral);
+    }
+}
+
+Value fold(Context& context, const Expr& e, const std::unordered_map<Symbol, const Expr*>& known, int depth) {
+    if (depth > 100) {
+        raise(ErrorNumber::ExpectedLiteral);
+    }
+    switch (e.kind) {
+    case Expr::Kind::Literal:
+        return e.value;
+    case Expr::Kind::Parentheses:
+    case Expr::Kind::Plus:
+        return fold(context, *e.a, known, depth + 1);
+    case Expr::Kind::Negate:
+        return negate(context, fold(context, *e.a, known, depth + 1));
+    case Expr::Kind::Not:
+        return logicalNot(context, fold(context, *e.a, known, depth + 1));
+    case Expr::Kind::Binary:
+        return foldBinary(context, e.op, fold(context, *e.a, known, depth + 1), fold(context, *e.b, known, depth + 1));
+    case Expr::Kind::Name:
+        if (const auto found = known.find(e.symbol); found != known.end()) {
+            return fold(context, *found->second, known, depth + 1);
+        }
+        [[fallthrough]];
+    default:
+        raise(ErrorNumber::ExpectedLiteral);
+    }
+}
+
+} // namespace
+
+Value foldConstant(const Expr& e, const std::unordered_map<Symbol, const Expr*>& known, int depth) {
+    Host host;
+    FoldingContext context(host);
+    try {
+        return fold(context, e, known, depth);
+    } catch (const ScriptError&) {
+        throw CompileError{ErrorNumber::ExpectedLiteral, e.at};
+    }
+}
+
+namespace {
+
+void addMember(ScriptClass& cls, const ProcedureDecl& decl, const Procedure* procedure, const SymbolTable& symbols) {
+    const auto [entry, added] = cls.index.try_emplace(decl.name, static_cast<int>(cls.members.size()));
+    if (added) {
+        cls.members.emplace_back();
+        cls.members.back().isPrivate = decl.isPrivate;
+    }
+    ClassMember& member = cls.members[static_cast<std::size_t>(entry->second)];
+    using PK = ProcedureDecl::Kind;
+    (decl.kind == PK::PropertyGet   ? member.get
+     : decl.kind == PK::PropertyLet ? member.let
+     : decl.kind == PK::PropertySet ? member.set
+                                    : member.method) = procedure;
+    if (decl.isDefault) {
+        cls.defaultMember = entry->second;
+    }
+    const std::u16string& name = symbols.folded(decl.name);
+    if (name == u"class_initialize") {
+        cls.initialize = procedure;
+    } else if (name == u"class_terminate") {
+        cls.terminate = procedure;
+    }
+}
+
+// Odd numbers, so that no address of a native table can equal one.
+const void* freshShape(SymbolTable& symbols) noexcept {
+    return reinterpret_cast<const void*>((symbols.nextSerial() << 1) | 1U); // NOLINT(performance-no-int-to-ptr)
+}
+
+// Declares the class: its fields and, still without code, its procedures.
+std::unique_ptr<ScriptClass> declareClass(const ClassDecl& decl, Unit& unit, SymbolTable& symbols,
+                                          std::vector<std::pair<const ProcedureDecl*, Procedure*>>& bodies) {
+    auto cls = std::make_unique<ScriptClass>();
+    cls->unit = &unit;
+    cls->name = decl.name;
+    cls->spelling = symbols.name(decl.name);
+    cls->shape = freshShape(symbols);
+    cls->fields = decl.fields;
+    for (std::size_t i = 0; i < decl.fields.size(); ++i) {
+        cls->index[decl.fields[i].name] = static_cast<int>(cls->members.size());
+        ClassMember& member = cls->members.emplace_back();
+        member.field = static_cast<int>(i);
+        member.isPrivate = decl.fields[i].isPrivate;
+    }
+    for (const ProcedureDecl* body : decl.members) {
+        Procedure* procedure = unit.procedures.emplace_back(std::make_unique<Procedure>()).get();
+        procedure->owner = cls.get();
+        bodies.emplace_back(body, procedure);
+        addMember(*cls, *body, procedure, symbols);
+    }
+    return cls;
+}
+
+// What a unit defines among the globals.
+void declareGlobals(UnitScope& scope) {
+    const ProcedureDecl& main = scope.ast.main;
+    std::unordered_map<Symbol, const Expr*> known;
+    for (const ConstDecl& decl : main.constants) {
+        known[decl.name] = decl.value;
+    }
+    for (const ConstDecl& decl : main.constants) {
+        scope.unit.constants.emplace_back(scope.globals.slotOf(decl.name), foldConstant(*decl.value, known));
+    }
+    for (const Variable& variable : main.variables) {
+        scope.unit.variables.push_back(scope.globals.slotOf(variable.name));
+    }
+    if (scope.ast.optionExplicit) {
+        for (const Symbol symbol : main.redimmed) {
+            if (scope.resolve(symbol).kind == Resolved::Kind::Unknown) {
+                scope.makeImplicit(symbol);
+            }
+        }
+        return;
+    }
+    const auto makeImplicit = [&scope](Symbol symbol) {
+        if (scope.resolve(symbol).kind == Resolved::Kind::Unknown) {
+            scope.makeImplicit(symbol);
+        }
+    };
+    std::for_each(main.assigned.begin(), main.assigned.end(), makeImplicit);
+    for (const Passed& passed : main.passed) {
+        makeImplicit(passed.name);
+    }
+}
+
+void checkRedefinitions(const Ast& ast) {
+    std::unordered_set<Symbol> names;
+    for (const Variable& variable : ast.main.variables) {
+        names.insert(variable.name);
+    }
+    for (const ConstDecl& constant : ast.main.constants) {
+        names.insert(constant.name);
+    }
+    for (const ProcedureDecl* procedure : ast.procedures) {
+        if (names.contains(procedure->name)) {
+            throw CompileError{ErrorNumber::NameRedefined, procedure->at};
+        }
+    }
+    for (const ClassDecl* decl : ast.classes) {
+        if (!names.insert(decl->name).second) {
+            throw CompileError{ErrorNumber::NameRedefined, decl->at};
+        }
+    }
+}
+
+// Compiles everything but the main procedure.
+void compileDeclarations(UnitScope& scope) {
+    const Ast& ast = scope.ast;
+    Unit& unit = scope.unit;
+    checkRedefinitions(ast);
+    std::vector<std::pair<const ProcedureDecl*, Procedure*>> bodies;
+    for (const ClassDecl* decl : ast.classes) {
+        unit.classes.push_back(declareClass(*decl, unit, scope.symbols, bodies));
+        unit.callables.emplace_back(scope.globals.slotOf(decl->name), unit.classes.back().get());
+    }
+    for (const ProcedureDecl* decl : ast.procedures) {
+        Procedure* procedure = unit.procedures.emplace_back(std::make_unique<Procedure>()).get();
+        bodies.emplace_back(decl, procedure);
+        unit.callables.emplace_back(scope.globals.slotOf(decl->name), procedure);
+    }
+    for (const auto& [decl, procedure] : bodies) {
+        CodeGen(scope, *decl, *procedure, procedure->owner).generate();
+    }
+}
+
+} // namespace
+
+Unit* Compiler::compile(std::u16string_view text) {
+    Parser parser(text, m_symbols);
+    const std::unique_ptr<Ast> ast = parser.parse();
+    auto unit = std::make_unique<Unit>();
+    UnitScope scope(*ast, m_symbols, m_globals, *unit);
+    declareGlobals(scope);
+    compileDeclarations(scope);
+    CodeGen(scope, ast->main, unit->main, nullptr).generate();
+    return unit.release();
+}
+
+Unit* Compiler::compileLocal(std::u16string_view text, const LocalScope& localScope, std::vector<Symbol>& created) {
+    Parser parser(text, m_symbols);
+    const std::unique_ptr<Ast> ast = parser.parse();
+    auto unit = std::make_unique<Unit>();
+    UnitScope scope(*ast, m_symbols, m_globals, *unit);
+    compileDeclarations(scope);
+    CodeGen main(scope, ast->main, unit->main, localScope.owner);
+    for (const Symbol name : localScope.names) {
+        main.addCaptured(name);
+    }
+    const auto known = [&](Symbol name) {
+        return std::find(localScope.names.begin(), localScope.names.end(), name) != localScope.names.end() ||
+               std::find(created.begin(), created.end(), name) != created.end() ||
+               (localScope.owner != nullptr && localScope.owner->find(name) != nullptr);
+    };
+    for (const Variable& variable : ast->main.variables) {
+        if (!known(variable.name)) {
+            created.push_back(variable.name);
+        }
+    }
+    for (const Symbol name : ast->main.assigned) {
+        if (!known(name) && scope.resolve(name).kind == Resolved::Kind::Unknown) {
+            created.push_back(name);
+        }
+    }
+    for (const Symbol name : created) {
+        main.addCaptured(name);
+    }
+    main.generate();
+    return unit.release();
+}
+
+Unit* Compiler::compileExpression(std::u16string_view text, const LocalScope& localScope) {
+    const Symbol result = m_symbols.intern(u"(eval)");
+    Parser parser(text, m_symbols);
+    const std::unique_ptr<Ast> ast = parser.parseExpression(result);
+    ast->main.name = result;
+    auto unit = std::make_unique<Unit>();
+    UnitScope scope(*ast, m_symbols, m_globals, *unit);
+    CodeGen main(scope, ast->main, unit->main, localScope.owner);
+    for (const Symbol name : localScope.names) {
+        main.addCaptured(name);
+    }
+    main.generate();
+    return unit.release();
+}
+
+} // namespace vbs

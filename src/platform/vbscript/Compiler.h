@@ -1,0 +1,39 @@
+// Text to Unit: parses, resolves names to slots and makes the code. Names of the engine's global scope are looked up
+// (and new ones get slots), but nothing there is defined before the unit runs.
+#pragma once
+
+#include "platform/vbscript/Ast.h"
+#include "platform/vbscript/Globals.h"
+#include "platform/vbscript/Program.h"
+
+#include <memory>
+#include <span>
+#include <string_view>
+
+namespace vbs {
+
+// The place from which Execute and Eval see their names: the locals of the procedure that runs them come as references
+// in the first registers of the unit's main procedure, in this order.
+struct LocalScope {
+    std::span<const Symbol> names;
+    const ScriptClass* owner = nullptr; // class of Me, if any
+};
+
+class Compiler {
+public:
+    Compiler(SymbolTable& symbols, Globals& globals) noexcept : m_symbols(symbols), m_globals(globals) {}
+
+    // Throws CompileError; the unit has one reference, which is the caller's.
+    Unit* compile(std::u16string_view text);
+    // Execute inside a procedure. `created` receives the names that the text makes in the local scope; their references
+    // follow those of `scope.names`.
+    Unit* compileLocal(std::u16string_view text, const LocalScope& scope, std::vector<Symbol>& created);
+    // Eval: the main procedure is a function that answers the value of the expression.
+    Unit* compileExpression(std::u16string_view text, const LocalScope& scope);
+
+private:
+    SymbolTable& m_symbols;
+    Globals& m_globals;
+};
+
+} // namespace vbs

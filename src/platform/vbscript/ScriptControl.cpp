@@ -1,0 +1,117 @@
+#include "platform/vbscript/ScriptControl.h"
+
+#include "platform/vbscript/Vm.h"
+
+namespace vbs {
+
+struct ScriptControl::Added {
+    std::u16string name;
+    Ref<Object> object;
+};
+
+namespace {
+
+// Line `number` (from 1) of a text, without its end.
+std::u16string_view lineOf(std::u16string_view text, std::uint32_t number) {
+    for (std::uint32_t line = 1;; ++line) {
+        const std::size_t end = text.find_first_of(u"\r\n");
+        if (line == number || end == std::u16string_view::npos) {
+            return line == number ? text.substr(0, end) : std::u16string_view();
+        }
+        const bool pair = text[end] == u'\r' && end + 1 < text.size() && text[end + 1] == u'\n';
+        text.remove_prefix(end + (pair ? 2 : 1));
+    }
+}
+
+} // namespace
+
+ScriptControl::ScriptControl(Host& host)
+    : m_host(host), m_vm(std::make_unique<Vm>(host)), m_ceiling(m_vm->memoryCeiling) {}
+
+ScriptControl::~ScriptControl() = default;
+
+void ScriptControl::addObject(std::u16string_view name, Ref<Object> object) {
+    m_vm->addObject(name, *object);
+    m_objects.push_back({std::u16string(name), std::move(object)});
+}
+
+bool ScriptControl::addCode(std::string_view utf8) {
+    return addCode(std::u16string_view(fromUtf8(utf8)));
+}
+
+bool ScriptControl::check(std::string_view utf8) {
+    return check(std::u16string_view(fromUtf8(utf8)));
+}
+
+bool ScriptControl::fail(std::int32_t number, std::u16string_view text, std::uint32_t line, std::uint32_t column) {
+    m_failure.number = number;
+    m_failure.line = line;
+    m_failure.column = column;
+    if (m_failure.description.empty()) {
+        m_failure.description = errorText(number).view();
+    }
+    if (m_failure.source.empty()) {
+        m_failure.source = errorSource(number).view();
+    }
+    if (line > 0) {
+        m_failure.lineText = lineOf(text, line);
+    }
+    return false;
+}
+
+bool ScriptControl::addCode(std::u16string_view text) {
+    m_failure = {};
+    try {
+        m_vm->runUnit(m_vm->unitOf(text));
+        return true;
+    } catch (const CompileError& failure) {
+        return fail(static_cast<std::int32_t>(failure.number), text, failure.position.line, failure.position.column);
+    } catch (const ScriptError& failure) {
+        m_failure.description = failure.description.view();
+        m_failure.source = failure.source.view();
+        return fail(failure.number, text, failure.line, failure.column);
+    } catch (const std::bad_alloc&) {
+        return fail(static_cast<std::int32_t>(ErrorNumber::OutOfMemory), text, 0, 0);
+    }
+}
+
+bool ScriptControl::check(std::u16string_view text) {
+    m_failure = {};
+    try {
+        delete m_vm->compiler().compile(text);
+        return true;
+    } catch (const CompileError& failure) {
+        return fail(static_cast<std::int32_t>(failure.number), text, failure.position.line, failure.position.column);
+    } catch (const ScriptError& failure) {
+        return fail(failure.number, text, 0, 0);
+    } catch (const std::bad_alloc&) {
+        return fail(static_cast<std::int32_t>(ErrorNumber::OutOfMemory), text, 0, 0);
+    }
+}
+
+void ScriptControl::setTimeout(std::chrono::milliseconds timeout) {
+    m_timeout = timeout;
+    m_vm->timeoutMilliseconds = static_cast<double>(timeout.count());
+}
+
+void ScriptControl::setMemoryCeiling(std::size_t bytes) {
+    m_ceiling = bytes;
+    m_vm->memoryCeiling = bytes;
+}
+
+void ScriptControl::stop() noexcept {
+    m_vm->stopRequested = 1;
+}
+
+void ScriptControl::reset() {
+    m_vm.reset();
+    m_vm = std::make_unique<Vm>(m_host);
+    m_vm->timeoutMilliseconds = static_cast<double>(m_timeout.count());
+    m_vm->memoryCeiling = m_ceiling;
+    for (const Added& added : m_objects) {
+        m_vm->addObject(added.name, *added.object);
+    }
+    m_failure = {};
+}
+
+} // namespace vbs
