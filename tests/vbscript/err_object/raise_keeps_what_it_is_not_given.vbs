@@ -1,4 +1,4 @@
 On Error Resume Next
-Err.Raise 1001, "origen", "descripción"
-Err.Raise 1002
-WScript.Echo Err.Number, Err.Source, Err.Description '> 1002 origen descripción
+Err.Raise 2001, "origen", "descripción"
+Err.Raise 2002
+WScript.Echo Err.Number, Err.Source, Err.Description '> 2002 origen descripción

@@ -1,6 +1,6 @@
 On Error Resume Next
-Err.Raise 13
-n = Err.Description
+Err.Raise 11
+texto = Err.Description
 Err.Clear
-x = CInt("abc")
-WScript.Echo Err.Number, Err.Description = n '> 13 True
+x = 1 / 0
+WScript.Echo Err.Number, Len(texto) > 0, Err.Description = texto '> 11 True True

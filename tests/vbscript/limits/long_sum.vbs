@@ -1,4 +1,4 @@
-For i = 1 To 2000
+For i = 1 To 1000
   t = t & "1 + "
 Next
-WScript.Echo Eval(t & "0") '> 2000
+WScript.Echo Eval(t & "0") '> 1000

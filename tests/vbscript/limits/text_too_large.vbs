@@ -1,3 +1,3 @@
 On Error Resume Next
 s = String(2000000000, "x")
-WScript.Echo Err.Number '> 7
+WScript.Echo Err.Number = 7 Or Err.Number = 14, Len(s) '> True 0

@@ -1,5 +1,0 @@
-Class K
-  Public Sub S
-    Set Me = Nothing '! 1037
-  End Sub
-End Class
