@@ -180,7 +180,7 @@ String formatDate(double date, std::u16string_view pattern, const Locale& locale
 String dateText(double date, const Locale& locale) {
     const CivilTime t = civilTime(date);
     const bool midnight = t.hour == 0 && t.minute == 0 && t.second == 0;
-    if (daysOf(date) == 0.0 && !midnight) {
+    if (daysOf(date) == 0.0) {
         return formatDate(date, locale.longTime, locale);
     }
     String text = formatDate(date, locale.shortDate, locale);

@@ -46,7 +46,7 @@ int daysInMonth(int year, int month) noexcept;
 // a day and a month alone lie in `thisYear` (0: they are no date).
 std::optional<double> parseDate(std::u16string_view text, const Locale& locale, int thisYear = 0);
 
-// Short date, a blank and long time; only the date when the time is midnight, only the time on day 0.
+// Short date, a blank and long time; only the time on day 0, else only the date when the time is midnight.
 String dateText(double date, const Locale& locale);
 // Writes a date after a pattern of Locale.
 String formatDate(double date, std::u16string_view pattern, const Locale& locale);

@@ -1,3 +1,1 @@
-On Error Resume Next
-x = FormatNumber(Null)
-WScript.Echo Err.Number <> 0 '> True
+x = FormatNumber(Null) '! 94

@@ -1,0 +1,1 @@
+x = Weekday(Now, 8) '! 5

@@ -1,0 +1,2 @@
+Set d = CreateObject("Scripting.Dictionary")
+d.CompareMode = -1 '! 5

@@ -1,0 +1,3 @@
+Set d = CreateObject("Scripting.Dictionary")
+d("a") = 1
+x = d.Key("a") '! 450

@@ -1,0 +1,2 @@
+WScript.Echo Len(FormatNumber(1, 255)) '> 257
+x = FormatNumber(1, 256) '! 5

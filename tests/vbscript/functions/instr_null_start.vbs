@@ -1,0 +1,1 @@
+x = InStr(Null, "abc", "a") '! 94

@@ -1,0 +1,1 @@
+x = MsgBox("texto", 0, "título", "ayuda.hlp") '! 5

@@ -1,0 +1,1 @@
+x = Split(Null) '! 94

@@ -1,0 +1,3 @@
+Set r = New RegExp
+r.Pattern = "^a{,3}{$"
+WScript.Echo r.Test("a{,3}{") '> True

@@ -1,0 +1,5 @@
+Set r = New RegExp
+r.Pattern = "[]"
+WScript.Echo r.Test("a") '> False
+r.Pattern = "^[^]$"
+WScript.Echo r.Test(vbLf) '> True

@@ -1,0 +1,3 @@
+Set r = New RegExp
+r.Pattern = "(?<=a)b"
+x = r.Test("ab") '! 5017

@@ -1,0 +1,3 @@
+Set r = New RegExp
+r.Pattern = "a++"
+x = r.Test("a") '! 5018
