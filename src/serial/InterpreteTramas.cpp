@@ -35,6 +35,7 @@ void InterpreteTramas::interpretarTrama(std::string_view trama) {
 // The blanks after the equals signs are uneven on purpose.
 std::string InterpreteTramas::asignaciones(std::string_view lectura, std::string_view validez) {
     std::string texto;
+    texto.reserve(lectura.size() + validez.size() + 40); // the words around them
     texto.append("AA =").append(parte(lectura, 1, 2)).append(finDeLinea);
     texto.append("MM =").append(parte(lectura, 3, 2)).append(finDeLinea);
     texto.append("DD = ").append(parte(lectura, 5, 2)).append(finDeLinea);

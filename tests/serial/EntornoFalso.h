@@ -11,6 +11,8 @@
 
 class ConfiguracionFalsa final : public ConfiguracionSerie {
 public:
+    virtual ~ConfiguracionFalsa() = default;
+
     std::map<std::string, std::string, std::less<>> valores; // by stored key, the defaults written back included
     std::vector<std::string> leidas;                         // stored keys in the order of reading
 
@@ -26,6 +28,8 @@ public:
 
 class LogFalso final : public LogSerie {
 public:
+    virtual ~LogFalso() = default;
+
     std::vector<std::string> lineas; // origin>message>detail>description
 
     void escribirLog(std::string_view origen, std::string_view mensaje, std::string_view detalle,
@@ -39,6 +43,8 @@ public:
 
 class MotorFalso final : public MotorSerie {
 public:
+    virtual ~MotorFalso() = default;
+
     std::vector<std::string> textos;
     std::string rechaza; // a text that contains this is an error; empty rejects nothing
 

@@ -55,9 +55,9 @@ class MSComm : public QObject {
     Q_OBJECT
 
 public:
-    // The most that one event hands out (a little more when the last read brings more), so that a device that never
-    // pauses does not hold the thread; what is left raises the next event at once.
-    static constexpr qint64 maximoEvento = 65536; // bytes
+    // The most that one event hands out, a last read included that brings more; as much as a line holds itself. A
+    // device that never pauses thus does not hold the thread; what is left raises the next event at once.
+    static constexpr qint64 maximoEvento = 4096; // bytes
 
     explicit MSComm(QString carpeta, QObject* parent = nullptr);
 

@@ -1,5 +1,6 @@
 #include "platform/window/VistaTexto.h"
 
+#include <QElapsedTimer>
 #include <QFontDatabase>
 #include <QMimeData>
 #include <QScrollBar>
@@ -12,10 +13,10 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr auto entreTurnos = 30ms;      // after the first piece of new text
-constexpr auto entreTurnosLlenos = 8ms; // while a backlog is being worked off
-constexpr auto maximoTurno = 4ms;       // of work
-constexpr qsizetype trozo = 8192;       // characters between two looks at the clock
+constexpr auto entreTurnos = 30ms; // after the first piece of new text
+constexpr auto maximoTurno = 4ms;  // of work
+constexpr int pausaPorTrabajo = 3; // a backlog takes a quarter of the time at most
+constexpr qsizetype trozo = 1024;  // characters between two looks at the clock: short lines take longest
 
 constexpr int continuacion = 1; // user state of a block that goes on with the line of the block before
 
@@ -40,9 +41,6 @@ VistaTexto::VistaTexto(QWidget* parent) : QPlainTextEdit(parent) {
     setTabChangesFocus(true);
     setWordWrapMode(QTextOption::WrapAnywhere);
     setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
-    QTextCursor cursor = textCursor();
-    cursor.setKeepPositionOnInsert(true); // a selection up to the end does not grow with the text
-    setTextCursor(cursor);
     turno_.setSingleShot(true);
     connect(&turno_, &QTimer::timeout, this, [this] { mostrar(QDeadlineTimer(maximoTurno)); });
 }
@@ -66,7 +64,12 @@ void VistaTexto::ponerAlDia() {
 }
 
 void VistaTexto::mostrar(QDeadlineTimer plazo) {
-    const bool enElFinal = verticalScrollBar()->value() == verticalScrollBar()->maximum();
+    QElapsedTimer reloj;
+    reloj.start();
+    const int fila = verticalScrollBar()->value();
+    const bool enElFinal = fila == verticalScrollBar()->maximum();
+    const int ancla = textCursor().anchor();
+    const int posicion = textCursor().position();
     QTextCursor cursor(document());
     cursor.movePosition(QTextCursor::End);
     cursor.beginEditBlock();
@@ -76,15 +79,25 @@ void VistaTexto::mostrar(QDeadlineTimer plazo) {
         mostrados_ += siguiente.size();
     } while (mostrados_ < pendiente_.size() && !plazo.hasExpired());
     cursor.endEditBlock();
-    if (enElFinal)
-        verticalScrollBar()->setValue(verticalScrollBar()->maximum());
+    seleccionar(ancla, posicion);
+    verticalScrollBar()->setValue(enElFinal ? verticalScrollBar()->maximum() : fila);
     if (mostrados_ < pendiente_.size()) {
-        turno_.start(entreTurnosLlenos);
+        turno_.start(std::chrono::milliseconds(reloj.elapsed() * pausaPorTrabajo));
     } else {
         turno_.stop();
         pendiente_.clear();
         mostrados_ = 0;
     }
+}
+
+// Caret and selection stay where they were; those at the end would go along with the text inserted there.
+void VistaTexto::seleccionar(int ancla, int posicion) {
+    QTextCursor cursor = textCursor();
+    if (cursor.anchor() == ancla && cursor.position() == posicion)
+        return;
+    cursor.setPosition(ancla);
+    cursor.setPosition(posicion, QTextCursor::KeepAnchor);
+    setTextCursor(cursor);
 }
 
 // Inserts the text; where a line would pass maximoLinea it goes on in a block marked as continuation.

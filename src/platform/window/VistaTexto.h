@@ -42,6 +42,7 @@ protected:
 
 private:
     void mostrar(QDeadlineTimer plazo);
+    void seleccionar(int ancla, int posicion);
     void insertar(QTextCursor& cursor, QStringView lineas);
     QString textoEntre(int desde, int hasta) const;
 

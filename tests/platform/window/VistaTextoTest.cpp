@@ -113,6 +113,26 @@ private Q_SLOTS:
         QCOMPARE(vista.textCursor().selectedText(), QStringLiteral("uno"));
     }
 
+    void textThatArrivesIsNotSelected() {
+        VistaTexto vista;
+        mostrarEnPantalla(vista);
+        for (int vez = 0; vez < 3; ++vez) {
+            vista.agregar(u"uno\r\n");
+            vista.ponerAlDia();
+            QVERIFY(!vista.textCursor().hasSelection());
+        }
+    }
+
+    void caretAtTheEndLeavesTheNewTextUnselected() {
+        VistaTexto vista;
+        vista.agregar(u"uno");
+        vista.ponerAlDia();
+        vista.moveCursor(QTextCursor::End);
+        vista.agregar(u"dos");
+        vista.ponerAlDia();
+        QVERIFY(!vista.textCursor().hasSelection());
+    }
+
     void boxFollowsTheEnd() {
         VistaTexto vista;
         mostrarEnPantalla(vista);
