@@ -36,7 +36,6 @@ VistaPagina::VistaPagina(const Esclavos& esclavos, Pagina& pagina, QWidget* txtT
     auto* todo = new QVBoxLayout(this);
     todo->setContentsMargins(0, 0, 0, 0);
     todo->addWidget(divisor);
-    setFocusProxy(cuadricula_);
 
     connect(cuadricula_, &MSFlexGrid::celdaActivada, this, [this](int fila, int col) {
         Q_EMIT celdaActivada(numero(), FuenteRegistros::direccion(fila, col), cuadricula_->TextMatrix(fila, col));

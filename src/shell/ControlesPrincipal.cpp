@@ -71,6 +71,7 @@ QWidget* ControlesPrincipal::columnaIzquierda(QWidget* padre) {
     TabStrip1->setUsesScrollButtons(true);
     TabStrip1->setElideMode(Qt::ElideNone);
     TabStrip1->setExpanding(false);
+
     TabStrip1->setAccessibleName(QStringLiteral("Esclavos"));
     paginas = nombrado(new QStackedWidget(columna), "paginas");
 
@@ -180,21 +181,25 @@ void ControlesPrincipal::grupoBotones(QVBoxLayout& columna, QWidget* padre) {
     columna.addLayout(rejilla);
 }
 
+void ControlesPrincipal::agregarPagina(QWidget& pagina, int numero) {
+    paginas->addWidget(&pagina);
+    QWidget* anterior = TabStrip1;
+    for (const char* nombre :
+         {"MSFlexGrid", "ChRecibir", "ChResponder", "ChRecibirEscrituras", "ChResponderEscrituras", "txtTramas"}) {
+        auto* control = pagina.findChild<QWidget*>(QStringLiteral("%1(%2)").arg(QLatin1String(nombre)).arg(numero));
+        QWidget::setTabOrder(anterior, control);
+        anterior = control;
+    }
+    const int pestana = TabStrip1->addTab(QStringLiteral("#%1").arg(numero));
+    TabStrip1->setTabData(pestana, QStringLiteral("T%1").arg(numero));
+    TabStrip1->updateGeometry(); // a tab strip that is not visible does not say by itself that it grew
+}
+
 void ControlesPrincipal::ordenarTabulacion() const {
-    QWidget* const orden[] = {TabStrip1,
-                              paginas,
-                              ListView1,
-                              txtEscrituras,
-                              BtnBorrar,
-                              chScript,
-                              BtnEdicionCodigo,
-                              ChRxTx,
-                              BtnBorrarTextosRXTX,
-                              Command2,
-                              btnVerFormularioRS232,
-                              Command1,
-                              BtnOcultar,
-                              BtnCerrar};
+    QWidget* const orden[] = {
+        TabStrip1, ListView1,           BtnBorrar, txtEscrituras,         chScript, BtnEdicionCodigo,
+        ChRxTx,    BtnBorrarTextosRXTX, Command2,  btnVerFormularioRS232, Command1, BtnOcultar,
+        BtnCerrar};
     for (std::size_t i = 1; i < std::size(orden); ++i)
         QWidget::setTabOrder(orden[i - 1], orden[i]);
 }

@@ -19,6 +19,9 @@ struct ControlesPrincipal {
     // Builds everything as children of `ventana`, which owns it. `escrituras` is what txtEscrituras shows.
     ControlesPrincipal(QWidget& ventana, TextoMonitor& escrituras);
 
+    // Adds the page of a slave and its tab; the Tab key enters the page in front from the tab strip.
+    void agregarPagina(QWidget& pagina, int numero);
+
     QTabBar* TabStrip1;
     QStackedWidget* paginas; // one VistaPagina for every tab, in creation order
 

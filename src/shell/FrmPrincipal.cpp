@@ -203,10 +203,7 @@ void FrmPrincipal::esclavoCreado(Pagina& pagina) {
     connect(vista, &VistaPagina::celdaActivada, this, &FrmPrincipal::abrirFrmMW);
     vistas_[numero] = vista;
     ponerAyudaContextual(*vista);
-    controles_->paginas->addWidget(vista);
-    const int pestana = controles_->TabStrip1->addTab(QStringLiteral("#%1").arg(numero));
-    controles_->TabStrip1->setTabData(pestana, QStringLiteral("T%1").arg(numero));
-    controles_->TabStrip1->updateGeometry(); // a tab strip that is not visible does not say by itself that it grew
+    controles_->agregarPagina(*vista, numero);
     seleccionarPestana(controles_->TabStrip1->currentIndex());
 }
 
@@ -235,8 +232,12 @@ void FrmPrincipal::alternarTxRx(bool ver) {
     monitores_.verTxRx = ver;
     if (ver && !frmTxRx_)
         frmTxRx_ = new FrmTxRx(*this, monitores_.todas());
-    if (frmTxRx_)
-        frmTxRx_->setVisible(ver);
+    if (!frmTxRx_)
+        return;
+    const bool activa = isActiveWindow();
+    frmTxRx_->setVisible(ver);
+    if (activa)
+        activateWindow(); // some window systems make every new window the active one
 }
 
 double FrmPrincipal::leerPuerto() {
