@@ -1,0 +1,52 @@
+#include "script/Modulo_Codigo.h"
+
+#include "platform/profile/Archivos.h"
+
+#include <algorithm>
+#include <cctype>
+#include <string>
+#include <string_view>
+
+namespace {
+
+bool igualSinCaja(char a, char b) {
+    return std::tolower(static_cast<unsigned char>(a)) == std::tolower(static_cast<unsigned char>(b));
+}
+
+} // namespace
+
+Modulo_Codigo::Modulo_Codigo(const AjustesCodigo& ajustes, std::filesystem::path carpetaPrograma)
+    : ajustes_(ajustes), carpetaPrograma_(std::move(carpetaPrograma)) {}
+
+std::filesystem::path Modulo_Codigo::rutaParaLeer() const {
+    const auto proyecto = ajustes_.rutaProyecto();
+    if (!existeArchivo(proyecto))
+        return rutaDelPrograma();
+    const auto candidato = rutaScriptDeProyecto(proyecto);
+    return existeArchivo(candidato) ? candidato : rutaDelPrograma();
+}
+
+std::filesystem::path Modulo_Codigo::rutaParaGuardar() const {
+    const auto proyecto = ajustes_.rutaProyecto();
+    return existeArchivo(proyecto) ? rutaScriptDeProyecto(proyecto) : rutaDelPrograma();
+}
+
+std::filesystem::path Modulo_Codigo::rutaDelPrograma() const {
+    return carpetaPrograma_ / "codigoTrelvano.txt";
+}
+
+std::filesystem::path rutaScriptDeProyecto(const std::filesystem::path& proyecto) {
+    constexpr std::string_view extensionProyecto = ".zqp";
+    constexpr std::string_view extensionScript = ".KOVAScrip";
+    std::string ruta = proyecto.string();
+    auto desde = ruta.begin();
+    for (;;) {
+        const auto hallado =
+            std::search(desde, ruta.end(), extensionProyecto.begin(), extensionProyecto.end(), igualSinCaja);
+        if (hallado == ruta.end())
+            return ruta;
+        const auto posicion = static_cast<std::size_t>(hallado - ruta.begin());
+        ruta.replace(posicion, extensionProyecto.size(), extensionScript);
+        desde = ruta.begin() + static_cast<std::ptrdiff_t>(posicion + extensionScript.size());
+    }
+}
