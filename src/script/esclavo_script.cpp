@@ -5,6 +5,8 @@
 // --comprobar only compiles; --pasadas runs every text N times in the same engine, as the station does; - reads
 // standard input. Exit status: 0 good, 1 script error, 2 usage.
 #include "platform/vbscript/ScriptControl.h"
+#include "registers/Esclavos.h"
+#include "script/ObjetoMW.h"
 #include "script/WScript.h"
 
 #include <charconv>
@@ -104,10 +106,13 @@ int main(int argc, char** argv) {
     }
     vbs::Host host;
     const auto wscript = vbs::makeObject<WScript>(std::cout, options->files);
+    Esclavos esclavos;
+    const auto mw = vbs::makeObject<ObjetoMW>(esclavos, [](double) {}); // no timer runs here
     bool good = true;
     {
         vbs::ScriptControl control(host);
         control.addObject(u"WScript", vbs::Ref<vbs::Object>(wscript.get()));
+        control.addObject(u"mw", vbs::Ref<vbs::Object>(mw.get()));
         for (const std::string& file : options->files) {
             good = runFile(control, *wscript, file, *options) && good;
             if (wscript->hasQuit()) {
