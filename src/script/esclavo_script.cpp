@@ -4,6 +4,7 @@
 //
 // --comprobar only compiles; --pasadas runs every text N times in the same engine, as the station does; - reads
 // standard input. Exit status: 0 good, 1 script error, 2 usage.
+#include "platform/vbscript/Ansi.h"
 #include "platform/vbscript/ScriptControl.h"
 #include "registers/Esclavos.h"
 #include "script/ObjetoMW.h"
@@ -79,7 +80,7 @@ bool runFile(vbs::ScriptControl& control, const WScript& wscript, const std::str
         std::cerr << file << ": no se puede leer el archivo\n";
         return false;
     }
-    const std::u16string script = vbs::fromUtf8(*text);
+    const std::u16string script = vbs::decodeScript(*text);
     if (options.checkOnly) {
         if (control.check(script)) {
             return true;

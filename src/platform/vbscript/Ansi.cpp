@@ -1,5 +1,7 @@
 #include "platform/vbscript/Ansi.h"
 
+#include "platform/vbscript/String.h"
+
 #include <algorithm>
 #include <array>
 
@@ -26,6 +28,19 @@ std::uint8_t toAnsi(char16_t unit) noexcept {
     }
     const auto* const found = std::find(upper.begin(), upper.end(), unit);
     return found != upper.end() ? static_cast<std::uint8_t>(0x80 + (found - upper.begin())) : std::uint8_t{63};
+}
+
+std::u16string decodeScript(std::string_view bytes) {
+    std::u16string text = fromUtf8(bytes);
+    const bool written = bytes.find("\xEF\xBF\xBD") != std::string_view::npos; // U+FFFD itself
+    if (written || text.find(u'\uFFFD') == std::u16string::npos) {
+        return text;
+    }
+    text.clear();
+    for (const char byte : bytes) {
+        text.push_back(fromAnsi(static_cast<std::uint8_t>(byte)));
+    }
+    return text;
 }
 
 } // namespace vbs

@@ -42,7 +42,7 @@ void CodeGen::generate() {
 
 std::size_t CodeGen::newLocal(Symbol symbol, bool mayRefer, bool constant) {
     if (m_nextLocal >= maxIndex / 2) {
-        throw CompileError{ErrorNumber::TooManyLocals, m_decl.at};
+        throw CompileError{ErrorNumber::OutOfMemoryCompiling, m_decl.at};
     }
     m_locals[symbol] = {operandOf(Place::Frame, m_nextLocal), mayRefer, constant};
     m_localOrder.push_back(symbol);
@@ -96,7 +96,9 @@ void CodeGen::addImplicitLocals() {
     }
     std::for_each(m_decl.assigned.begin(), m_decl.assigned.end(), consider);
     for (const Passed& passed : m_decl.passed) {
-        consider(passed.name);
+        if (passed.callee == noSymbol || m_scope.resolve(passed.callee).kind != Resolved::Kind::Intrinsic) {
+            consider(passed.name);
+        }
     }
     if (m_decl.dynamicScope) {
         const std::unordered_set<Symbol> called(m_decl.called.begin(), m_decl.called.end());
@@ -124,7 +126,7 @@ Resolved CodeGen::resolve(Symbol symbol) {
         if (const ClassMember* member = m_owner->find(symbol); member != nullptr) {
             const bool field = member->field >= 0;
             if (field && static_cast<std::size_t>(member->field) > maxIndex) {
-                throw CompileError{ErrorNumber::TooManyLocals, m_decl.at};
+                throw CompileError{ErrorNumber::OutOfMemoryCompiling, m_decl.at};
             }
             r.kind = field ? Resolved::Kind::Variable : Resolved::Kind::OwnMember;
             r.operand = field ? operandOf(Place::Field, static_cast<std::size_t>(member->field)) : Operand{0};
@@ -150,12 +152,19 @@ Resolved CodeGen::resolveCallee(Symbol symbol) {
         }
         return m_scope.resolve(symbol);
     }
+    if (m_decl.kind == ProcedureDecl::Kind::Main && m_locals.contains(symbol)) {
+        // The text of an Eval sees the result of the function that runs it under the function's name.
+        const Resolved global = m_scope.resolve(symbol);
+        if (global.kind == Resolved::Kind::Callable) {
+            return global;
+        }
+    }
     return resolve(symbol);
 }
 
 Operand CodeGen::newTemporary() {
     if (m_temporary >= maxIndex) {
-        throw CompileError{ErrorNumber::TooManyLocals, m_decl.at};
+        throw CompileError{ErrorNumber::OutOfMemoryCompiling, m_decl.at};
     }
     const Operand o = operandOf(Place::Frame, m_temporary++);
     m_highest = std::max(m_highest, m_temporary);

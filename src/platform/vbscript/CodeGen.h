@@ -162,6 +162,7 @@ private:
     void storeElement(Operand base, const std::vector<Expr*>& args, const Expr* value, Store store);
     Operand elementBase(const Expr* base);
     bool isOwnResult(Symbol symbol) const;
+    bool isFixedArray(Symbol symbol);
 
     // statements
     void block(const Block& statements);

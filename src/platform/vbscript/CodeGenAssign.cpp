@@ -31,6 +31,13 @@ void CodeGen::assignName(const Expr* target, const Expr* value, Store store) {
     const Resolved r = resolve(target->symbol);
     switch (r.kind) {
     case Resolved::Kind::Variable:
+        if (isFixedArray(target->symbol)) {
+            raiseAtRun(ErrorNumber::TypeMismatch, noSymbol);
+            return;
+        }
+        if (m_decl.kind == ProcedureDecl::Kind::Main && isOwnResult(target->symbol)) {
+            store = Store::Raw; // Eval answers objects as they are
+        }
         if (r.mayRefer) {
             const Operand from = expr(value);
             emit(encode(store == Store::Set ? Opcode::StoreSet : Opcode::StoreLet, r.operand, from));
@@ -50,6 +57,17 @@ void CodeGen::assignName(const Expr* target, const Expr* value, Store store) {
     default:
         raiseAtRun(ErrorNumber::IllegalAssignment, target->symbol);
     }
+}
+
+// Whether the name was declared with bounds, here or, if it is a global, in the main text.
+bool CodeGen::isFixedArray(Symbol symbol) {
+    const auto fixed = [symbol](const Variable& v) { return v.name == symbol && !v.sizes.empty(); };
+    const bool local = m_locals.contains(symbol);
+    if (!local && isMember(symbol)) {
+        return std::any_of(m_owner->fields.begin(), m_owner->fields.end(), fixed);
+    }
+    const std::vector<Variable>& variables = local ? m_decl.variables : m_scope.ast.main.variables;
+    return std::any_of(variables.begin(), variables.end(), fixed);
 }
 
 // name(args) = value, object.name(args) = value, or something deeper
@@ -125,7 +143,7 @@ void CodeGen::storeElement(Operand base, const std::vector<Expr*>& args, const E
         emit(from);
     } else {
         if (args.size() > 60) {
-            throw CompileError{ErrorNumber::TooManyLocals, m_decl.at};
+            throw CompileError{ErrorNumber::OutOfMemoryCompiling, m_decl.at};
         }
         const Operand first = contiguous(args);
         const Operand from = expr(value);
@@ -142,7 +160,7 @@ void CodeGen::assignMember(const Expr* object, Symbol symbol, const std::vector<
         return;
     }
     if (args.size() > 60) {
-        throw CompileError{ErrorNumber::TooManyLocals, m_decl.at};
+        throw CompileError{ErrorNumber::OutOfMemoryCompiling, m_decl.at};
     }
     std::vector<Expr*> all(args);
     all.push_back(const_cast<Expr*>(value));

@@ -12,7 +12,7 @@ constexpr std::size_t maxArguments = 62;
 
 std::size_t countOf(const std::vector<Expr*>& args, Position at) {
     if (args.size() > maxArguments) {
-        throw CompileError{ErrorNumber::TooManyLocals, at};
+        throw CompileError{ErrorNumber::OutOfMemoryCompiling, at};
     }
     return args.size();
 }

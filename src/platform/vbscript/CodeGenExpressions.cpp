@@ -183,6 +183,9 @@ void CodeGen::newTo(const Expr* e, Operand to, Store store) {
     if (r.kind == Resolved::Kind::Unknown && name == u"regexp") {
         emit(encode(Opcode::NewNamed, to, 0, textConstant(e->symbol), packed(0, store)));
     } else if (r.kind == Resolved::Kind::Callable || r.kind == Resolved::Kind::Unknown) {
+        if (r.kind == Resolved::Kind::Unknown && m_scope.ast.optionExplicit) {
+            emit(encode(Opcode::CheckDefined, 0, 0, r.operand));
+        }
         emit(encode(Opcode::New, to, 0, r.operand, packed(0, store)));
     } else {
         raiseAtRun(ErrorNumber::ClassUndefined, e->symbol);
@@ -193,9 +196,24 @@ void CodeGen::binaryTo(const Expr* e, Operand to) {
     if (e->op == BinaryOp::Concatenate && joinTo(e, to)) {
         return;
     }
-    const Operand left = leftOperand(e->a, e->b);
-    const Operand right = expr(e->b);
-    emit(encode(opcodeOf(e->op), to, left, right));
+    // Rows like a + b + c lean to the left; they are walked here, not by recursion.
+    std::vector<const Expr*> row{e};
+    for (const Expr* left = e->a;
+         left->kind == Expr::Kind::Binary && (left->op != BinaryOp::Concatenate || row.back()->op == left->op);
+         left = left->a) {
+        row.push_back(left);
+    }
+    const std::size_t mark = m_temporary;
+    Operand left = leftOperand(row.back()->a, row.back()->b);
+    for (std::size_t i = row.size(); i-- > 0;) {
+        const Operand right = expr(row[i]->b);
+        if (i > 0) {
+            m_temporary = mark;
+        }
+        const Operand result = i > 0 ? newTemporary() : to;
+        emit(encode(opcodeOf(row[i]->op), result, left, right));
+        left = result;
+    }
 }
 
 // a & b & c ...: one instruction for the row; `x = x & ...` grows x in place.

@@ -264,7 +264,9 @@ void declareGlobals(UnitScope& scope) {
     };
     std::for_each(main.assigned.begin(), main.assigned.end(), makeImplicit);
     for (const Passed& passed : main.passed) {
-        makeImplicit(passed.name);
+        if (passed.callee == noSymbol || scope.resolve(passed.callee).kind != Resolved::Kind::Intrinsic) {
+            makeImplicit(passed.name);
+        }
     }
 }
 

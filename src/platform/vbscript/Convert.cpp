@@ -10,16 +10,6 @@ namespace vbs {
 
 namespace {
 
-[[noreturn]] void mismatch(const Value& v) {
-    if (v.isString()) {
-        String detail(u"[string: \"");
-        detail.append(v.text().substr(0, 200));
-        detail.append(u"\"]");
-        raise(ErrorNumber::TypeMismatch, detail.view());
-    }
-    raise(ErrorNumber::TypeMismatch);
-}
-
 template <class Integral>
 Integral wholeIn(double x) {
     const double rounded = roundHalfEven(x);
@@ -80,14 +70,14 @@ double toDouble(Context& context, const Value& value) {
     case Type::String: {
         const auto number = parseNumber(v.text(), context.locale());
         if (!number) {
-            mismatch(v);
+            raise(ErrorNumber::TypeMismatch);
         }
         return *number;
     }
     case Type::Object:
         return toDouble(context, context.defaultValue(v));
     default:
-        mismatch(v);
+        raise(ErrorNumber::TypeMismatch);
     }
 }
 
@@ -159,7 +149,7 @@ double toDate(Context& context, const Value& value) {
             date = parseNumber(v.text(), context.locale());
         }
         if (!date) {
-            mismatch(v);
+            raise(ErrorNumber::TypeMismatch);
         }
         return *date;
     }
@@ -222,7 +212,7 @@ Value toNumber(Context& context, const Value& value) {
     case Type::Error:
     case Type::Array:
     case Type::Procedure:
-        mismatch(v);
+        raise(ErrorNumber::TypeMismatch);
     default:
         return v;
     }

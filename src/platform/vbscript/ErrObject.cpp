@@ -106,8 +106,8 @@ Value ErrObject::clear(Context& /*context*/, Access /*access*/, Arguments /*argu
     return {};
 }
 
-// Raise number [, source [, description [, helpfile [, helpcontext]]]]: what is left out keeps what Err holds, if that
-// belongs to the same number.
+// Raise number [, source [, description [, helpfile [, helpcontext]]]]: what is left out keeps what Err
+// holds while it is not cleared.
 Value ErrObject::raiseError(Context& context, Access /*access*/, Arguments arguments) {
     const Value* number = optional(arguments, 0);
     if (number == nullptr) {
@@ -118,16 +118,16 @@ Value ErrObject::raiseError(Context& context, Access /*access*/, Arguments argum
     if (raised.number == 0) {
         raise(ErrorNumber::InvalidCall);
     }
-    const bool same = m_vm.error.number == raised.number;
-    const auto text = [&](std::size_t i, const String& kept) {
+    const bool kept = m_vm.error.number != 0;
+    const auto text = [&](std::size_t i, const String& present) {
         const Value* given = optional(arguments, i);
-        return given != nullptr ? toString(context, *given) : same ? kept : String();
+        return given != nullptr ? toString(context, *given) : kept ? present : String();
     };
     raised.source = text(1, m_vm.error.source);
     raised.description = text(2, m_vm.error.description);
     raised.helpFile = text(3, m_vm.error.helpFile);
     const Value* helpContext = optional(arguments, 4);
-    raised.helpContext = helpContext != nullptr ? toLong(context, *helpContext) : same ? m_vm.error.helpContext : 0;
+    raised.helpContext = helpContext != nullptr ? toLong(context, *helpContext) : kept ? m_vm.error.helpContext : 0;
     throw raised;
 }
 

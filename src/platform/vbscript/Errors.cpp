@@ -85,7 +85,7 @@ constexpr Entry entries[] = {
     {ExpectedInteger, u"Se esperaba una constante entera"},
     {ExpectedWhileOrUntil, u"Se esperaba 'While' o 'Until'"},
     {ExpectedWhileUntilOrEnd, u"Se esperaba 'While', 'Until' o el fin de la instrucción"},
-    {TooManyLocals, u"Demasiadas variables locales o argumentos"},
+    {ExpectedWith, u"Se esperaba 'With'"},
     {IdentifierTooLong, u"El identificador es demasiado largo"},
     {InvalidNumber, u"Número no válido"},
     {InvalidCharacter, u"Carácter no válido"},

@@ -83,7 +83,7 @@ enum class ErrorNumber : std::int32_t {
     ExpectedInteger = 1026,
     ExpectedWhileOrUntil = 1027,
     ExpectedWhileUntilOrEnd = 1028,
-    TooManyLocals = 1029,
+    ExpectedWith = 1029,
     IdentifierTooLong = 1030,
     InvalidNumber = 1031,
     InvalidCharacter = 1032,

@@ -1,6 +1,8 @@
 // Tokens and the top of the grammar; expressions, statements and declarations stand in files of their own.
 #include "platform/vbscript/Parser.h"
 
+#include <algorithm>
+
 namespace vbs {
 
 Parser::Parser(std::u16string_view text, SymbolTable& symbols)
@@ -19,6 +21,14 @@ Parser::Nesting::Nesting(Parser& parser) : m_parser(parser) {
 Parser::Hidden::Hidden(Parser& parser, std::uint32_t slots) : m_parser(parser), m_slots(slots) {
     parser.m_hidden += slots;
     parser.m_procedure->hiddenSlots = std::max(parser.m_procedure->hiddenSlots, parser.m_hidden);
+}
+
+Parser::Counter::Counter(Parser& parser, const Expr& variable) : m_parser(parser) {
+    const auto& open = parser.m_counters;
+    if (std::find(open.begin(), open.end(), variable.symbol) != open.end()) {
+        Parser::fail(ErrorNumber::InvalidForVariable, variable.at);
+    }
+    parser.m_counters.push_back(variable.symbol);
 }
 
 std::unique_ptr<Ast> Parser::parse() {

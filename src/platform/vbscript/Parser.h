@@ -25,7 +25,8 @@ private:
 
     // How far source may nest before it is refused (error 1001), so that no input exhausts the stack.
     static constexpr int maxNesting = 220;
-    static constexpr int maxHeight = 1200;
+    static constexpr int maxHeight = 10000; // of rows of operators
+    static constexpr int maxChain = 1000;   // of members and brackets
 
     struct Nesting {
         explicit Nesting(Parser& parser);
@@ -42,6 +43,15 @@ private:
         Hidden& operator=(const Hidden&) = delete;
         Parser& m_parser;
         std::uint32_t m_slots;
+    };
+
+    // The variable of a For loop while its body is read; error 1040 if an outer loop counts with it.
+    struct Counter {
+        Counter(Parser& parser, const Expr& variable);
+        ~Counter() { m_parser.m_counters.pop_back(); }
+        Counter(const Counter&) = delete;
+        Counter& operator=(const Counter&) = delete;
+        Parser& m_parser;
     };
 
     // tokens
@@ -132,6 +142,7 @@ private:
     int m_doLoops = 0;
     int m_forLoops = 0;
     int m_withs = 0;
+    std::vector<Symbol> m_counters;
     bool m_inClass = false;
     Symbol m_execute;
     Symbol m_eval;

@@ -108,7 +108,7 @@ Variable Parser::parseVariable(bool isPrivate) {
             fail(ErrorNumber::ExpectedInteger);
         }
         if (m_token.value.n == 0x7fffffff || variable.sizes.size() == 60) {
-            fail(ErrorNumber::TooManyLocals);
+            fail(ErrorNumber::OutOfMemoryCompiling);
         }
         variable.sizes.push_back(static_cast<std::int32_t>(m_token.value.n) + 1);
         advance();
@@ -208,7 +208,7 @@ void Parser::parseParameters(ProcedureDecl& procedure) {
         }
         procedure.parameters.push_back(parameter);
         if (procedure.parameters.size() > maxParameters) {
-            fail(ErrorNumber::TooManyLocals);
+            fail(ErrorNumber::OutOfMemoryCompiling);
         }
     } while (accept(Sign::Comma));
     expect(Sign::Close, ErrorNumber::ExpectedRightParenthesis);
@@ -220,6 +220,7 @@ void Parser::parseProcedureBody(ProcedureDecl& procedure, Word ending) {
     const int doLoops = std::exchange(m_doLoops, 0);
     const int forLoops = std::exchange(m_forLoops, 0);
     const int withs = std::exchange(m_withs, 0);
+    auto counters = std::exchange(m_counters, {});
     parseBlock(procedure.body);
     if (!is(Word::End)) {
         fail(is(Word::Loop)   ? ErrorNumber::LoopWithoutDo
@@ -235,6 +236,7 @@ void Parser::parseProcedureBody(ProcedureDecl& procedure, Word ending) {
     m_doLoops = doLoops;
     m_forLoops = forLoops;
     m_withs = withs;
+    m_counters = std::move(counters);
 }
 
 // Class name { member } End Class

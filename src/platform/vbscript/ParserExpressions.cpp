@@ -144,13 +144,13 @@ Expr* Parser::parseAtom() {
             advance();
             return member(nullptr, at);
         }
-        fail(is(Sign::Dot) ? ErrorNumber::InvalidReference : ErrorNumber::ExpectedExpression);
+        fail(is(Sign::Dot) ? ErrorNumber::InvalidReference : ErrorNumber::SyntaxError);
     case Kind::Keyword:
         break;
     case Kind::Identifier:
         return nameExpr(at);
     default:
-        fail(ErrorNumber::ExpectedExpression);
+        fail(ErrorNumber::SyntaxError);
     }
     const Word word = m_token.word;
     if (isName()) {
@@ -180,7 +180,7 @@ Expr* Parser::parseAtom() {
         return e;
     }
     default:
-        fail(ErrorNumber::ExpectedExpression, at);
+        fail(ErrorNumber::SyntaxError, at);
     }
 }
 
@@ -292,7 +292,7 @@ void Parser::setHeight(Expr& e) {
     for (const Expr* part : {e.a, e.b}) {
         height = std::max(height, part != nullptr ? int{part->height} : 0);
     }
-    if (++height > maxHeight) {
+    if (++height > (e.kind == Expr::Kind::Binary ? maxHeight : maxChain)) {
         fail(ErrorNumber::OutOfMemoryCompiling, e.at);
     }
     e.height = static_cast<std::uint16_t>(height);

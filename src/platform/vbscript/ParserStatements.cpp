@@ -174,6 +174,15 @@ Expr* Parser::parseStatementHead(bool& complete) {
                 m_token = token;
                 return e;
             }
+            if (is(Sign::Dot) && token.spaceBefore) {
+                Expr* chain = parsePostfix(call(e, std::move(arguments), at));
+                if (is(Sign::Equal)) {
+                    return chain;
+                }
+                m_lexer = lexer; // `S (New K).Total`
+                m_token = token;
+                return e;
+            }
             e = call(e, std::move(arguments), at);
         } else {
             return e;
@@ -206,6 +215,9 @@ Stmt* Parser::parseSet() {
         fail(ErrorNumber::ExpectedIdentifier);
     }
     statement->target = parsePrimary();
+    if (statement->target->kind == Expr::Kind::Me) {
+        fail(ErrorNumber::InvalidMe, statement->target->at);
+    }
     noteAssigned(statement->target);
     expect(Sign::Equal, ErrorNumber::ExpectedEqual);
     statement->value = parseExpr();
@@ -348,6 +360,7 @@ Stmt* Parser::parseFor() {
     if (is(Sign::Dot) || is(Sign::Open)) {
         fail(ErrorNumber::InvalidForVariable);
     }
+    const Counter counter(*this, *statement->target);
     noteAssigned(statement->target);
     expect(Sign::Equal, ErrorNumber::ExpectedEqual);
     statement->value = parseExpr();
@@ -370,6 +383,7 @@ Stmt* Parser::parseForEach(Position at) {
     Stmt* statement = m_ast->stmt(Stmt::Kind::ForEach, at);
     statement->target = m_ast->expr(Expr::Kind::Name, here());
     statement->target->symbol = takeName();
+    const Counter counter(*this, *statement->target);
     noteAssigned(statement->target);
     expect(Word::In, ErrorNumber::ExpectedIn);
     statement->value = parseExpr();
@@ -431,7 +445,7 @@ Stmt* Parser::parseWith() {
     const Within with(m_withs);
     parseBlock(statement->body);
     expect(Word::End, ErrorNumber::ExpectedEnd);
-    expect(Word::With, ErrorNumber::SyntaxError);
+    expect(Word::With, ErrorNumber::ExpectedWith);
     return statement;
 }
 
@@ -479,7 +493,7 @@ Stmt* Parser::parseReDim() {
             fail(ErrorNumber::ExpectedLeftParenthesis);
         }
         if (target->args.size() > 60) {
-            fail(ErrorNumber::TooManyLocals);
+            fail(ErrorNumber::OutOfMemoryCompiling);
         }
         noteAssigned(target->a);
         if (target->a->kind == Expr::Kind::Name) {

@@ -21,7 +21,7 @@ std::size_t bytesOf(std::size_t capacity) noexcept {
 
 StringBlock* StringBlock::allocate(std::size_t capacity) {
     if (capacity > String::maxLength) {
-        raise(ErrorNumber::OutOfStringSpace);
+        raise(ErrorNumber::OutOfMemory);
     }
     const std::size_t bytes = (bytesOf(capacity) + 15) & ~std::size_t{15};
     chargeMemory(bytes);

@@ -25,13 +25,13 @@ struct StringBlock : Counted {
     char16_t* text() noexcept { return reinterpret_cast<char16_t*>(this + 1); }
     const char16_t* text() const noexcept { return reinterpret_cast<const char16_t*>(this + 1); }
 
-    static StringBlock* allocate(std::size_t capacity); // length 0, one reference; raises error 7 or 14
+    static StringBlock* allocate(std::size_t capacity); // length 0, one reference; raises error 7
     static void destroy(StringBlock* block) noexcept;
 };
 
 class String {
 public:
-    static constexpr std::size_t maxLength = 0x3fffffff; // code units; longer raises error 14 (out of string space)
+    static constexpr std::size_t maxLength = 0x3fffffff; // code units; longer raises error 7
 
     String() noexcept = default; // the empty text allocates nothing
     explicit String(std::u16string_view text);

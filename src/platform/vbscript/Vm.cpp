@@ -56,6 +56,11 @@ Vm::~Vm() {
     timeoutMilliseconds = 1000; // what Class_Terminate may still take
     startClock();
     for (std::uint32_t slot = 0; slot < m_globals.size(); ++slot) {
+        if (m_globals.kind(slot) == GlobalKind::Variable) {
+            m_globals[slot].clear(); // Class_Terminate still finds everything else
+        }
+    }
+    for (std::uint32_t slot = 0; slot < m_globals.size(); ++slot) {
         m_globals[slot].clear();
     }
     m_closing = true;

@@ -1,4 +1,5 @@
 // Operators, assignments and loops beyond what the dispatch loop does on the spot.
+#include "platform/vbscript/Array.h"
 #include "platform/vbscript/Convert.h"
 #include "platform/vbscript/Instance.h"
 #include "platform/vbscript/Operators.h"
@@ -112,6 +113,9 @@ void Vm::deliver(Value value, Value& to, Store store) {
     }
     if (store == Store::Set && !value.isObject()) {
         raise(ErrorNumber::ObjectRequired);
+    }
+    if (store == Store::Let && value.isArray() && value.array()->fixed()) {
+        value = Value::ofArray(value.array()->clone()); // the copy of a fixed array is a dynamic one
     }
     if (store != Store::Discard) {
         to = std::move(value);
