@@ -174,6 +174,7 @@ TEST(BackPressure, aNewConnectionIsNotPaused) {
         station.connection.Close();
     }
     const Peer second = station.connect();
+    EXPECT_TRUE(station.connection.SendData(bytesOf("welcome")));
     second.send("x");
     EXPECT_TRUE(runUntil(station.reactor, [&] { return !station.events.arrivals.empty(); }));
 }

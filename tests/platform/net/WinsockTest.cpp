@@ -172,6 +172,15 @@ TEST(Winsock, aSendOnAResetConnectionFailsWithoutASignalAndTheCloseFollows) {
     EXPECT_FALSE(wouldWake(station.reactor));
 }
 
+TEST(Winsock, sendingAfterThePeerHasGoneFailsWithoutASignal) {
+    Station station;
+    Peer peer = station.connect();
+    peer.close();
+    EXPECT_TRUE(station.connection.SendData(bytesOf("answered by a reset")));
+    EXPECT_FALSE(station.connection.SendData(bytesOf("a broken pipe"))); // without protection a signal ends the process
+    EXPECT_EQ(station.connection.State(), error);
+}
+
 TEST(Winsock, aConnectionThatBrokeMayBeClosedBeforeItsCloseEvent) {
     Station station;
     Peer peer = station.connect();
