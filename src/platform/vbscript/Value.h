@@ -126,6 +126,8 @@ struct Value {
                                   : std::u16string_view(u"", 0);
     }
     String string() const noexcept; // shares
+    // A text with half a character at its end (see String::fromBytes); any type may be asked.
+    bool hasOddByte() const noexcept { return isString() && counted != nullptr && stringBlock()->oddByte != 0; }
     Object* object() const noexcept;
     ArrayBlock* array() const noexcept;
 

@@ -230,7 +230,7 @@ void Vm::concatenateInto(Instruction instruction) {
     const Operand c = operandC(instruction);
     Value& x = at(b).deref();
     const Value& y = at(c).deref();
-    if (a == b && x.isString() && x.counted != nullptr) {
+    if (a == b && x.isString() && x.counted != nullptr && !x.hasOddByte() && !y.hasOddByte()) {
         if (y.isString()) {
             appendTo(x, y.text());
         } else {
@@ -256,8 +256,10 @@ void Vm::join(Instruction instruction, bool append) {
     Value* parts = &at(operandB(instruction));
     const std::size_t count = (instruction >> 56) & 63;
     bool allNull = true;
+    bool odd = false;
     std::size_t length = 0;
     for (std::size_t i = 0; i < count; ++i) {
+        odd = odd || parts[i].hasOddByte();
         if (!parts[i].isString()) {
             const Value plain = withoutObject(*this, parts[i]);
             allNull = allNull && plain.isNull();
@@ -268,6 +270,15 @@ void Vm::join(Instruction instruction, bool append) {
         length += parts[i].text().size();
     }
     Value& target = at(operandA(instruction));
+    if (odd || (append && target.hasOddByte())) {
+        Value bytes = append ? target : Value::ofString(String());
+        for (std::size_t i = 0; i < count; ++i) {
+            bytes = concatenate(*this, bytes, parts[i]);
+        }
+        consumeRow(parts, count);
+        target = std::move(bytes);
+        return;
+    }
     if (append) {
         const Value plain = withoutObject(*this, target);
         if (!(plain.isNull() && allNull)) {
