@@ -1,0 +1,266 @@
+// The main window from start to shutdown: order, visibility, hiding, ending.
+
+#include "PrincipalDePrueba.h"
+
+#include <QCheckBox>
+#include <QElapsedTimer>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTableView>
+
+#include <functional>
+
+namespace {
+
+void clic(const PrincipalDePrueba& p, const char* boton) {
+    QTest::mouseClick(&p.control<QPushButton>(boton), Qt::LeftButton);
+}
+
+// Runs the event loop, does `accion` in it, and returns how long the loop went on; -1 when it did not end.
+qint64 msHastaElFin(const std::function<void()>& accion) {
+    QElapsedTimer reloj;
+    QTimer::singleShot(0, qApp, [&] {
+        reloj.start();
+        accion();
+    });
+    bool vencido = false;
+    QTimer limite;
+    limite.setSingleShot(true);
+    QObject::connect(&limite, &QTimer::timeout, qApp, [&] {
+        vencido = true;
+        QCoreApplication::exit(99);
+    });
+    limite.start(10000);
+    const int codigo = QApplication::exec();
+    return vencido || codigo != 0 ? -1 : reloj.elapsed();
+}
+
+QMessageBox* cajaAbierta() {
+    return qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+}
+
+} // namespace
+
+class TestFrmPrincipalVida : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void windowIsHiddenUntilItIsLoaded() {
+        PrincipalDePrueba p;
+        QVERIFY(!p.ventana->isVisible());
+        QVERIFY(!p.ventana->escucha().escuchando());
+    }
+
+    void withoutTheKeyTheWindowShowsAndTheDefaultIsWritten() {
+        PrincipalDePrueba p;
+        QVERIFY(p.cargar());
+        QVERIFY(p.ventana->isVisible());
+        QCOMPARE(p.clave("ver"), std::string("1"));
+    }
+
+    void hiddenByTheKeyItStartsHiddenAndServes() {
+        PrincipalDePrueba p("ver=0\r\n");
+        QVERIFY(p.cargar());
+        QVERIFY(!p.ventana->isVisible());
+        const auto maestro = p.conectarMaestro();
+        QCOMPARE(PrincipalDePrueba::pedir(*maestro, PrincipalDePrueba::lectura(1), 13).size(), 13);
+        QCOMPARE(p.clave("ver"), std::string("0"));
+    }
+
+    void wordViewShowsTheWindow_data() {
+        QTest::addColumn<QString>("linea");
+        for (const char* linea : {"view", "VIEW", "--preVIEWer=1", "a b xviewx c"})
+            QTest::newRow(linea) << QString::fromLatin1(linea);
+    }
+    void wordViewShowsTheWindow() {
+        QFETCH(QString, linea);
+        PrincipalDePrueba p("ver=0\r\n", Arranque{.rutaPrograma = {}, .lineaDeComandos = linea});
+        QVERIFY(p.cargar());
+        QVERIFY(p.ventana->isVisible());
+        QCOMPARE(p.clave("ver"), std::string("1"));
+    }
+
+    void otherWordsDoNotShowIt() {
+        PrincipalDePrueba p("ver=0\r\n", Arranque{.rutaPrograma = {}, .lineaDeComandos = QStringLiteral("vie w")});
+        QVERIFY(p.cargar());
+        QVERIFY(!p.ventana->isVisible());
+    }
+
+    void ocultarHidesForGood() {
+        PrincipalDePrueba p;
+        QVERIFY(p.cargar());
+        clic(p, "BtnOcultar");
+        QVERIFY(!p.ventana->isVisible());
+        QCOMPARE(p.clave("ver"), std::string("0"));
+        p.tic();
+        QVERIFY(!p.ventana->isVisible());
+        const Arranque otraVez;
+        FrmPrincipal reiniciada(p.config, otraVez);
+        QVERIFY(reiniciada.cargar());
+        QVERIFY(!reiniciada.isVisible());
+    }
+
+    void editOfTheFileShowsAndHidesAtTheNextTick() {
+        PrincipalDePrueba p;
+        QVERIFY(p.cargar());
+        const std::string puerto = "PUERTO_VALOR=" + std::to_string(p.puerto) + "\r\n";
+        p.escribirConfig(puerto + "ver=no\r\n");
+        p.tic();
+        QVERIFY(!p.ventana->isVisible());
+        p.escribirConfig(puerto + "VER=1\r\n");
+        p.tic();
+        QVERIFY(p.ventana->isVisible());
+    }
+
+    void keyThatVanishesCountsAsShown() {
+        PrincipalDePrueba p("ver=0\r\n");
+        QVERIFY(p.cargar());
+        p.escribirConfig("PUERTO_VALOR=" + std::to_string(p.puerto) + "\r\n");
+        p.tic();
+        QVERIFY(p.ventana->isVisible());
+        QCOMPARE(p.clave("ver"), std::string("1"));
+    }
+
+    void tickShowsTheVisibilityByItself() {
+        const PrincipalDePrueba p("ver=0\r\n");
+        QCOMPARE(p.control<QTimer>("TimerCambioPuerto").interval(), 5000);
+        QVERIFY(p.ventana->cargar());
+        QVERIFY(p.control<QTimer>("TimerCambioPuerto").isActive());
+    }
+
+    void auxiliaryTimerStaysOff() {
+        PrincipalDePrueba p;
+        QVERIFY(p.cargar());
+        const auto& aux = p.control<QTimer>("timerAux");
+        QCOMPARE(aux.interval(), 1000);
+        QVERIFY(!aux.isActive());
+    }
+
+    void scriptBoxFollowsItsKey_data() {
+        QTest::addColumn<bool>("marcada");
+        QTest::newRow("0") << false;
+        QTest::newRow("1") << true;
+        QTest::newRow("nada") << false;
+        QTest::newRow("1e300") << false;
+    }
+    void scriptBoxFollowsItsKey() {
+        QFETCH(bool, marcada);
+        PrincipalDePrueba p(std::string("Codigo_Ejecutar=") + QTest::currentDataTag() + "\r\n");
+        QVERIFY(p.cargar());
+        QCOMPARE(p.control<QCheckBox>("chScript").isChecked(), marcada);
+    }
+
+    void scriptKeyIsWrittenBackWithItsDefault() {
+        PrincipalDePrueba p;
+        QVERIFY(p.cargar());
+        QCOMPARE(p.clave("Codigo_Ejecutar"), std::string("0"));
+    }
+
+    void secondInstanceSaysSoAsksTheFirstToShowAndStartsNothing() {
+        PrincipalDePrueba p("ver=0\r\n", Arranque{.rutaPrograma = {}, .lineaDeComandos = {}, .instanciaPrevia = true});
+        QString titulo;
+        QString mensaje;
+        QMessageBox::Icon icono = QMessageBox::NoIcon;
+        bool sobreTodo = false;
+        QTimer vigia;
+        connect(&vigia, &QTimer::timeout, this, [&] {
+            if (QMessageBox* caja = cajaAbierta()) {
+                titulo = caja->windowTitle();
+                mensaje = caja->text();
+                icono = caja->icon();
+                sobreTodo = caja->windowModality() == Qt::ApplicationModal &&
+                            caja->windowFlags().testFlag(Qt::WindowStaysOnTopHint);
+                QCOMPARE(p.clave("ver"), std::string("0")); // only after it is closed
+                QTest::keyClick(caja, Qt::Key_Return);
+            }
+        });
+        vigia.start(5);
+        QVERIFY(!p.cargar());
+        QCOMPARE(titulo, QStringLiteral("Esclavo Modbus"));
+        QCOMPARE(mensaje, QStringLiteral("Programa en ejecucion"));
+        QCOMPARE(icono, QMessageBox::Critical);
+        QVERIFY(sobreTodo);
+        QCOMPARE(p.clave("VER"), std::string("1"));
+        QVERIFY(!p.ventana->isVisible());
+        QVERIFY(!p.ventana->escucha().escuchando());
+        QCOMPARE(p.ventana->esclavos().limite(), -1);
+        QVERIFY(p.ventana->findChild<QWidget*>(QStringLiteral("FrmConexionesPuentes")) == nullptr);
+    }
+
+    void secondInstanceWithoutAScreenWaitsForNobody() {
+        PrincipalDePrueba p(
+            "ver=0\r\n",
+            Arranque{.rutaPrograma = {}, .lineaDeComandos = {}, .instanciaPrevia = true, .sinPantalla = true});
+        QVERIFY(!p.cargar());
+        QCOMPARE(p.clave("VER"), std::string("1"));
+    }
+
+    void cerrarEsclavoEndsTheProgramWithinASecond() {
+        PrincipalDePrueba p;
+        QVERIFY(p.cargar());
+        std::vector<std::unique_ptr<Peer>> maestros;
+        for (int i = 0; i < 50; ++i)
+            maestros.push_back(p.conectarMaestro());
+        const qint64 ms = msHastaElFin([&] { clic(p, "BtnCerrar"); });
+        QVERIFY(ms >= 0 && ms < 1000);
+        QVERIFY(!p.ventana->isVisible());
+        QVERIFY(!p.control<QTimer>("TimerCambioPuerto").isActive());
+        QCOMPARE(p.clave("ver"), std::string("1")); // nothing is saved
+    }
+
+    void closeBoxDoesTheSame() {
+        PrincipalDePrueba p;
+        QVERIFY(p.cargar());
+        const qint64 ms = msHastaElFin([&] { p.ventana->close(); });
+        QVERIFY(ms >= 0 && ms < 1000);
+        QVERIFY(!p.ventana->isVisible());
+        QVERIFY(!p.control<QTimer>("TimerCambioPuerto").isActive());
+        QCOMPARE(p.clave("ver"), std::string("1"));
+    }
+
+    void endingWhileAMessageBoxIsOpenClosesItToo() {
+        PrincipalDePrueba p;
+        QVERIFY(p.cargar());
+        auto& grid = p.control<QTableView>("MSFlexGrid(1)");
+        QTest::mouseClick(grid.viewport(), Qt::LeftButton, {}, grid.visualRect(grid.model()->index(0, 0)).center());
+        QTest::keyClick(&grid, Qt::Key_Return);
+        auto* mw = p.ventana->findChild<QWidget*>(QStringLiteral("FrmMW"));
+        QVERIFY(mw != nullptr);
+        mw->findChild<QLineEdit*>(QStringLiteral("TxtPlc"))->clear();
+        QTimer vigia;
+        connect(&vigia, &QTimer::timeout, this, [&] {
+            if (cajaAbierta() != nullptr) {
+                vigia.stop();
+                p.ventana->apagar();
+            }
+        });
+        vigia.start(5);
+        const qint64 ms = msHastaElFin(
+            [&] { QTest::mouseClick(mw->findChild<QPushButton*>(QStringLiteral("BtnOk")), Qt::LeftButton); });
+        QVERIFY(ms >= 0 && ms < 1000);
+        QVERIFY(cajaAbierta() == nullptr);
+        QVERIFY(!mw->isVisible());
+    }
+
+    void endingWhileTheStationComesUpIsNotLost() {
+        PrincipalDePrueba p;
+        QTimer::singleShot(0, p.ventana.get(), [&] { p.ventana->apagar(); });
+        QVERIFY(!p.cargar());
+    }
+
+    void endingASecondInstanceByASignalLeavesTheFirstAlone() {
+        PrincipalDePrueba p("ver=0\r\n", Arranque{.rutaPrograma = {}, .lineaDeComandos = {}, .instanciaPrevia = true});
+        bool cargada = true;
+        const qint64 ms = msHastaElFin([&] {
+            QTimer::singleShot(0, p.ventana.get(), [&] { p.ventana->apagar(); });
+            cargada = p.cargar();
+        });
+        QVERIFY(ms >= 0 && ms < 1000);
+        QVERIFY(!cargada);
+        QCOMPARE(p.clave("ver"), std::string("0"));
+    }
+};
+
+QTEST_MAIN(TestFrmPrincipalVida)
+#include "FrmPrincipalVidaTest.moc"
