@@ -55,8 +55,8 @@ class MSComm : public QObject {
     Q_OBJECT
 
 public:
-    // The most that one event hands out, a last read included that brings more; as much as a line holds itself. A
-    // device that never pauses thus does not hold the thread; what is left raises the next event at once.
+    // After so many bytes an event fetches no more from the driver, so that a device that never pauses does not hold the
+    // thread; what is left raises the next event at once. About what the driver itself holds for a line.
     static constexpr qint64 maximoEvento = 4096; // bytes
 
     explicit MSComm(QString carpeta, QObject* parent = nullptr);
