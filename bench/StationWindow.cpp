@@ -1,0 +1,106 @@
+#include "StationWindow.h"
+
+#include "shell/FrmPrincipal.h"
+#include "shell/Modulo_Config.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QPlainTextEdit>
+
+#include <chrono>
+#include <cstdlib>
+#include <fstream>
+#include <new>
+#include <string>
+#include <sys/mman.h>
+#include <thread>
+#include <unistd.h>
+
+namespace {
+
+std::int64_t now() {
+    return std::chrono::duration_cast<std::chrono::nanoseconds>(std::chrono::steady_clock::now().time_since_epoch())
+        .count();
+}
+
+std::int64_t residentBytes() {
+    std::int64_t total = 0;
+    std::int64_t resident = 0;
+    std::ifstream("/proc/self/statm") >> total >> resident;
+    return resident * sysconf(_SC_PAGESIZE);
+}
+
+/// Stands for a click or a key: an event that another thread posts, and that notes how long it waited.
+class Probe final : public QObject {
+public:
+    explicit Probe(QPlainTextEdit* monitor) : monitor_(monitor) {}
+
+    void run() {
+        for (;;) {
+            std::this_thread::sleep_for(std::chrono::milliseconds(5));
+            QCoreApplication::postEvent(this, new Posted);
+        }
+    }
+
+protected:
+    void customEvent(QEvent* event) override {
+        StationReport& report = stationReport();
+        const std::size_t n = report.waits;
+        if (n < StationReport::capacity) {
+            report.eventWait[n] = now() - static_cast<Posted*>(event)->posted;
+            report.waits = n + 1;
+        }
+        if (const int revision = monitor_->document()->revision(); revision != revision_) {
+            revision_ = revision;
+            report.monitorChanged = now();
+        }
+        if (n % 20 == 0)
+            report.residentBytes = residentBytes();
+    }
+
+private:
+    struct Posted : QEvent {
+        Posted() : QEvent(User), posted(now()) {}
+        std::int64_t posted;
+    };
+
+    QPlainTextEdit* monitor_;
+    int revision_ = -1;
+};
+
+void serve(std::uint16_t port, bool txRx) {
+    std::string folder = "/tmp/station-window-XXXXXX";
+    if (mkdtemp(folder.data()) == nullptr)
+        return;
+    std::ofstream(folder + "/Sis_Config.ini") << "[Trelvano]\r\nPUERTO_VALOR=" << port << "\r\nver=1\r\n";
+    setenv("QT_QPA_PLATFORM", "offscreen", 0);
+    int argc = 1;
+    char name[] = "station";
+    char* argv[] = {name, nullptr};
+    QApplication application(argc, argv);
+    Modulo_Config config(folder);
+    FrmPrincipal window(config, Arranque{.rutaPrograma = folder + "/esclavo-modbus", .lineaDeComandos = {}});
+    if (!window.cargar())
+        return;
+    window.findChild<QCheckBox*>(QStringLiteral("ChRxTx"))->setChecked(txRx);
+    Probe probe(window.findChild<QPlainTextEdit*>(QStringLiteral("txtTramas(1)")));
+    std::thread([&probe] { probe.run(); }).detach();
+    QApplication::exec();
+}
+
+} // namespace
+
+StationReport& stationReport() {
+    static void* const memory =
+        mmap(nullptr, sizeof(StationReport), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0);
+    static auto* const report = new (memory) StationReport;
+    return *report;
+}
+
+void serveStation(std::uint16_t port) {
+    serve(port, false);
+}
+
+void serveStationWithTxRx(std::uint16_t port) {
+    serve(port, true);
+}
