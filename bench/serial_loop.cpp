@@ -191,12 +191,7 @@ double median(std::vector<double> values) {
     return values[values.size() / 2];
 }
 
-} // namespace
-
-int main(int argc, char** argv) {
-    const QApplication application(argc, argv);
-    const int rounds = argc > 1 ? std::atoi(argv[1]) : 9;
-
+void measure(int rounds) {
     std::vector<double> ratios;
     std::vector<double> rates;
     const Pair catPair;
@@ -211,5 +206,17 @@ int main(int argc, char** argv) {
                 median(rates) / 1e6);
     const Station station;
     std::printf("processor time at 115,200 bits a second: %.2f %%\n", shareAt115200(station.pair) * 100);
-    return 0;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    try {
+        const QApplication application(argc, argv);
+        measure(argc > 1 ? std::atoi(argv[1]) : 9);
+        return 0;
+    } catch (const std::exception& error) {
+        std::fprintf(stderr, "%s\n", error.what());
+        return 1;
+    }
 }

@@ -29,7 +29,7 @@ std::string marcaDe(std::string_view primero, std::string_view segundo, LogFalso
 
 std::string marcaDe(std::string_view primero, std::string_view segundo) {
     LogFalso log;
-    const std::string marca = marcaDe(primero, segundo, log);
+    std::string marca = marcaDe(primero, segundo, log);
     EXPECT_TRUE(log.lineas.empty());
     return marca;
 }

@@ -2,7 +2,6 @@
 
 #include <QDir>
 #include <QFileInfo>
-#include <QTimer>
 
 #include <algorithm>
 #include <array>
@@ -118,6 +117,8 @@ std::string AjustesMSComm::texto() const {
 MSComm::MSComm(QString carpeta, QObject* parent) : QObject(parent), carpeta_(std::move(carpeta)) {
     connect(&puerto_, &QSerialPort::readyRead, this, &MSComm::alLeer);
     connect(&puerto_, &QSerialPort::errorOccurred, this, &MSComm::alFallar);
+    cierre_.setSingleShot(true);
+    connect(&cierre_, &QTimer::timeout, this, &MSComm::cerrarPerdido);
 }
 
 void MSComm::setCommPort(int numero) {
@@ -228,7 +229,7 @@ void MSComm::alFallar(QSerialPort::SerialPortError error) {
     if (!desaparecido || perdido_ || !puerto_.isOpen())
         return;
     perdido_ = true;
-    QTimer::singleShot(0, this, &MSComm::cerrarPerdido);
+    cierre_.start();
 }
 
 void MSComm::cerrarPerdido() {

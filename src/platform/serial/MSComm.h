@@ -15,6 +15,7 @@
 #include <QObject>
 #include <QSerialPort>
 #include <QString>
+#include <QTimer>
 
 #include <stdexcept>
 #include <string>
@@ -55,8 +56,8 @@ class MSComm : public QObject {
     Q_OBJECT
 
 public:
-    // After so many bytes an event fetches no more from the driver, so that a device that never pauses does not hold the
-    // thread; what is left raises the next event at once. About what the driver itself holds for a line.
+    // After so many bytes an event fetches no more from the driver, so that a device that never pauses does not hold
+    // the thread; what is left raises the next event at once. About what the driver itself holds for a line.
     static constexpr qint64 maximoEvento = 4096; // bytes
 
     explicit MSComm(QString carpeta, QObject* parent = nullptr);
@@ -113,5 +114,6 @@ private:
     int rThreshold_ = 0;
     int sThreshold_ = 0;
     qint64 restanEnEvento_ = 0; // bytes that the current event may still fetch from the driver
+    QTimer cierre_;             // closes a lost port at the next turn of the event loop
     bool perdido_ = false;      // the device failed; the port closes as soon as its own call has returned
 };
