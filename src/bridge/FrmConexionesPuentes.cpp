@@ -1,6 +1,7 @@
 #include "bridge/FrmConexionesPuentes.h"
 
 #include "platform/profile/Ansi.h"
+#include "platform/window/Contraste.h"
 #include "platform/window/Eventos.h"
 #include "platform/window/VistaTexto.h"
 
@@ -19,6 +20,7 @@
 namespace {
 
 constexpr std::chrono::milliseconds periodoVerificacion{1000};
+constexpr int entreZonas = 10; // pixels between the parts of the window, which can be dragged there
 
 QColor colorDe(ColorPuerto color) {
     switch (color) {
@@ -53,6 +55,7 @@ FrmConexionesPuentes::FrmConexionesPuentes(QWidget& principal, Reactor& reactor,
     divisor->addWidget(TreeView1_);
     divisor->addWidget(crearMonitores());
     divisor->setStretchFactor(1, 1);
+    divisor->setHandleWidth(entreZonas);
     divisor->setSizes({180, 620});
     auto* diseno = new QVBoxLayout(this);
     diseno->addWidget(divisor, 1);
@@ -97,6 +100,7 @@ QWidget* FrmConexionesPuentes::crearMonitores() {
         divisor->addWidget(grupo);
     }
     divisor->setChildrenCollapsible(false);
+    divisor->setHandleWidth(entreZonas);
     return divisor;
 }
 
@@ -161,6 +165,8 @@ void FrmConexionesPuentes::colorear(Lado lado, ColorPuerto color) {
         elemento->setFont(0, negrita);
     }
     nodosPuerto_[i]->setForeground(0, colorDe(color));
+    const QColor fondo = fondoDeEstado(palette());
+    nodosPuerto_[i]->setBackground(0, fondo.isValid() ? QBrush(fondo) : QBrush());
     if (color == ColorPuerto::azul || color == ColorPuerto::verde)
         ultimoFallo_[i].clear();
 }

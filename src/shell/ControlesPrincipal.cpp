@@ -17,6 +17,8 @@
 
 namespace {
 
+constexpr int entreGrupos = 10; // pixels
+
 template <typename Control>
 Control* nombrado(Control* control, const char* nombre) {
     control->setObjectName(QLatin1String(nombre));
@@ -55,6 +57,7 @@ ControlesPrincipal::ControlesPrincipal(QWidget& ventana, TextoMonitor& escritura
     divisor->setStretchFactor(0, 1);
     divisor->setStretchFactor(1, 0);
     divisor->setChildrenCollapsible(false);
+    divisor->setHandleWidth(entreGrupos);
     // Wide enough at first for both columns of the connection list and for a line of the writes monitor.
     const int linea = txtEscrituras->fontMetrics().horizontalAdvance(
         QStringLiteral("00:00:00 Ingreso de Escritura. IP:000.000.000.000"));
@@ -88,8 +91,11 @@ QWidget* ControlesPrincipal::columnaDerecha(QWidget* padre, TextoMonitor& escrit
     auto* diseno = new QVBoxLayout(columna);
     diseno->setContentsMargins(0, 0, 0, 0);
     grupoConexiones(*diseno, columna);
+    diseno->addSpacing(entreGrupos);
     grupoEscrituras(*diseno, columna, escrituras);
+    diseno->addSpacing(entreGrupos);
     grupoScript(*diseno, columna);
+    diseno->addSpacing(entreGrupos);
     grupoBotones(*diseno, columna);
     return columna;
 }
@@ -98,7 +104,8 @@ void ControlesPrincipal::grupoConexiones(QVBoxLayout& columna, QWidget* padre) {
     auto* cabecera = new QHBoxLayout;
     cabecera->addWidget(titulo(padre, "Label3", QStringLiteral("Conexiones")));
     cabecera->addStretch(1);
-    LblPuertoLocal = nombrado(new QLabel(QStringLiteral("Puerto:"), padre), "LblPuertoLocal");
+    LblPuertoLocal = titulo(padre, "LblPuertoLocal", QStringLiteral("Puerto:"));
+    LblPuertoLocal->setMargin(2);
     LblPuertoLocal->setAccessibleDescription(QStringLiteral("Puerto TCP en el que escucha la estación"));
     cabecera->addWidget(LblPuertoLocal);
 

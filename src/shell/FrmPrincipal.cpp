@@ -2,6 +2,7 @@
 
 #include "bridge/FrmConexionesPuentes.h"
 #include "modbus/VistaMonitor.h"
+#include "platform/window/Contraste.h"
 #include "platform/window/MsgBox.h"
 #include "registers/FrmMW.h"
 #include "registers/Palabra.h"
@@ -13,9 +14,9 @@
 #include "shell/Modulo_Config.h"
 #include "shell/SeRepiteProgramaEnRunTime.h"
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QCloseEvent>
-#include <QCoreApplication>
 #include <QLabel>
 #include <QPushButton>
 #include <QShortcut>
@@ -36,9 +37,14 @@ constexpr std::chrono::milliseconds periodoAux{1000};
 constexpr int tablasIniciales = 12;
 constexpr double ultimoRegistroInicial = 499;
 
+// Colours a text; on a dark theme it gets a light ground, on which the colour can be read.
 void colorear(QWidget& control, const QColor& color) {
-    QPalette paleta = control.palette();
+    const QColor fondo = fondoDeEstado(QApplication::palette());
+    QPalette paleta;
     paleta.setColor(QPalette::WindowText, color);
+    if (fondo.isValid())
+        paleta.setColor(QPalette::Window, fondo);
+    control.setAutoFillBackground(fondo.isValid());
     control.setPalette(paleta);
 }
 

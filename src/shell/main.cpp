@@ -2,6 +2,7 @@
 
 #include "platform/system/CarpetaPrograma.h"
 #include "platform/system/InstanciaPrevia.h"
+#include "platform/window/Contraste.h"
 #include "platform/window/TextosQt.h"
 #include "shell/FrmPrincipal.h"
 #include "shell/Modulo_Config.h"
@@ -51,6 +52,7 @@ int main(int argc, char** argv) {
     const bool sinPantalla = elegirPlataforma();
 
     QApplication aplicacion(argc, argv);
+    QApplication::setStyle(new EstiloLegible);
     QApplication::setApplicationName(QStringLiteral("esclavo-modbus"));
     QApplication::setQuitOnLastWindowClosed(false);
     QApplication::setWindowIcon(iconoPrograma());

@@ -427,11 +427,26 @@ private Q_SLOTS:
         QApplication::setPalette(oscuro);
         QTest::qWait(0);
         for (const QWidget* uno : ventana().findChildren<QWidget*>()) {
+            if (uno->objectName() == QStringLiteral("LblPuertoLocal"))
+                continue; // its colours tell a state and have a light ground of their own
             QVERIFY2(uno->palette().color(QPalette::Window).lightness() < 128, qPrintable(uno->objectName()));
             QVERIFY2(uno->palette().color(QPalette::Base).lightness() < 128, qPrintable(uno->objectName()));
             QVERIFY2(uno->styleSheet().isEmpty(), qPrintable(uno->objectName()));
         }
         QApplication::setPalette(claro);
+    }
+
+    void portLabelCanBeReadOnADarkTheme() {
+        const QPalette claro = QApplication::palette();
+        QApplication::setPalette(QPalette(QColor(40, 40, 40)));
+        p_->tic();
+        const auto& etiqueta = control<QLabel>("LblPuertoLocal");
+        QCOMPARE(etiqueta.palette().color(QPalette::WindowText), QColor(0, 128, 0));
+        QVERIFY(etiqueta.autoFillBackground());
+        QVERIFY(etiqueta.palette().color(QPalette::Window).lightness() > 200);
+        QApplication::setPalette(claro);
+        p_->tic();
+        QVERIFY(!etiqueta.autoFillBackground());
     }
 };
 

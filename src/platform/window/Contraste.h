@@ -1,0 +1,22 @@
+// Keeps the documented colours of states, and the frames of check boxes, legible on dark desktops.
+#pragma once
+
+#include <QColor>
+#include <QPalette>
+#include <QProxyStyle>
+
+// Whether the desktop's theme is dark.
+bool esOscura(const QPalette& paleta);
+
+// What to put behind a text in a dark, saturated colour: a light tint on dark themes, invalid (nothing) on light ones.
+QColor fondoDeEstado(const QPalette& paleta);
+
+// The desktop's style with an outline round check boxes where the theme is dark: the common style draws theirs darker
+// than the window, so that an empty box can hardly be seen.
+class EstiloLegible : public QProxyStyle {
+    Q_OBJECT
+
+public:
+    void drawPrimitive(PrimitiveElement elemento, const QStyleOption* opcion, QPainter* pintor,
+                       const QWidget* control) const override;
+};
