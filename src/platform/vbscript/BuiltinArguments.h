@@ -1,5 +1,5 @@
-// How intrinsic functions read their arguments: texts without a copy where the argument is one already, whole numbers
-// on a short road, and the arguments that many functions have in common (kind of comparison, first day of the week).
+// How intrinsic functions read their arguments: whole numbers on a short road, and the arguments that many functions
+// have in common (kind of comparison, first day of the week). Texts are read through TextArgument (Convert.h).
 #pragma once
 
 #include "platform/vbscript/Builtins.h"
@@ -7,28 +7,6 @@
 #include <string_view>
 
 namespace vbs {
-
-// An argument as text. A text is looked at in place; anything else is converted once. Must not outlive the argument.
-class TextArgument {
-public:
-    TextArgument(Context& context, const Value& v) {
-        if (v.isString()) {
-            m_view = v.text();
-        } else {
-            m_converted = toString(context, v);
-            m_view = m_converted.view();
-        }
-    }
-    TextArgument(const TextArgument&) = delete;
-    TextArgument& operator=(const TextArgument&) = delete;
-
-    std::u16string_view view() const noexcept { return m_view; }
-    std::size_t size() const noexcept { return m_view.size(); }
-
-private:
-    String m_converted;
-    std::u16string_view m_view;
-};
 
 inline std::int32_t longArgument(Context& context, const Value& v) {
     return v.isWhole() ? static_cast<std::int32_t>(v.n) : toLong(context, v);

@@ -5,6 +5,7 @@
 #include "platform/vbscript/Context.h"
 #include "platform/vbscript/Value.h"
 
+#include <array>
 #include <cstdint>
 #include <optional>
 #include <string_view>
@@ -36,11 +37,39 @@ std::int64_t currencyFromDouble(double x);
 String numberText(double x, const Locale& locale, int digits = 15);
 String currencyText(std::int64_t tenThousandths, const Locale& locale);
 String wholeText(std::int64_t n);
+using WholeDigits = std::array<char16_t, 24>;
+std::u16string_view wholeText(std::int64_t n, WholeDigits& buffer) noexcept; // written into the buffer
 
 // Text as number: blanks around it, thousands signs, exponent, &H and &O, currency sign and brackets are understood.
 std::optional<double> parseNumber(std::u16string_view text, const Locale& locale);
 
 // Text as date in the locale and the year in force.
 std::optional<double> textAsDate(Context& context, std::u16string_view text);
+
+// A value as text for as long as it takes to read it: a text is looked at in place, a whole number is written on the
+// spot, anything else is converted. Must not outlive the value.
+class TextArgument {
+public:
+    TextArgument(Context& context, const Value& v) {
+        if (v.isString()) {
+            m_view = v.text();
+        } else if (v.isWhole()) {
+            m_view = wholeText(v.n, m_digits);
+        } else {
+            m_converted = toString(context, v);
+            m_view = m_converted.view();
+        }
+    }
+    TextArgument(const TextArgument&) = delete;
+    TextArgument& operator=(const TextArgument&) = delete;
+
+    std::u16string_view view() const noexcept { return m_view; }
+    std::size_t size() const noexcept { return m_view.size(); }
+
+private:
+    String m_converted;
+    WholeDigits m_digits;
+    std::u16string_view m_view;
+};
 
 } // namespace vbs

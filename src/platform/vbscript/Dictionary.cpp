@@ -45,6 +45,14 @@ std::span<const Dictionary::Member> Dictionary::members() {
     return table;
 }
 
+// Reading an item is what scripts do most, so it takes the shortest road.
+Value Dictionary::invoke(Context& context, int member, Access access, Arguments arguments) {
+    if (member == defaultMember && access == Access::Get && arguments.size() == 1) {
+        return m_table.findOrAdd(arguments[0].deref());
+    }
+    return NativeObject::invoke(context, member, access, arguments);
+}
+
 std::unique_ptr<Enumerator> Dictionary::enumerate(Context& /*context*/) {
     return std::make_unique<ArrayEnumerator>(list(&KeyedTable::Entry::key));
 }

@@ -15,6 +15,7 @@ public:
 
     static std::span<const Member> members();
     std::u16string_view typeName() const override { return u"Dictionary"; }
+    Value invoke(Context& context, int member, Access access, Arguments arguments) override;
     std::unique_ptr<Enumerator> enumerate(Context& context) override; // the keys there are now
     void dropContents() noexcept override;
 

@@ -23,17 +23,29 @@ std::uint32_t folded(std::uint64_t h) noexcept {
     return static_cast<std::uint32_t>(h ^ (h >> 32));
 }
 
+constexpr std::size_t unitsPerWord = sizeof(std::uint64_t) / sizeof(char16_t);
+
+std::uint64_t wordAt(const char16_t* units) noexcept {
+    std::uint64_t word = 0;
+    std::memcpy(&word, units, sizeof word);
+    return word;
+}
+
+// Eight bytes at a time; the last eight may overlap those before them. Fewer than four units make one word.
 std::uint64_t hashOfText(std::u16string_view text) noexcept {
-    std::uint64_t h = text.size();
-    constexpr std::size_t step = sizeof(std::uint64_t) / sizeof(char16_t);
-    for (; text.size() >= step; text.remove_prefix(step)) {
-        std::uint64_t word = 0;
-        std::memcpy(&word, text.data(), sizeof word);
-        h = mixed(h, word);
+    const std::size_t size = text.size();
+    if (size < unitsPerWord) {
+        std::uint64_t word = size;
+        for (const char16_t c : text) {
+            word = word << 16 | c;
+        }
+        return mixed(0, word);
     }
-    std::uint64_t rest = 0;
-    std::memcpy(&rest, text.data(), text.size() * sizeof(char16_t));
-    return mixed(h, rest);
+    std::uint64_t h = size;
+    for (std::size_t i = 0; i + unitsPerWord < size; i += unitsPerWord) {
+        h = mixed(h, wordAt(text.data() + i));
+    }
+    return mixed(h, wordAt(text.data() + size - unitsPerWord));
 }
 
 std::uint64_t hashIgnoringCase(std::u16string_view text) noexcept {
@@ -45,7 +57,19 @@ std::uint64_t hashIgnoringCase(std::u16string_view text) noexcept {
 }
 
 bool sameUnits(std::u16string_view a, std::u16string_view b) noexcept {
-    return a.size() == b.size() && std::memcmp(a.data(), b.data(), a.size() * sizeof(char16_t)) == 0;
+    const std::size_t size = a.size();
+    if (size != b.size()) {
+        return false;
+    }
+    if (size < unitsPerWord) {
+        return std::equal(a.begin(), a.end(), b.begin());
+    }
+    for (std::size_t i = 0; i + unitsPerWord < size; i += unitsPerWord) {
+        if (wordAt(a.data() + i) != wordAt(b.data() + i)) {
+            return false;
+        }
+    }
+    return wordAt(a.data() + size - unitsPerWord) == wordAt(b.data() + size - unitsPerWord);
 }
 
 bool isNumber(const Value& v) noexcept {
@@ -82,6 +106,11 @@ KeyedTable::~KeyedTable() {
     releaseMemory(m_charged);
 }
 
+void KeyedTable::setIgnoresCase(bool ignoresCase) noexcept {
+    m_ignoresCase = ignoresCase;
+    m_recent = {};
+}
+
 std::uint32_t KeyedTable::hashOf(const Value& key) const {
     if (key.isString()) {
         return folded(m_ignoresCase ? hashIgnoringCase(key.text()) : hashOfText(key.text()));
@@ -114,7 +143,7 @@ bool KeyedTable::same(const Value& a, const Value& b) const noexcept {
     return isNumber(a) ? numberOf(a) == numberOf(b) : !a.isObject() || a.counted == b.counted;
 }
 
-KeyedTable::Entry* KeyedTable::findEntry(const Value& key, std::uint32_t hash) noexcept {
+KeyedTable::Entry* KeyedTable::probe(const Value& key, std::uint32_t hash) noexcept {
     if (m_slots.empty()) {
         return nullptr;
     }
@@ -130,20 +159,39 @@ KeyedTable::Entry* KeyedTable::findEntry(const Value& key, std::uint32_t hash) n
     return nullptr;
 }
 
+KeyedTable::Entry* KeyedTable::locate(const Value& key, std::uint32_t& hash) {
+    if (!key.isString() || key.counted == nullptr) {
+        hash = hashOf(key);
+        return probe(key, hash);
+    }
+    if (m_recent.key.counted == key.counted && m_recent.key.isString()) {
+        hash = m_recent.hash;
+        if (m_recent.entry != 0) {
+            return &m_entries[m_recent.entry - 1];
+        }
+        return probe(key, hash);
+    }
+    hash = hashOf(key);
+    Entry* entry = probe(key, hash);
+    m_recent = {key, hash, entry != nullptr ? static_cast<std::uint32_t>(entry - m_entries.data()) + 1 : 0};
+    return entry;
+}
+
 Value* KeyedTable::find(const Value& key) {
-    Entry* entry = findEntry(key, hashOf(key));
+    std::uint32_t hash = 0;
+    Entry* entry = locate(key, hash);
     return entry != nullptr ? &entry->item : nullptr;
 }
 
 Value& KeyedTable::findOrAdd(const Value& key) {
-    const std::uint32_t hash = hashOf(key);
-    Entry* entry = findEntry(key, hash);
+    std::uint32_t hash = 0;
+    Entry* entry = locate(key, hash);
     return entry != nullptr ? entry->item : append(key, hash);
 }
 
 bool KeyedTable::add(const Value& key, const Value& item) {
-    const std::uint32_t hash = hashOf(key);
-    if (findEntry(key, hash) != nullptr) {
+    std::uint32_t hash = 0;
+    if (locate(key, hash) != nullptr) {
         return false;
     }
     append(key, hash) = item;
@@ -151,10 +199,12 @@ bool KeyedTable::add(const Value& key, const Value& item) {
 }
 
 bool KeyedTable::remove(const Value& key) {
-    Entry* entry = findEntry(key, hashOf(key));
+    std::uint32_t hash = 0;
+    Entry* entry = locate(key, hash);
     if (entry == nullptr) {
         return false;
     }
+    m_recent.entry = 0;
     entry->alive = false;
     --m_count;
     const Value oldKey = std::move(entry->key); // these two end last: they may run script code
@@ -165,7 +215,8 @@ bool KeyedTable::remove(const Value& key) {
 void KeyedTable::rename(const Value& key, const Value& newKey) {
     const std::uint32_t hash = hashOf(newKey);
     makeRoom(); // the slot of the old key stays behind until the table is built anew
-    Entry* entry = findEntry(key, hashOf(key));
+    Entry* entry = probe(key, hashOf(key));
+    m_recent.entry = 0;
     const Value oldKey = std::exchange(entry->key, newKey);
     entry->hash = hash;
     place(static_cast<std::uint32_t>(entry - m_entries.data()) + 1, hash);
@@ -174,6 +225,7 @@ void KeyedTable::rename(const Value& key, const Value& newKey) {
 void KeyedTable::clear() noexcept {
     const std::vector<Entry> old = std::exchange(m_entries, {});
     m_slots = {};
+    m_recent = {};
     m_usedSlots = 0;
     m_count = 0;
     releaseMemory(std::exchange(m_charged, 0));
@@ -215,6 +267,7 @@ void KeyedTable::rebuild() {
                  std::back_inserter(entries), [](const Entry& entry) { return entry.alive; });
     m_entries = std::move(entries);
     m_slots = std::move(slots);
+    m_recent.entry = 0;
     m_usedSlots = 0;
     releaseMemory(std::exchange(m_charged, bytes));
     for (std::size_t i = 0; i < m_entries.size(); ++i) {

@@ -32,7 +32,7 @@ public:
     const std::vector<Entry>& entries() const noexcept { return m_entries; }
 
     bool ignoresCase() const noexcept { return m_ignoresCase; }
-    void setIgnoresCase(bool ignoresCase) noexcept { m_ignoresCase = ignoresCase; } // only while empty
+    void setIgnoresCase(bool ignoresCase) noexcept; // only while empty
 
     // The item under a key, or null. The pointer holds until the table changes.
     Value* find(const Value& key);
@@ -52,9 +52,18 @@ private:
         std::uint32_t hash = 0;
     };
 
+    // The text looked for last. Scripts ask for one key several times in a row (Exists, read, write), and while its
+    // block is held here nobody can change it, so the same block is the same key.
+    struct Recent {
+        Value key;
+        std::uint32_t hash = 0;
+        std::uint32_t entry = 0; // number of its entry from 1; 0 if there was none or it moved
+    };
+
     std::uint32_t hashOf(const Value& key) const;
     bool same(const Value& a, const Value& b) const noexcept;
-    Entry* findEntry(const Value& key, std::uint32_t hash) noexcept;
+    Entry* locate(const Value& key, std::uint32_t& hash); // gives the hash too
+    Entry* probe(const Value& key, std::uint32_t hash) noexcept;
     Value& append(const Value& key, std::uint32_t hash);
     void place(std::uint32_t number, std::uint32_t hash) noexcept;
     void makeRoom(); // for one more slot
@@ -65,6 +74,7 @@ private:
     std::size_t m_usedSlots = 0; // those of removed entries and former keys included
     std::size_t m_count = 0;
     std::size_t m_charged = 0; // bytes
+    Recent m_recent;
     bool m_ignoresCase = false;
 };
 

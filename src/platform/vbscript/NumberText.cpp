@@ -153,10 +153,22 @@ std::optional<double> parseNumber(std::u16string_view text, const Locale& locale
     return negative ? -number : number;
 }
 
+std::u16string_view wholeText(std::int64_t n, WholeDigits& buffer) noexcept {
+    std::uint64_t rest = n < 0 ? 0 - static_cast<std::uint64_t>(n) : static_cast<std::uint64_t>(n);
+    std::size_t at = buffer.size();
+    do {
+        buffer[--at] = static_cast<char16_t>(u'0' + rest % 10);
+        rest /= 10;
+    } while (rest != 0);
+    if (n < 0) {
+        buffer[--at] = u'-';
+    }
+    return {buffer.data() + at, buffer.size() - at};
+}
+
 String wholeText(std::int64_t n) {
-    std::array<char, 24> buffer{};
-    const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), n).ptr;
-    return String(std::string_view(buffer.data(), static_cast<std::size_t>(end - buffer.data())));
+    WholeDigits buffer;
+    return String(wholeText(n, buffer));
 }
 
 String numberText(double x, const Locale& locale, int digits) {

@@ -282,30 +282,42 @@ Value joinedBytes(const String& text, const String& tail) {
     return Value::ofString(String::fromBytes(bytes));
 }
 
-} // namespace
-
-Value concatenate(Context& context, const Value& a, const Value& b) {
-    const Value left = withoutObject(context, a);
-    const Value right = withoutObject(context, b);
+// The text of both, one after the other; Null counts as no text unless both are. A text joined to nothing is shared.
+Value joinedTexts(Context& context, const Value& left, const Value& right) {
     if (left.isNull() && right.isNull()) {
         return Value::null();
     }
-    String text = left.isNull() ? String() : toString(context, left);
-    const String tail = right.isNull() ? String() : toString(context, right);
-    if (text.hasOddByte() || tail.hasOddByte()) {
-        return joinedBytes(text, tail);
+    if (left.hasOddByte() || right.hasOddByte()) {
+        return joinedBytes(left.isNull() ? String() : toString(context, left),
+                           right.isNull() ? String() : toString(context, right));
     }
-    if (text.empty()) {
-        return Value::ofString(tail);
+    const Value nothing = Value::ofString(String());
+    const TextArgument text(context, left.isNull() ? nothing : left);
+    const TextArgument tail(context, right.isNull() ? nothing : right);
+    if (text.size() == 0 && right.isString()) {
+        return right;
     }
-    if (tail.empty()) {
-        return Value::ofString(text);
+    if (tail.size() == 0 && left.isString()) {
+        return left;
     }
     String joined = String::uninitialized(text.size() + tail.size());
-    char16_t* out = joined.mutableData();
-    std::char_traits<char16_t>::copy(out, text.data(), text.size());
-    std::char_traits<char16_t>::copy(out + text.size(), tail.data(), tail.size());
-    return Value::ofString(joined);
+    if (!joined.empty()) {
+        char16_t* out = joined.mutableData();
+        std::char_traits<char16_t>::copy(out, text.view().data(), text.size());
+        std::char_traits<char16_t>::copy(out + text.size(), tail.view().data(), tail.size());
+    }
+    return Value::ofString(std::move(joined));
+}
+
+} // namespace
+
+Value concatenate(Context& context, const Value& a, const Value& b) {
+    const Value& left = a.deref();
+    const Value& right = b.deref();
+    if (left.isObject() || right.isObject()) {
+        return joinedTexts(context, withoutObject(context, left), withoutObject(context, right));
+    }
+    return joinedTexts(context, left, right);
 }
 
 Value negate(Context& context, const Value& a) {

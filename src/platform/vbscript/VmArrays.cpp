@@ -108,12 +108,18 @@ void Vm::setIndex(Value& base, std::span<Value* const> indexes, Value value, Sto
         raise(ErrorNumber::ObjectNotSet);
     }
     const Value keep = variable;
+    const Access access = store == Store::Set ? Access::Set : Access::Let;
+    if (indexes.size() == 1 && keep.object()->role == Object::Role::Native) {
+        std::array<Value, 2> arguments{indexes[0]->deref(), std::move(value)};
+        keep.object()->invoke(*this, Object::defaultMember, access, arguments);
+        return;
+    }
     std::vector<Value> arguments = copied(indexes);
     arguments.push_back(std::move(value));
     const int member = keep.object()->role == Object::Role::Instance
                            ? static_cast<Instance*>(keep.object())->cls().defaultMember
                            : Object::defaultMember;
-    keep.object()->invoke(*this, member, store == Store::Set ? Access::Set : Access::Let, arguments);
+    keep.object()->invoke(*this, member, access, arguments);
 }
 
 void Vm::index(Instruction instruction) {
