@@ -199,7 +199,7 @@ String numberText(double x, const Locale& locale, int digits) {
     }
     const int count = static_cast<int>(figures.size());
     const auto put = [&out](std::string_view part) { out.append(part.begin(), part.end()); };
-    if (exponent >= digits || exponent < -4 || (exponent < 0 && count - 1 - exponent > digits)) {
+    if (exponent >= digits || (exponent < 0 && count - 1 - exponent > digits)) {
         put(figures.substr(0, 1));
         if (count > 1) {
             out.push_back(locale.decimal);

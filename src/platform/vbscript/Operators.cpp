@@ -324,7 +324,7 @@ Value negate(Context& context, const Value& a) {
     const Value x = toNumber(context, a);
     switch (x.type) {
     case Type::Null:
-        return x;
+        return Value::null();
     case Type::Double:
         return Value::ofDouble(-x.d);
     case Type::Single:
@@ -341,7 +341,7 @@ Value negate(Context& context, const Value& a) {
 Value logicalNot(Context& context, const Value& a) {
     const Value v = withoutObject(context, a);
     if (v.isNull()) {
-        return v;
+        return Value::null();
     }
     const Whole x = wholeOperand(context, v);
     return x.type == Type::Boolean ? Value::ofBoolean(x.n == 0) : ofType(x.type, ~x.n);
