@@ -1,0 +1,3 @@
+Set d = CreateObject("Scripting.Dictionary")
+d.Add "a", 1
+WScript.Echo (d).Count '> 1

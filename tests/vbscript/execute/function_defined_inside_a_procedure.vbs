@@ -1,0 +1,5 @@
+Sub S
+  Execute "Function Siete : Siete = 7 : End Function"
+  WScript.Echo Siete(), Siete
+End Sub
+S '> 7 7
