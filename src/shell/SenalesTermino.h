@@ -9,7 +9,11 @@
 
 class SenalesTermino final {
 public:
-    // From now on both signals call `alLlegar` from the event loop.
+    // Keeps the signals waiting until an object of this class takes them. To be called before the window system
+    // starts threads: the signals would end the program at once through a thread that does not block them.
+    static void retener();
+
+    // From now on both signals call `alLlegar` from the event loop, those that came since retener() too.
     explicit SenalesTermino(std::function<void()> alLlegar);
     ~SenalesTermino();
     SenalesTermino(const SenalesTermino&) = delete;

@@ -48,6 +48,7 @@ QIcon iconoPrograma() {
 
 int main(int argc, char** argv) {
     std::signal(SIGPIPE, SIG_IGN);
+    SenalesTermino::retener();
     ampliarDescriptores();
     const bool sinPantalla = elegirPlataforma();
 

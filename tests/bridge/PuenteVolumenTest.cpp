@@ -19,6 +19,7 @@ constexpr std::size_t volumen = 64'000'000;
 #else
 constexpr std::size_t volumen = 1'000'000'000;
 #endif
+constexpr std::size_t tramoLento = 8'000'000; // bytes that the reader takes in small bites
 constexpr std::size_t largoPatron = 1'000'003; // a prime: a block lost, doubled or moved does not fit the pattern again
 
 const std::string& patron() {
@@ -68,7 +69,7 @@ struct Extremo {
     void recibirTodo() {
         std::mt19937 azar(13);
         while (recibidos < volumen && !distinto) {
-            const bool lento = recibidos > volumen / 4 && recibidos < volumen / 4 + volumen / 200;
+            const bool lento = recibidos > volumen / 4 && recibidos < volumen / 4 + tramoLento;
             const std::string bloque = cliente.receive(lento ? 1 + azar() % 20'000 : 1 << 20);
             if (bloque.empty() || lento)
                 std::this_thread::sleep_for(std::chrono::microseconds(lento ? 500 : 50));

@@ -90,6 +90,11 @@ class Station:
                 stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL, stderr=errors,
                 env=self.environment, preexec_fn=limit)
 
+    def second_copy(self):
+        """Starts the same program once more; the caller waits for its end."""
+        return subprocess.Popen([str(self.binary)], env=self.environment, stdout=subprocess.DEVNULL,
+                                stderr=subprocess.DEVNULL)
+
     def wait_until_listening(self):
         wait_for(lambda: self.alive() and self.accepts(), "the station to listen")
 

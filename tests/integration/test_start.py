@@ -2,9 +2,11 @@
 
 import os
 import signal
+import socket
 import time
 import unittest
 
+from screen import Screen
 from station import Station, wait_for
 
 READ_TEN = bytes([0, 1, 0, 0, 0, 6, 1, 3, 0, 0, 0, 10])
@@ -55,6 +57,21 @@ class Start(unittest.TestCase):
                 for master in masters:
                     master.close()
 
+    def test_the_bridge_listens_on_its_two_ports(self):
+        # Other stations of a parallel run may hold the ports; then this one says so.
+        with Station() as station:
+            for port in (500, 501):
+                wait_for(lambda port=port: self.bridge_answers(port) or f"puerto {port}" in station.errors(),
+                         f"port {port} to listen or to be refused")
+
+    @staticmethod
+    def bridge_answers(port):
+        try:
+            socket.create_connection(("127.0.0.1", port), timeout=5).close()
+            return True
+        except ConnectionRefusedError:
+            return False
+
     def test_an_idle_station_uses_no_processor(self):
         with Station() as station:
             before = station.processor_seconds()
@@ -62,6 +79,72 @@ class Start(unittest.TestCase):
             time.sleep(6)  # an interval to measure over: one tick of the five-second timer is in it
             share = (station.processor_seconds() - before) / (time.monotonic() - began)
             self.assertLess(share, 0.02)
+
+
+class SecondCopy(unittest.TestCase):
+    HIDDEN = "[Trelvano]\r\nver=0\r\nPUERTO_VALOR=@PORT@\r\n"
+
+    def test_it_says_so_and_after_confirming_the_first_shows_itself_within_five_seconds(self):
+        with Screen() as screen, Station(config=self.HIDDEN, environment=screen.environment) as first:
+            self.assertFalse(screen.windows("Trelvano"))
+            second = first.second_copy()
+            box = wait_for(lambda: screen.windows("Esclavo Modbus"), "the message of the second copy")[0]
+            self.assertEqual(first.setting("ver"), "0")
+            screen.key(box, "Return")
+            self.assertEqual(second.wait(5), 0)
+            confirmed = time.monotonic()
+            self.assertEqual(first.setting("ver"), "1")
+            wait_for(lambda: screen.windows("Trelvano"), "the first copy to show its window")
+            self.assertLess(time.monotonic() - confirmed, 5.5)
+            self.assertEqual(len(first.ask(READ_TEN, 29)), 29)
+
+    def test_a_copy_of_the_program_in_another_folder_is_another_program(self):
+        with Station() as one, Station() as other:
+            self.assertTrue(one.alive() and other.alive())
+
+    def test_without_a_screen_it_says_so_and_waits_for_nobody(self):
+        environment = {k: v for k, v in os.environ.items()
+                       if k not in ("DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM")}
+        with Station(config=self.HIDDEN, environment=environment) as first:
+            self.assertEqual(first.second_copy().wait(10), 0)
+            self.assertEqual(first.setting("ver"), "1")
+            self.assertTrue(first.alive())
+
+    def test_sigterm_ends_it_while_its_message_is_open_and_the_first_stays_hidden(self):
+        with Screen() as screen, Station(config=self.HIDDEN, environment=screen.environment) as first:
+            second = first.second_copy()
+            wait_for(lambda: screen.windows("Esclavo Modbus"), "the message of the second copy")
+            second.send_signal(signal.SIGTERM)
+            self.assertEqual(second.wait(1), 0)
+            self.assertEqual(first.setting("ver"), "0")
+
+    def test_after_a_crash_the_next_start_is_the_first_again(self):
+        with Station(config=self.HIDDEN) as first:
+            first.process.kill()
+            first.process.wait()
+            first.launch()
+            first.wait_until_listening()
+
+
+class CloseBox(unittest.TestCase):
+    def test_closing_the_window_ends_the_program(self):
+        with Screen() as screen, Station(environment=screen.environment) as station:
+            master = station.connect()
+            window = wait_for(lambda: screen.windows("Trelvano"), "the window")[0]
+            screen.close_box(window)
+            self.assertEqual(station.process.wait(1), 0)
+            self.assertEqual(station.setting("ver"), "1")
+            master.close()
+
+    def test_the_txrx_window_does_not_take_the_focus(self):
+        with Screen() as screen, Station(environment=screen.environment) as station:
+            window = wait_for(lambda: screen.windows("Trelvano"), "the window")[0]
+            for key in ["shift+Tab"] * 6 + ["space"]:
+                screen.key(window, key)
+            wait_for(lambda: screen.windows("TxRx"), "the TX/RX window")
+            screen.key(None, "space")  # still goes to the check box, which hides it again
+            wait_for(lambda: not screen.windows("TxRx"), "the TX/RX window to hide")
+            self.assertTrue(station.alive())
 
 
 if __name__ == "__main__":
