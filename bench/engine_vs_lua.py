@@ -45,7 +45,7 @@ def main():
     parser.add_argument("--lua", default="lua5.4")
     parser.add_argument("--rounds", type=int, default=5)
     parser.add_argument("kernels", nargs="*")
-    options = parser.parse_args()
+    options = parser.parse_intermixed_args()
     names = options.kernels or sorted(path.stem for path in KERNELS.glob("*.vbs"))
     print(f"{'kernel':12} {'engine':>11} {'Lua 5.4':>11}  ratio")
     ratios = [ratio(options.engine, options.lua, name, options.rounds) for name in names]

@@ -49,6 +49,17 @@ private:
     bool m_fixed = false;
 };
 
+inline ArrayBlock* Value::array() const noexcept {
+    return static_cast<ArrayBlock*>(counted);
+}
+
+inline Value Value::ofArray(ArrayBlock* array) noexcept {
+    Value v;
+    v.type = Type::Array;
+    v.counted = array;
+    return v;
+}
+
 // The block of an array value, made unique first so that its elements may be written.
 ArrayBlock& writableArray(Value& array);
 

@@ -103,9 +103,9 @@ enum class Store : std::uint8_t { Raw = 0, Let = 1, Set = 2, Discard = 3 };
     OP(CallSelf)         /* A = own procedure C(B ... X of them) on Me */                                              \
     OP(CallIntrinsic1)   /* A = intrinsic C(B) */                                                                      \
     OP(CallIntrinsic)    /* A = intrinsic C(B, B+1 ... X of them) */                                                   \
-    OP(GetMember)        /* A = B.site C */                                                                            \
+    OP(GetMember)        /* A = B.site C; X: 1 if B is temporary */                                                    \
     OP(CallMember)       /* A = B.site C(D, D+1 ... X of them) */                                                      \
-    OP(SetMember)        /* A.site C = B */                                                                            \
+    OP(SetMember)        /* A.site C = B; X: 1 if A is temporary */                                                    \
     OP(SetMemberN)       /* A.site C(B ... X of them) = the value after them */                                        \
     OP(GetName)          /* A = C, a name that may be variable or function */                                          \
     OP(CheckDefined)     /* error 500 if nothing has defined global C */                                               \

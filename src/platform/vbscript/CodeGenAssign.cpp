@@ -156,7 +156,7 @@ void CodeGen::assignMember(const Expr* object, Symbol symbol, const std::vector<
     const Operand base = object != nullptr ? expr(object) : withObject();
     if (args.empty()) {
         const Operand from = expr(value);
-        emit(encode(Opcode::SetMember, base, from, site(symbol), packed(0, store)));
+        emit(encode(Opcode::SetMember, base, from, site(symbol), packed(isTemporary(base) ? 1 : 0, store)));
         return;
     }
     if (args.size() > 60) {

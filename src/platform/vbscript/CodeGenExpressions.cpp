@@ -174,7 +174,7 @@ void CodeGen::memberTo(const Expr* e, Operand to, Store store) {
         return;
     }
     const Operand object = e->a != nullptr ? expr(e->a) : withObject();
-    emit(encode(Opcode::GetMember, to, object, site(e->symbol), packed(0, store)));
+    emit(encode(Opcode::GetMember, to, object, site(e->symbol), packed(isTemporary(object) ? 1 : 0, store)));
 }
 
 void CodeGen::newTo(const Expr* e, Operand to, Store store) {

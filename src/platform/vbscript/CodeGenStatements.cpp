@@ -276,7 +276,8 @@ void CodeGen::reDimStatement(const Stmt& s) {
             emit(encode(op, copy, first, 0, packed(target->args.size(), Store::Raw)));
             if (target->a->kind == Expr::Kind::Member) {
                 const Operand object = target->a->a != nullptr ? expr(target->a->a) : withObject();
-                emit(encode(Opcode::SetMember, object, copy, site(target->a->symbol), packed(0, Store::Let)));
+                emit(encode(Opcode::SetMember, object, copy, site(target->a->symbol),
+                            packed(isTemporary(object) ? 1 : 0, Store::Let)));
             } else {
                 const Operand base = elementBase(target->a->a);
                 const Operand indexes = contiguous(target->a->args);

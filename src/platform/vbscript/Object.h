@@ -73,6 +73,18 @@ protected:
     virtual void finalize() noexcept {}
 };
 
+inline Object* Value::object() const noexcept {
+    return static_cast<Object*>(counted);
+}
+
+inline Value Value::ofObject(Object* object) noexcept {
+    Value v;
+    v.type = Type::Object;
+    v.counted = object;
+    v.retain();
+    return v;
+}
+
 // An object whose members stand in a table:
 //
 //   class Counter : public NativeObject<Counter> {

@@ -33,7 +33,8 @@ struct StatementMark {
 struct MemberSite {
     Symbol symbol = noSymbol;
     const void* shape = nullptr;               // of the object seen last
-    int member = 0;                            // its number; of script classes the index of a public field, or -1
+    int member = 0;                            // its number there
+    int field = -1;                            // of instances of script classes: the index of a public field, or -1
     const struct ClassMember* entry = nullptr; // of script classes
 };
 

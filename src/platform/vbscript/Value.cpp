@@ -17,32 +17,9 @@ Value Value::ofWhole(std::int64_t i) noexcept {
     return ofDouble(static_cast<double>(i));
 }
 
-Value Value::ofObject(Object* object) noexcept {
-    Value v;
-    v.type = Type::Object;
-    v.counted = object;
-    v.retain();
-    return v;
-}
-
-Value Value::ofArray(ArrayBlock* array) noexcept {
-    Value v;
-    v.type = Type::Array;
-    v.counted = array;
-    return v;
-}
-
 String Value::string() const noexcept {
     retain();
     return String::adopt(stringBlock());
-}
-
-Object* Value::object() const noexcept {
-    return static_cast<Object*>(counted);
-}
-
-ArrayBlock* Value::array() const noexcept {
-    return static_cast<ArrayBlock*>(counted);
 }
 
 void Value::destroy() noexcept {

@@ -128,8 +128,8 @@ struct Value {
     String string() const noexcept; // shares
     // A text with half a character at its end (see String::fromBytes); any type may be asked.
     bool hasOddByte() const noexcept { return isString() && counted != nullptr && stringBlock()->oddByte != 0; }
-    Object* object() const noexcept;
-    ArrayBlock* array() const noexcept;
+    Object* object() const noexcept;    // defined in Object.h
+    ArrayBlock* array() const noexcept; // defined in Array.h
 
     // Makes the value Empty and gives up what it held.
     void clear() noexcept {

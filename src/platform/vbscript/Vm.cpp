@@ -5,6 +5,7 @@
 #include "platform/vbscript/ErrObject.h"
 #include "platform/vbscript/Instance.h"
 #include "platform/vbscript/Memory.h"
+#include "platform/vbscript/VmFrames.h"
 
 #include <new>
 #include <sys/mman.h>
@@ -265,9 +266,8 @@ Value* Vm::freeRegisters() noexcept {
     return m_depth == 0 ? m_stack : top().base + top().procedure->registers;
 }
 
-// `base` holds `count` arguments already.
-Vm::Frame* Vm::pushFrame(const Procedure* procedure, Value* base, std::size_t count, Instance* me, Value* result,
-                         Store store) {
+// The rare parts of pushFrame: what must be refused, and arguments that go by value.
+void Vm::checkFrame(const Procedure* procedure, Value* base, std::size_t count) {
     if (count != procedure->parameters) {
         raise(ErrorNumber::WrongArgumentCount, m_symbols.name(procedure->name == noSymbol ? 0 : procedure->name));
     }
@@ -281,24 +281,6 @@ Vm::Frame* Vm::pushFrame(const Procedure* procedure, Value* base, std::size_t co
             }
         }
     }
-    for (Value* local = base + count; local < base + procedure->firstTemporary; ++local) {
-        local->type = Type::Empty;
-    }
-    Frame* frame = &m_frames[m_depth++];
-    frame->procedure = procedure;
-    frame->pc = procedure->code.data();
-    frame->base = base;
-    frame->me = me;
-    frame->result = result;
-    frame->store = store;
-    frame->resumeNext = false;
-    frame->extra = nullptr;
-    frame->fields = nullptr;
-    if (me != nullptr) {
-        ++me->references;
-        frame->fields = me->fields();
-    }
-    return frame;
 }
 
 void Vm::clearRegisters(const Frame& frame, std::size_t from) noexcept {

@@ -98,10 +98,10 @@ private:
     void pollSlow();
 
     // Frames
+    void checkFrame(const Procedure* procedure, Value* base, std::size_t count);
     Frame* pushFrame(const Procedure* procedure, Value* base, std::size_t count, Instance* me, Value* result,
                      Store store);
     void popFrame();
-    [[noreturn]] void failCall(ErrorNumber number) { raise(number); }
     Value* freeRegisters() noexcept;
     Frame& top() noexcept { return m_frames[m_depth - 1]; }
     Value& at(Operand o) noexcept;

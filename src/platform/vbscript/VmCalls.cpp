@@ -4,6 +4,7 @@
 #include "platform/vbscript/Convert.h"
 #include "platform/vbscript/Instance.h"
 #include "platform/vbscript/Vm.h"
+#include "platform/vbscript/VmFrames.h"
 
 #include <array>
 #include <utility>
@@ -143,7 +144,7 @@ const ClassMember& Vm::instanceMember(const Instance& instance, MemberSite& site
             raise(ErrorNumber::MemberNotFound, m_symbols.name(site.symbol));
         }
         site.shape = instance.shape;
-        site.member = member->field;
+        site.field = member->field;
         site.entry = member;
     }
     return *site.entry;
@@ -159,6 +160,7 @@ int Vm::nativeMember(Object& object, MemberSite& site) const {
     }
     site.shape = object.shape;
     site.member = member;
+    site.field = -1;
     return member;
 }
 

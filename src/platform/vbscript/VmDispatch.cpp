@@ -4,6 +4,7 @@
 #include "platform/vbscript/Builtins.h"
 #include "platform/vbscript/Instance.h"
 #include "platform/vbscript/Vm.h"
+#include "platform/vbscript/VmFrames.h"
 
 #include <cfloat>
 #include <cmath>
@@ -23,6 +24,24 @@ inline bool isReal(const Value& v) noexcept {
 // Integer, Long and Double as double.
 inline double real(const Value& v) noexcept {
     return v.type == Type::Double ? v.d : static_cast<double>(v.n);
+}
+
+// The value that an operand names. The index stands two bits up in an operand, so its distance in bytes is four times
+// that.
+inline Value& valueAt(Value* const* places, unsigned o) noexcept {
+    return *reinterpret_cast<Value*>(reinterpret_cast<char*>(places[o & 3]) +
+                                     std::size_t{o & 0xfffcU} * (sizeof(Value) / 4));
+}
+
+// Copied by its two words alone.
+inline bool isPlain(const Value& v) noexcept {
+    return v.type < Type::Undefined;
+}
+
+// Whether an element of this type reaches its place as it is.
+inline bool goesAsItIs(Type type, Store store) noexcept {
+    return type == Type::String ? store == Store::Let || store == Store::Raw
+                                : type == Type::Object && (store == Store::Set || store == Store::Raw);
 }
 
 inline void put(Value& to, Type type, std::int64_t n) noexcept {
@@ -65,6 +84,7 @@ void Vm::dispatch(std::size_t floor) {
     Frame* frame = &top();
     const Instruction* pc = frame->pc;
     Instruction i = 0;
+    const Builtin* const intrinsics = builtins().data();
     Value* places[4] = {frame->base, m_globals.values(), const_cast<Value*>(frame->procedure->constants.data()),
                         frame->fields};
 
@@ -76,14 +96,16 @@ void Vm::dispatch(std::size_t floor) {
 #define C static_cast<Operand>(i >> 40)
 #define X static_cast<unsigned>(i >> 56)
 #define J (static_cast<std::int64_t>(i) >> 40)
-#define R(o) places[(o)&3][(o) >> 2]
+#define R(o) valueAt(places, o)
 #define SAVE frame->pc = pc
-#define LOAD                                                                                                           \
-    frame = &m_frames[m_depth - 1];                                                                                    \
+#define ENTER                                                                                                          \
     pc = frame->pc;                                                                                                    \
     places[0] = frame->base;                                                                                           \
     places[2] = const_cast<Value*>(frame->procedure->constants.data());                                                \
     places[3] = frame->fields
+#define LOAD                                                                                                           \
+    frame = &m_frames[m_depth - 1];                                                                                    \
+    ENTER
 #define SLOW(statement)                                                                                                \
     SAVE;                                                                                                              \
     statement;                                                                                                         \
@@ -102,7 +124,7 @@ void Vm::dispatch(std::size_t floor) {
 
 labelMove : {
     const Value& b = R(B);
-    if (!b.isCounted() && b.type < Type::Undefined) [[likely]] {
+    if (isPlain(b)) [[likely]] {
         put(R(A), b.type, b.n);
         NEXT;
     }
@@ -114,7 +136,7 @@ labelCopy:
 
 labelLet : {
     const Value& b = R(B);
-    if (!b.isCounted() && b.type < Type::Undefined) [[likely]] {
+    if (isPlain(b)) [[likely]] {
         put(R(A), b.type, b.n);
         NEXT;
     }
@@ -127,7 +149,7 @@ labelSetObject:
 labelStoreLet : {
     Value& a = R(A).deref();
     const Value& b = R(B);
-    if (!b.isCounted() && b.type < Type::Undefined) [[likely]] {
+    if (isPlain(b)) [[likely]] {
         put(a, b.type, b.n);
         NEXT;
     }
@@ -210,7 +232,10 @@ labelModulo : {
     const Value& b = R(B);
     const Value& c = R(C);
     if (bothWhole(b, c) && c.n > 0) [[likely]] {
-        const auto rest = static_cast<std::int32_t>(b.n) % static_cast<std::int32_t>(c.n);
+        const auto n = static_cast<std::int32_t>(b.n);
+        const auto divisor = static_cast<std::int32_t>(c.n);
+        const bool masks = n >= 0 && (divisor & (divisor - 1)) == 0; // a division costs more than a test
+        const std::int32_t rest = masks ? n & (divisor - 1) : n % divisor;
         put(R(A), static_cast<Type>(static_cast<std::uint64_t>(b.type) | static_cast<std::uint64_t>(c.type)), rest);
         NEXT;
     }
@@ -362,12 +387,21 @@ labelJumpUnless : {
     JUMP_ON(UnlessLessEqual, LessEqual, <=, false)
     JUMP_ON(UnlessGreaterEqual, GreaterEqual, >=, false)
 
-labelForPrepare:
+labelForPrepare : {
+    const Value& variable = R(A);
+    const Value* limits = &R(B);
+    if (bothWhole(variable, limits[0]) && limits[1].isWhole()) [[likely]] {
+        if (limits[1].n >= 0 ? variable.n > limits[0].n : variable.n < limits[0].n) {
+            pc += J;
+        }
+        NEXT;
+    }
     SAVE;
     if (!forPrepare(R(A).deref(), &R(B))) {
         pc += J;
     }
     NEXT;
+}
 
 labelForLoop : {
     Value& variable = R(A);
@@ -418,11 +452,9 @@ labelIndex : {
                 put(R(A), element.type, element.n);
                 NEXT;
             }
-            if (element.type != Type::Object || (X >> 6) == static_cast<unsigned>(Store::Raw)) {
-                if ((X >> 6) != static_cast<unsigned>(Store::Set)) {
-                    R(A) = Value(element);
-                    NEXT;
-                }
+            if (goesAsItIs(element.type, static_cast<Store>(X >> 6))) {
+                R(A) = Value(element);
+                NEXT;
             }
         }
     }
@@ -455,8 +487,8 @@ labelSetIndex : {
     Value& base = R(A).deref();
     const Value& at = R(B);
     const Value& value = R(C);
-    if (base.type == Type::Array && at.isWhole() && !value.isCounted() && value.type < Type::Undefined &&
-        (X >> 6) == static_cast<unsigned>(Store::Let)) [[likely]] {
+    if (base.type == Type::Array && at.isWhole() && isPlain(value) && (X >> 6) == static_cast<unsigned>(Store::Let))
+        [[likely]] {
         ArrayBlock& array = *base.array();
         if (array.references == 1 && array.dimensions() == 1 && static_cast<std::uint64_t>(at.n) < array.count())
             [[likely]] {
@@ -473,8 +505,8 @@ labelSetIndex2 : {
     const Value& b = R(B);
     const Value& c = R(C);
     const Value& value = R(from);
-    if (base.type == Type::Array && bothWhole(b, c) && !value.isCounted() && value.type < Type::Undefined &&
-        (X >> 6) == static_cast<unsigned>(Store::Let)) [[likely]] {
+    if (base.type == Type::Array && bothWhole(b, c) && isPlain(value) && (X >> 6) == static_cast<unsigned>(Store::Let))
+        [[likely]] {
         ArrayBlock& array = *base.array();
         if (array.references == 1 && array.dimensions() == 2 &&
             static_cast<std::uint64_t>(b.n) < static_cast<std::uint64_t>(array.size(0)) &&
@@ -500,11 +532,12 @@ labelCall : {
     }
     if (callee.type == Type::Procedure &&
         static_cast<const Callable*>(callee.pointer)->kind == Callable::Kind::Procedure) [[likely]] {
-        pushFrame(static_cast<const Procedure*>(static_cast<const Callable*>(callee.pointer)), &R(B), X & 63, nullptr,
-                  &R(A), static_cast<Store>(X >> 6));
-    } else {
-        callOther(i);
+        frame = pushFrame(static_cast<const Procedure*>(static_cast<const Callable*>(callee.pointer)), &R(B), X & 63,
+                          nullptr, &R(A), static_cast<Store>(X >> 6));
+        ENTER;
+        NEXT;
     }
+    callOther(i);
     LOAD;
     NEXT;
 }
@@ -514,24 +547,35 @@ labelCallSelf:
     if (--m_budget < 0) [[unlikely]] {
         pollSlow();
     }
-    pushFrame(frame->procedure->selfCalls[C], &R(B), X & 63, frame->me, &R(A), static_cast<Store>(X >> 6));
-    LOAD;
+    frame = pushFrame(frame->procedure->selfCalls[C], &R(B), X & 63, frame->me, &R(A), static_cast<Store>(X >> 6));
+    ENTER;
     NEXT;
 
-labelCallIntrinsic1:
+labelCallIntrinsic1 : {
+    Value& argument = R(B).deref();
+    if (isPlain(argument)) [[likely]] {
+        SAVE;
+        Value result = intrinsics[C].function(*this, {&argument, 1});
+        if (isPlain(result) && static_cast<Store>(X >> 6) <= Store::Let) [[likely]] {
+            put(R(A), result.type, result.n);
+            NEXT;
+        }
+        deliver(std::move(result), R(A), static_cast<Store>(X >> 6));
+        NEXT;
+    }
     SLOW(callIntrinsic1(i));
+}
 
 labelCallIntrinsic:
     SLOW(callIntrinsic(i));
 
 labelGetMember : {
     const Value& object = R(B).deref();
-    if (object.type == Type::Object && object.counted != nullptr) [[likely]] {
+    if (object.type == Type::Object && object.counted != nullptr && (X & 1) == 0) [[likely]] {
         const MemberSite& site = frame->procedure->sites[C];
         Object* target = object.object();
-        if (target->shape == site.shape && target->role == Object::Role::Instance && site.member >= 0 &&
-            !isTemporary(B)) [[likely]] {
-            const Value& field = static_cast<Instance*>(target)->fields()[site.member];
+        if (target->shape == site.shape && site.field >= 0) [[likely]] {
+            const Value& field = static_cast<Instance*>(target)->fields()[site.field];
             if (!field.isCounted()) [[likely]] {
                 put(R(A), field.type, field.n);
                 NEXT;
@@ -558,13 +602,12 @@ labelCallMember : {
 labelSetMember : {
     const Value& object = R(A).deref();
     const Value& value = R(B);
-    if (object.type == Type::Object && object.counted != nullptr && !value.isCounted() &&
-        value.type < Type::Undefined && (X >> 6) == static_cast<unsigned>(Store::Let)) [[likely]] {
+    if (object.type == Type::Object && object.counted != nullptr && isPlain(value) && X == packed(0, Store::Let))
+        [[likely]] {
         const MemberSite& site = frame->procedure->sites[C];
         Object* target = object.object();
-        if (target->shape == site.shape && target->role == Object::Role::Instance && site.member >= 0 &&
-            !isTemporary(A)) [[likely]] {
-            put(static_cast<Instance*>(target)->fields()[site.member], value.type, value.n);
+        if (target->shape == site.shape && site.field >= 0) [[likely]] {
+            put(static_cast<Instance*>(target)->fields()[site.field], value.type, value.n);
             NEXT;
         }
     }
@@ -631,7 +674,32 @@ labelRaise:
     SAVE;
     raiseCompiled(i);
 
-labelReturn:
+labelReturn : {
+    const Procedure& procedure = *frame->procedure;
+    Value* base = frame->base;
+    if (frame->me == nullptr && frame->extra == nullptr) [[likely]] {
+        Value* to = frame->result;
+        const int slot = procedure.resultSlot;
+        const bool wanted = slot >= 0 && frame->store <= Store::Let;
+        if (!wanted ? frame->store == Store::Discard : isPlain(base[slot])) [[likely]] {
+            const Value* end = base + procedure.firstTemporary;
+            for (Value* local = base; local < end; ++local) {
+                if (local->isCounted()) {
+                    local->clear();
+                }
+            }
+            --m_depth;
+            if (wanted) {
+                put(*to, base[slot].type, base[slot].n);
+            }
+            if (m_depth == floor) {
+                return;
+            }
+            --frame;
+            ENTER;
+            NEXT;
+        }
+    }
     SAVE;
     popFrame();
     if (m_depth == floor) {
@@ -639,6 +707,7 @@ labelReturn:
     }
     LOAD;
     NEXT;
+}
 }
 
 } // namespace vbs
