@@ -95,17 +95,17 @@ void CodeGen::addImplicitLocals() {
         return;
     }
     std::for_each(m_decl.assigned.begin(), m_decl.assigned.end(), consider);
+    const std::unordered_set<Symbol> called(m_decl.called.begin(), m_decl.called.end());
     for (const Passed& passed : m_decl.passed) {
-        if (passed.callee == noSymbol || m_scope.resolve(passed.callee).kind != Resolved::Kind::Intrinsic) {
+        const bool toIntrinsic =
+            passed.callee != noSymbol && m_scope.resolve(passed.callee).kind == Resolved::Kind::Intrinsic;
+        if (!toIntrinsic && !called.contains(passed.name)) {
             consider(passed.name);
         }
     }
-    if (m_decl.dynamicScope) {
-        const std::unordered_set<Symbol> called(m_decl.called.begin(), m_decl.called.end());
-        for (const Symbol symbol : m_decl.mentioned) {
-            if (!called.contains(symbol)) {
-                consider(symbol);
-            }
+    for (const Symbol symbol : m_decl.dynamicScope ? m_decl.mentioned : std::vector<Symbol>()) {
+        if (!called.contains(symbol)) {
+            consider(symbol);
         }
     }
 }

@@ -1,0 +1,79 @@
+// Values, texts and arrays as the rest of the engine relies on them.
+#include "platform/vbscript/Value.h"
+
+#include "platform/vbscript/Array.h"
+#include "platform/vbscript/Memory.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using namespace vbs;
+
+TEST(Value, takesSixteenBytes) {
+    EXPECT_EQ(sizeof(Value), 16U);
+}
+
+TEST(Value, numbersAllocateNothing) {
+    const std::size_t before = memoryMeter().used;
+    const Value values[] = {Value::ofWhole(1), Value::ofDouble(1.5), Value::ofDate(2.0), Value::ofBoolean(true),
+                            Value::null()};
+    EXPECT_EQ(memoryMeter().used, before);
+    EXPECT_EQ(values[0].type, Type::Integer);
+}
+
+TEST(String, appendingToAnUnsharedTextIsInPlace) {
+    String text(std::u16string_view(u"a"));
+    for (int i = 0; i < 1000; ++i) {
+        text.append(u"bc");
+    }
+    const char16_t* before = text.data();
+    text.append(u"d");
+    EXPECT_EQ(text.data(), before);
+    EXPECT_EQ(text.size(), 2002U);
+}
+
+TEST(String, appendingToASharedTextLeavesTheOtherAlone) {
+    String text(std::u16string_view(u"abc"));
+    const String other = text;
+    text.append(u"d");
+    EXPECT_EQ(other.view(), u"abc");
+    EXPECT_EQ(text.view(), u"abcd");
+}
+
+TEST(String, aTextMayBeAppendedToItself) {
+    String text(std::u16string_view(u"ab"));
+    for (int i = 0; i < 4; ++i) {
+        text.append(text.view());
+    }
+    EXPECT_EQ(text.size(), 32U);
+    EXPECT_EQ(text.view().substr(28), u"abab");
+}
+
+TEST(Array, aCopySharesUntilItIsWritten) {
+    Value a = Value::ofArray(ArrayBlock::create(3));
+    Value b = a;
+    EXPECT_EQ(a.array(), b.array());
+    writableArray(b).elements()[0] = Value::ofWhole(5);
+    EXPECT_NE(a.array(), b.array());
+    EXPECT_TRUE(a.array()->elements()[0].isEmpty());
+}
+
+TEST(Array, aMillionElementsTakeSixteenBytesEach) {
+    const std::size_t before = memoryMeter().used;
+    const Value a = Value::ofArray(ArrayBlock::create(1000000));
+    EXPECT_LT(memoryMeter().used - before, 16000200U);
+}
+
+TEST(Utf8, roundTripKeepsEveryScalar) {
+    const std::string text = "a\xC3\xB1\xE2\x82\xAC\xF0\x9F\x98\x80";
+    EXPECT_EQ(toUtf8(fromUtf8(text)), text);
+}
+
+TEST(Utf8, overlongAndTruncatedBytesBecomeReplacements) {
+    EXPECT_EQ(fromUtf8("\xC0\x80"), u"\uFFFD\uFFFD");
+    EXPECT_EQ(fromUtf8("\xE2\x82"), u"\uFFFD\uFFFD");
+    EXPECT_EQ(fromUtf8("\xED\xA0\x80"), u"\uFFFD\uFFFD\uFFFD");
+}
+
+} // namespace
