@@ -14,6 +14,7 @@
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <chrono>
 #include <cstdio>
 
@@ -34,6 +35,22 @@ QColor colorDe(ColorPuerto color) {
         break;
     }
     return {255, 0, 0};
+}
+
+std::array<char16_t, 256> tablaAnsi() {
+    std::array<char16_t, 256> tabla{};
+    for (std::size_t b = 0; b < tabla.size(); ++b)
+        tabla[b] = QString::fromStdString(utf8DeAnsi(std::string(1, static_cast<char>(b)))).at(0).unicode();
+    return tabla;
+}
+
+// By table, since every byte that is relayed passes here while the monitors are on.
+QString deAnsi(std::string_view bytes) {
+    static const std::array<char16_t, 256> tabla = tablaAnsi();
+    QString texto(static_cast<qsizetype>(bytes.size()), Qt::Uninitialized);
+    std::transform(bytes.begin(), bytes.end(), texto.begin(),
+                   [](char c) { return QChar(tabla[static_cast<unsigned char>(c)]); });
+    return texto;
 }
 
 QTreeWidgetItem* nodo(QTreeWidgetItem* padre, const QString& clave, const QString& texto) {
@@ -154,7 +171,7 @@ bool FrmConexionesPuentes::stop() const {
 }
 
 void FrmConexionesPuentes::mostrar(Lado lado, std::string_view texto) {
-    txtTramas_[static_cast<std::size_t>(lado)]->agregar(QString::fromStdString(utf8DeAnsi(texto)));
+    txtTramas_[static_cast<std::size_t>(lado)]->agregar(deAnsi(texto));
 }
 
 void FrmConexionesPuentes::colorear(Lado lado, ColorPuerto color) {

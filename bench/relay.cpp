@@ -1,0 +1,254 @@
+// The bridge beside a bare two-socket copy loop: throughput of large blocks and round trips of small ones, with the
+// monitors on and off. Usage: relay [SLICES]
+//
+// The relays take turns in slices, so that what else the machine does falls upon all; a row is the median of the ratios
+// of neighbouring slices.
+#include "bridge/FrmConexionesPuentes.h"
+#include "platform/window/Eventos.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QSocketNotifier>
+
+#include <algorithm>
+#include <arpa/inet.h>
+#include <array>
+#include <chrono>
+#include <csignal>
+#include <cstdio>
+#include <cstdlib>
+#include <functional>
+#include <netinet/in.h>
+#include <netinet/tcp.h>
+#include <poll.h>
+#include <sched.h>
+#include <stdexcept>
+#include <sys/prctl.h>
+#include <sys/socket.h>
+#include <sys/wait.h>
+#include <thread>
+#include <unistd.h>
+#include <vector>
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+using Ports = std::array<std::uint16_t, 2>;
+
+constexpr std::size_t largeBlock = 65536;
+constexpr std::size_t smallBlock = 64;
+constexpr int roundTrips = 2000;
+
+/// Relays run on the first processor, the clients on the last: where the scheduler happens to put them would otherwise
+/// change a round trip threefold.
+void runOnProcessor(long number) {
+    cpu_set_t set;
+    CPU_ZERO(&set);
+    CPU_SET(static_cast<std::size_t>(number), &set);
+    sched_setaffinity(0, sizeof set, &set); // where it is not allowed, the figures are only less steady
+}
+
+sockaddr_in loopback(std::uint16_t port) {
+    sockaddr_in address{};
+    address.sin_family = AF_INET;
+    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+    address.sin_port = htons(port);
+    return address;
+}
+
+int listenOn(std::uint16_t port) {
+    const int listener = socket(AF_INET, SOCK_STREAM, 0);
+    const int on = 1;
+    setsockopt(listener, SOL_SOCKET, SO_REUSEADDR, &on, sizeof on);
+    const sockaddr_in address = loopback(port);
+    if (bind(listener, reinterpret_cast<const sockaddr*>(&address), sizeof address) != 0 || listen(listener, 1) != 0)
+        throw std::runtime_error("a port is taken");
+    return listener;
+}
+
+std::uint16_t freePort() {
+    const int listener = listenOn(0);
+    sockaddr_in address{};
+    socklen_t size = sizeof address;
+    getsockname(listener, reinterpret_cast<sockaddr*>(&address), &size);
+    close(listener);
+    return ntohs(address.sin_port);
+}
+
+void setNoDelay(int connection) {
+    const int on = 1;
+    setsockopt(connection, IPPROTO_TCP, TCP_NODELAY, &on, sizeof on);
+}
+
+void sendAll(int connection, const char* data, std::size_t size) {
+    while (size > 0) {
+        const ssize_t count = send(connection, data, size, MSG_NOSIGNAL);
+        if (count <= 0)
+            throw std::runtime_error("a relay ended");
+        data += count;
+        size -= static_cast<std::size_t>(count);
+    }
+}
+
+void receiveAll(int connection, std::vector<char>& buffer, std::size_t size) {
+    while (size > 0) {
+        const ssize_t count = recv(connection, buffer.data(), std::min(buffer.size(), size), 0);
+        if (count <= 0)
+            throw std::runtime_error("a relay ended");
+        size -= static_cast<std::size_t>(count);
+    }
+}
+
+/// The reference: the least that copying between two sockets takes.
+void serveBareLoop(Ports ports) {
+    const std::array listeners{listenOn(ports[0]), listenOn(ports[1])};
+    const std::array sides{accept(listeners[0], nullptr, nullptr), accept(listeners[1], nullptr, nullptr)};
+    std::array<pollfd, 2> watched{pollfd{sides[0], POLLIN, 0}, pollfd{sides[1], POLLIN, 0}};
+    for (const int side : sides)
+        setNoDelay(side);
+    std::vector<char> buffer(largeBlock);
+    while (poll(watched.data(), watched.size(), -1) > 0)
+        for (std::size_t i = 0; i < 2; ++i)
+            if (watched[i].revents != 0) {
+                const ssize_t count = recv(sides[i], buffer.data(), buffer.size(), 0);
+                if (count <= 0)
+                    return;
+                sendAll(sides[1 - i], buffer.data(), static_cast<std::size_t>(count));
+            }
+}
+
+/// The bridge window in its event loop, as the station runs it.
+void serveBridge(Ports ports, bool display) {
+    setenv("QT_QPA_PLATFORM", "offscreen", 1);
+    int argc = 1;
+    std::array<char, 6> name{"relay"};
+    std::array<char*, 2> argv{name.data(), nullptr};
+    QApplication application(argc, argv.data());
+    Reactor reactor;
+    Eventos events;
+    QWidget principal;
+    FrmConexionesPuentes window(principal, reactor, events, ports[0], ports[1]);
+    QSocketNotifier notifier(reactor.descriptor(), QSocketNotifier::Read);
+    QObject::connect(&notifier, &QSocketNotifier::activated, &notifier, [&] { reactor.turn(); });
+    window.findChild<QCheckBox*>(QStringLiteral("chStop"))->setChecked(!display);
+    window.show();
+    QApplication::exec();
+}
+
+/// A relay in a process of its own, and a client on each side.
+class Relay {
+public:
+    explicit Relay(const std::function<void(Ports)>& serve) : ports_{freePort(), freePort()}, process_(fork()) {
+        if (process_ == 0) {
+            prctl(PR_SET_PDEATHSIG, SIGKILL);
+            runOnProcessor(0);
+            serve(ports_);
+            _exit(0);
+        }
+        sides_ = {connectTo(ports_[0]), connectTo(ports_[1])};
+    }
+    ~Relay() {
+        kill(process_, SIGKILL);
+        waitpid(process_, nullptr, 0);
+        for (const int side : sides_)
+            close(side);
+    }
+    Relay(const Relay&) = delete;
+    Relay& operator=(const Relay&) = delete;
+
+    /// Seconds that `size` bytes take from side 1 to side 2 in large blocks.
+    double transfer(std::size_t size) {
+        const auto began = Clock::now();
+        std::thread sender([&] {
+            // Lines, as a device would send: without line ends the monitors would show one endless one.
+            std::vector<char> block(largeBlock, 'x');
+            for (std::size_t i = 79; i < block.size(); i += 80)
+                block[i] = '\r';
+            for (std::size_t sent = 0; sent < size; sent += block.size())
+                sendAll(sides_[0], block.data(), block.size());
+        });
+        receiveAll(sides_[1], buffer_, size);
+        sender.join();
+        return std::chrono::duration<double>(Clock::now() - began).count();
+    }
+
+    /// Median seconds of a round trip of a small block, there and back.
+    double roundTrip() {
+        std::vector<double> times;
+        std::vector<char> block(smallBlock, 'x');
+        for (int i = 0; i < roundTrips; ++i) {
+            const auto began = Clock::now();
+            sendAll(sides_[0], block.data(), block.size());
+            receiveAll(sides_[1], buffer_, block.size());
+            sendAll(sides_[1], block.data(), block.size());
+            receiveAll(sides_[0], buffer_, block.size());
+            times.push_back(std::chrono::duration<double>(Clock::now() - began).count());
+        }
+        std::nth_element(times.begin(), times.begin() + roundTrips / 2, times.end());
+        return times[roundTrips / 2];
+    }
+
+private:
+    static int connectTo(std::uint16_t port) {
+        const auto deadline = Clock::now() + std::chrono::seconds(10);
+        const sockaddr_in address = loopback(port);
+        while (Clock::now() < deadline) {
+            const int connection = socket(AF_INET, SOCK_STREAM, 0);
+            setNoDelay(connection);
+            if (connect(connection, reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0)
+                return connection;
+            close(connection);
+            std::this_thread::sleep_for(std::chrono::milliseconds(20));
+        }
+        throw std::runtime_error("a relay does not listen");
+    }
+
+    Ports ports_;
+    pid_t process_;
+    std::array<int, 2> sides_{};
+    std::vector<char> buffer_ = std::vector<char>(largeBlock * 4);
+};
+
+double medianRatio(int slices, const std::function<double()>& first, const std::function<double()>& second) {
+    std::vector<double> ratios;
+    first(); // not counted: lets the windows of the connections open up
+    second();
+    for (int i = 0; i < slices; ++i) {
+        const double one = first();
+        ratios.push_back(one / second());
+    }
+    const auto middle = ratios.begin() + static_cast<std::ptrdiff_t>(ratios.size() / 2);
+    std::nth_element(ratios.begin(), middle, ratios.end());
+    return *middle;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    const int slices = argc > 1 ? std::max(1, std::atoi(argv[1])) : 15;
+    // The monitors keep everything, so with them on the slices are small.
+    constexpr std::size_t offSlice = 1024 * largeBlock;
+    constexpr std::size_t onSlice = 64 * largeBlock;
+    try {
+        Relay bare(serveBareLoop);
+        Relay quiet([](Ports ports) { serveBridge(ports, false); });
+        Relay shown([](Ports ports) { serveBridge(ports, true); });
+        runOnProcessor(sysconf(_SC_NPROCESSORS_ONLN) - 1);
+        const auto throughput = [&](Relay& relay, std::size_t size) {
+            return medianRatio(
+                slices, [&] { return bare.transfer(size); }, [&] { return relay.transfer(size); });
+        };
+        const auto latency = [&](Relay& relay) {
+            return medianRatio(
+                slices, [&] { return relay.roundTrip(); }, [&] { return bare.roundTrip(); });
+        };
+        std::printf("puente, caudal sin monitores: %.2f (objetivo 0.90)\n", throughput(quiet, offSlice));
+        std::printf("puente, caudal con monitores: %.2f\n", throughput(shown, onSlice));
+        std::printf("puente, ida y vuelta sin monitores: %.2f\n", latency(quiet));
+        std::printf("puente, ida y vuelta con monitores: %.2f\n", latency(shown));
+    } catch (const std::exception& failure) {
+        std::fprintf(stderr, "relay: %s\n", failure.what());
+        return 1;
+    }
+    return 0;
+}
