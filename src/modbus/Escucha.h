@@ -32,7 +32,7 @@ class Escucha final : private WinsockEvents {
 public:
     // All borrowed. `rutaPrograma` is the executable, named in the advice about ports below 1024.
     Escucha(Reactor& reactor, Peticiones& peticiones, EntornoEscucha& entorno, std::string rutaPrograma);
-    ~Escucha();
+    ~Escucha() override;
 
     // Listens on the configured port unless it does so already, and writes the port in use back to the settings. Run
     // at start and on every tick of TimerCambioPuerto. A refused port is tried again by the next call.

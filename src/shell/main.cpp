@@ -53,6 +53,7 @@ int main(int argc, char** argv) {
     const bool sinPantalla = elegirPlataforma();
 
     QApplication aplicacion(argc, argv);
+    // NOLINTNEXTLINE(clang-analyzer-cplusplus.NewDeleteLeaks): the application owns its style
     QApplication::setStyle(new EstiloLegible);
     QApplication::setApplicationName(QStringLiteral("esclavo-modbus"));
     QApplication::setQuitOnLastWindowClosed(false);

@@ -158,6 +158,22 @@ private Q_SLOTS:
         QCOMPARE(p.color(0), QColor(0, 0, 128));
     }
 
+    void portsCanBeReadOnADarkTheme() {
+        const QPalette claro = QApplication::palette();
+        QApplication::setPalette(QPalette(QColor(40, 40, 40)));
+        {
+            Puesto p;
+            p.tic();
+            p.tic();
+            QCOMPARE(p.color(0), QColor(0, 0, 128));
+            QVERIFY(p.nodo(0).background(0).color().lightness() > 200);
+        }
+        QApplication::setPalette(claro);
+        Puesto p;
+        p.tic();
+        QCOMPARE(p.nodo(0).background(0).style(), Qt::NoBrush);
+    }
+
     void portListensAgainByItselfWithinAboutASecond() {
         Puesto p;
         QTRY_COMPARE(p.estado(Lado::uno), WinsockState::listening);

@@ -19,7 +19,7 @@ constexpr std::size_t volumen = 64'000'000;
 #else
 constexpr std::size_t volumen = 1'000'000'000;
 #endif
-constexpr std::size_t tramoLento = 8'000'000; // bytes that the reader takes in small bites
+constexpr std::size_t tramoLento = 8'000'000;  // bytes that the reader takes in small bites
 constexpr std::size_t largoPatron = 1'000'003; // a prime: a block lost, doubled or moved does not fit the pattern again
 
 const std::string& patron() {

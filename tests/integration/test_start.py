@@ -1,5 +1,6 @@
 """Start-up, shutdown and the configuration file, seen from outside."""
 
+import contextlib
 import os
 import signal
 import socket
@@ -71,6 +72,20 @@ class Start(unittest.TestCase):
             return True
         except ConnectionRefusedError:
             return False
+
+    def test_a_bridge_port_that_is_taken_is_told_once_and_tried_again(self):
+        with contextlib.ExitStack() as stack:
+            holder = socket.socket()
+            stack.callback(holder.close)
+            holder.setsockopt(socket.SOL_SOCKET, socket.SO_REUSEADDR, 1)
+            with contextlib.suppress(OSError):  # held by a station of a parallel run, or not permitted: as good
+                holder.bind(("", 500))
+                holder.listen()
+            with Station() as station:
+                wait_for(lambda: "puerto 500" in station.errors(), "the reason why port 500 is refused")
+                time.sleep(2.5)  # two more attempts
+                self.assertEqual(station.errors().count("puerto 500"), 1)
+                self.assertTrue(station.alive())
 
     def test_an_idle_station_uses_no_processor(self):
         with Station() as station:
