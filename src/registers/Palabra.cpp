@@ -42,7 +42,7 @@ double peso(std::int16_t bit) {
 
 ErrorEjecucion::ErrorEjecucion(int numero) : std::runtime_error(textoDeError(numero)), numero_(numero) {}
 
-std::int32_t entero32(double x) {
+std::int32_t redondear32(double x) {
     return redondear<std::int32_t>(x);
 }
 

@@ -26,7 +26,15 @@ private:
 };
 
 // x as a whole number of 32 or 16 bits. Raises desbordamiento when the rounded value does not fit (NaN included).
-std::int32_t entero32(double x);
+std::int32_t redondear32(double x);
+inline std::int32_t entero32(double x) {
+    // Nearly every index is whole already: one conversion there and back instead of the rounding function.
+    if (x > -2147483648.0 && x < 2147483648.0) {
+        if (const auto n = static_cast<std::int32_t>(x); static_cast<double>(n) == x)
+            return n;
+    }
+    return redondear32(x);
+}
 std::int16_t entero16(double x);
 
 // x + 65536 when x is below 0, else x unchanged. No range check: -70000 gives -4464.

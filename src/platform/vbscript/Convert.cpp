@@ -48,7 +48,7 @@ Value withoutObject(Context& context, const Value& v) {
     return plain.isObject() ? context.defaultValue(plain) : plain;
 }
 
-double toDouble(Context& context, const Value& value) {
+double toDoubleSlowly(Context& context, const Value& value) {
     const Value& v = value.deref();
     switch (v.type) {
     case Type::Integer:

@@ -12,7 +12,10 @@
 
 namespace vbs {
 
-double toDouble(Context& context, const Value& v);
+double toDoubleSlowly(Context& context, const Value& v); // toDouble of what is neither whole nor Double
+inline double toDouble(Context& context, const Value& v) {
+    return v.isWhole() ? static_cast<double>(v.n) : v.type == Type::Double ? v.d : toDoubleSlowly(context, v);
+}
 std::int32_t toLong(Context& context, const Value& v);
 std::int16_t toInteger(Context& context, const Value& v);
 std::uint8_t toByte(Context& context, const Value& v);

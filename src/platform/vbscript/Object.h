@@ -125,12 +125,11 @@ public:
         std::uint8_t most = 0;
     };
 
-    NativeObject() noexcept { shape = T::members().data(); }
+    NativeObject() noexcept : m_table(T::members()) { shape = m_table.data(); }
 
     int resolve(std::u16string_view name) override {
-        const auto table = T::members();
-        for (std::size_t i = 0; i < table.size(); ++i) {
-            if (!table[i].name.empty() && equalNoCase(table[i].name, name)) {
+        for (std::size_t i = 0; i < m_table.size(); ++i) {
+            if (!m_table[i].name.empty() && equalNoCase(m_table[i].name, name)) {
                 return static_cast<int>(i);
             }
         }
@@ -138,21 +137,21 @@ public:
     }
 
     Value invoke(Context& context, int member, Access access, Arguments arguments) override {
-        const auto table = T::members();
-        if (member < 0 || static_cast<std::size_t>(member) >= table.size() ||
-            table[static_cast<std::size_t>(member)].function == nullptr) {
+        const auto index = static_cast<std::size_t>(member);
+        if (index >= m_table.size() || m_table[index].function == nullptr ||
+            !m_table[index].accesses.contains(access)) {
             raise(ErrorNumber::MemberNotFound);
         }
-        const Member& entry = table[static_cast<std::size_t>(member)];
-        if (!entry.accesses.contains(access)) {
-            raise(ErrorNumber::MemberNotFound);
-        }
+        const Member& entry = m_table[index];
         const std::size_t given = arguments.size() - (access == Access::Let || access == Access::Set ? 1 : 0);
         if (given < entry.least || given > entry.most) {
             raise(ErrorNumber::WrongArgumentCount);
         }
         return (static_cast<T*>(this)->*entry.function)(context, access, arguments);
     }
+
+private:
+    const std::span<const Member> m_table;
 };
 
 // A counted pointer for C++ code that keeps an object.

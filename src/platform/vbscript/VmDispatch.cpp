@@ -594,6 +594,36 @@ labelCallMember : {
     if (--m_budget < 0) [[unlikely]] {
         pollSlow();
     }
+    const Value& object = R(B).deref();
+    if (object.type == Type::Object && object.counted != nullptr && (B & 3) != static_cast<unsigned>(Place::Frame)) {
+        const MemberSite& site = frame->procedure->sites[C];
+        Object* target = object.object();
+        const auto store = static_cast<Store>(X >> 6);
+        if (target->shape == site.shape && target->role == Object::Role::Native && !target->takesReferences &&
+            store != Store::Set) {
+            Value* arguments = &R(first);
+            const std::size_t count = X & 63;
+            for (std::size_t k = 0; k < count; ++k) {
+                if (arguments[k].type == Type::Reference) {
+                    arguments[k] = Value(*arguments[k].target);
+                }
+            }
+            const Value keep = Value::ofObject(target);
+            Value result = target->invoke(*this, site.member, store == Store::Discard ? Access::Call : Access::Get,
+                                          {arguments, count});
+            for (std::size_t k = 0; k < count; ++k) {
+                arguments[k].clear();
+            }
+            if (isPlain(result)) [[likely]] {
+                if (store != Store::Discard) {
+                    put(R(A), result.type, result.n);
+                }
+            } else {
+                deliver(std::move(result), R(A), store);
+            }
+            NEXT;
+        }
+    }
     callMember(i, first);
     LOAD;
     NEXT;
