@@ -555,12 +555,15 @@ labelCallIntrinsic1 : {
     Value& argument = R(B).deref();
     if (isPlain(argument)) [[likely]] {
         SAVE;
-        Value result = intrinsics[C].function(*this, {&argument, 1});
-        if (isPlain(result) && static_cast<Store>(X >> 6) <= Store::Let) [[likely]] {
-            put(R(A), result.type, result.n);
-            NEXT;
-        }
-        deliver(std::move(result), R(A), static_cast<Store>(X >> 6));
+        // A scope of its own: an indirect jump may not leave that of a value.
+        [this, &argument, &to = R(A), function = intrinsics[C].function, store = static_cast<Store>(X >> 6)] {
+            Value result = function(*this, {&argument, 1});
+            if (isPlain(result) && store <= Store::Let) [[likely]] {
+                put(to, result.type, result.n);
+            } else {
+                deliver(std::move(result), to, store);
+            }
+        }();
         NEXT;
     }
     SLOW(callIntrinsic1(i));
