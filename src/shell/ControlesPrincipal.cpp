@@ -150,9 +150,7 @@ void ControlesPrincipal::grupoScript(QVBoxLayout& columna, QWidget* padre) {
     fila->addWidget(BtnEdicionCodigo);
     fila->addWidget(lblBaseDeTiempo, 1);
 
-    // Until there is a script runner behind them.
-    chScript->setEnabled(false);
-    BtnEdicionCodigo->setEnabled(false);
+    BtnEdicionCodigo->setEnabled(false); // until there is a window behind it
     columna.addWidget(titulo(padre, "Label2", QStringLiteral("Codigo Script")));
     columna.addLayout(fila);
 }

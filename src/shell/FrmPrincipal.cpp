@@ -58,7 +58,12 @@ void mostrarDelante(QWidget& ventana) {
 
 FrmPrincipal::FrmPrincipal(Modulo_Config& config, Arranque arranque)
     : config_(config), arranque_(std::move(arranque)), escucha_(reactor_, peticiones_, *this, arranque_.rutaPrograma),
-      controles_(std::make_unique<ControlesPrincipal>(*this, monitores_.escrituras())) {
+      controles_(std::make_unique<ControlesPrincipal>(*this, monitores_.escrituras())),
+      script_(std::make_unique<AutomatizacionScript>(
+          esclavos_, configuracionScript_, config_.rutaArchivo().parent_path(), eventos_,
+          AutomatizacionScript::Ventana{*this, *controles_->chScript, *controles_->lblBaseDeTiempo,
+                                        arranque_.sinPantalla},
+          arranque_.limiteScript)) {
     setObjectName(QStringLiteral("FrmPrincipal"));
     setWindowTitle(QStringLiteral("Trelvano"));
     resize(1180, 760);
@@ -73,6 +78,7 @@ FrmPrincipal::FrmPrincipal(Modulo_Config& config, Arranque arranque)
 
 FrmPrincipal::~FrmPrincipal() {
     esclavos_.observar(nullptr);
+    script_.reset();
     // The views borrow the store and the monitors, so they go first.
     qDeleteAll(findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly));
 }
@@ -109,7 +115,7 @@ bool FrmPrincipal::cargar() {
     }
     // The result is of no use: the single-instance rule rests on the previous instance alone.
     SeRepiteProgramaEnRunTime(std::filesystem::path(arranque_.rutaPrograma).filename().string());
-    prepararScript();
+    script_->iniciar();
     dejarPasarEventos();
     controles_->ListView1->setHeaderLabels({QStringLiteral("IP"), QStringLiteral("ESTADO")});
     controles_->ListView1->setColumnWidth(0, fontMetrics().horizontalAdvance(QStringLiteral("  000.000.000.000  ")));
@@ -122,6 +128,7 @@ bool FrmPrincipal::cargar() {
     TimerCambioPuerto_.start();
     atenderLineaDeComandos();
     cargarPuentes();
+    script_->empezarPasadas();
     return !apagada_;
 }
 
@@ -134,11 +141,6 @@ void FrmPrincipal::rechazarSegundaInstancia() {
         MsgBox(nullptr, mensaje, vbCritical + vbSystemModal, QStringLiteral("Esclavo Modbus"));
     if (!apagada_)
         config_.escribirConfiguracion("VER", "1");
-}
-
-void FrmPrincipal::prepararScript() {
-    const double ejecutar = std::nearbyint(config_.leerNumero("Codigo_Ejecutar", "0").value_or(0));
-    controles_->chScript->setChecked(ejecutar == 1);
 }
 
 void FrmPrincipal::crearTablasIniciales() {
@@ -195,6 +197,7 @@ void FrmPrincipal::closeEvent(QCloseEvent* evento) {
 void FrmPrincipal::apagar() {
     apagada_ = true;
     TimerCambioPuerto_.stop();
+    detenerScript();
     // Hidden, not deleted: a message box of theirs may still be on the stack. They end with this window.
     if (frmMW_)
         frmMW_->hide();

@@ -10,6 +10,8 @@
 #include "platform/net/Reactor.h"
 #include "platform/window/Eventos.h"
 #include "registers/Esclavos.h"
+#include "script/AutomatizacionScript.h"
+#include "shell/ConfiguracionScriptIni.h"
 #include "shell/RelojSistema.h"
 
 #include <QPointer>
@@ -34,6 +36,7 @@ struct Arranque {
     QString lineaDeComandos;      // the arguments as one text
     bool instanciaPrevia = false; // another copy of the same executable is running
     bool sinPantalla = false;     // nobody sees the windows
+    std::chrono::milliseconds limiteScript = AutomatizacionScript::tiempoLimite; // of one script pass
 };
 
 class FrmPrincipal final : public QWidget, private ObservadorEsclavos, private EntornoEscucha {
@@ -51,6 +54,13 @@ public:
     // Ends the program as "Cerrar Esclavo" does: unloads the windows, then leaves every event loop, that of an open
     // message box too.
     void apagar();
+
+    // Ends the running script as soon as possible. May be called from a signal handler.
+    void detenerScript() noexcept { script_->detener(); }
+
+    // A script pass when `num` is exactly 1, and one in any case.
+    void ejecucion_timers(double num) { script_->ejecucion_timers(num); }
+    void ejecutarScript() { script_->ejecutarScript(); }
 
     const Esclavos& esclavos() const { return esclavos_; }
     const Escucha& escucha() const { return escucha_; }
@@ -75,7 +85,6 @@ private:
     void conectarControles();
     void conectarTeclado();
     void rechazarSegundaInstancia();
-    void prepararScript();
     void crearTablasIniciales();
     void comprobarPuertoYVisibilidad();
     void aplicarVisibilidad();
@@ -100,6 +109,8 @@ private:
     Escucha escucha_;
 
     std::unique_ptr<ControlesPrincipal> controles_;
+    ConfiguracionScriptIni configuracionScript_{config_};
+    std::unique_ptr<AutomatizacionScript> script_;
     std::map<int, VistaPagina*> vistas_; // by slave number; owned by their parent
     QPointer<FrmAbout> frmAbout_;
     QPointer<FrmTxRx> frmTxRx_;

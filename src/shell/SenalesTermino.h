@@ -13,14 +13,20 @@ public:
     // starts threads: the signals would end the program at once through a thread that does not block them.
     static void retener();
 
-    // From now on both signals call `alLlegar` from the event loop, those that came since retener() too.
-    explicit SenalesTermino(std::function<void()> alLlegar);
+    // From now on both signals, those that came since retener() too, call `enElActo` at once, in the middle of
+    // whatever the thread is doing (so only what a signal handler may do), and then `alLlegar` from the event loop.
+    // One object at a time.
+    SenalesTermino(std::function<void()> enElActo, std::function<void()> alLlegar);
     ~SenalesTermino();
     SenalesTermino(const SenalesTermino&) = delete;
     SenalesTermino& operator=(const SenalesTermino&) = delete;
 
 private:
-    int descriptor_;
+    static void atender(int senal);
+
+    std::function<void()> enElActo_;
     std::function<void()> alLlegar_;
+    int lectura_ = -1; // ends of the pipe that wakes the event loop
+    int escritura_ = -1;
     std::unique_ptr<QSocketNotifier> avisador_;
 };

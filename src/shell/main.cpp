@@ -68,6 +68,6 @@ int main(int argc, char** argv) {
                                             .lineaDeComandos = QApplication::arguments().mid(1).join(QLatin1Char(' ')),
                                             .instanciaPrevia = instancia.hayOtra(),
                                             .sinPantalla = sinPantalla});
-    const SenalesTermino senales([&principal] { principal.apagar(); });
+    const SenalesTermino senales([&principal] { principal.detenerScript(); }, [&principal] { principal.apagar(); });
     return principal.cargar() ? QApplication::exec() : 0;
 }

@@ -111,7 +111,6 @@ private Q_SLOTS:
     void buttonsWithoutAWindowYetAreDisabled() {
         QVERIFY(!control<QPushButton>("BtnEdicionCodigo").isEnabled());
         QVERIFY(!control<QPushButton>("btnVerFormularioRS232").isEnabled());
-        QVERIFY(!control<QCheckBox>("chScript").isEnabled());
     }
 
     void twelveTabsAndTheSecondInFront() {
@@ -191,6 +190,7 @@ private Q_SLOTS:
                                    QStringLiteral("ListView1"),
                                    QStringLiteral("BtnBorrar"),
                                    QStringLiteral("txtEscrituras"),
+                                   QStringLiteral("chScript"),
                                    QStringLiteral("ChRxTx"),
                                    QStringLiteral("BtnBorrarTextosRXTX"),
                                    QStringLiteral("Command2"),

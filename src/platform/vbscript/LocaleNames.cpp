@@ -49,4 +49,13 @@ std::optional<std::int32_t> localeNumber(std::u16string_view name) noexcept {
     return std::nullopt;
 }
 
+std::u16string_view localeName(std::int32_t number) noexcept {
+    for (const Entry& entry : entries) {
+        if (entry.number == number) {
+            return entry.name;
+        }
+    }
+    return {};
+}
+
 } // namespace vbs

@@ -3,12 +3,21 @@
 #include <QMessageBox>
 #include <QPushButton>
 
+#include <map>
+#include <vector>
+
 namespace {
 
+constexpr int mascaraBotones = 0xF;
+constexpr int mascaraIcono = 0x70;
+constexpr int mascaraPorDefecto = 0x300;
+
 QMessageBox::Icon icono(int estilo) {
-    switch (estilo & 0x70) {
+    switch (estilo & mascaraIcono) {
     case vbCritical:
         return QMessageBox::Critical;
+    case vbQuestion:
+        return QMessageBox::Question;
     case vbExclamation:
         return QMessageBox::Warning;
     case vbInformation:
@@ -18,15 +27,79 @@ QMessageBox::Icon icono(int estilo) {
     }
 }
 
-} // namespace
+std::vector<int> botonesDe(int estilo) {
+    switch (estilo & mascaraBotones) {
+    case vbOKCancel:
+        return {vbOK, vbCancel};
+    case vbAbortRetryIgnore:
+        return {vbAbort, vbRetry, vbIgnore};
+    case vbYesNoCancel:
+        return {vbYes, vbNo, vbCancel};
+    case vbYesNo:
+        return {vbYes, vbNo};
+    case vbRetryCancel:
+        return {vbRetry, vbCancel};
+    default:
+        return {vbOK};
+    }
+}
 
-void MsgBox(QWidget* padre, const QString& texto, int estilo, const QString& titulo) {
-    QMessageBox caja(icono(estilo), titulo, texto, QMessageBox::NoButton, padre);
+QString textoDeBoton(int boton) {
+    switch (boton) {
+    case vbCancel:
+        return QStringLiteral("Cancelar");
+    case vbAbort:
+        return QStringLiteral("&Anular");
+    case vbRetry:
+        return QStringLiteral("&Reintentar");
+    case vbIgnore:
+        return QStringLiteral("&Omitir");
+    case vbYes:
+        return QStringLiteral("&Sí");
+    case vbNo:
+        return QStringLiteral("&No");
+    default:
+        return QStringLiteral("Aceptar");
+    }
+}
+
+using Botones = std::map<QAbstractButton*, int>;
+
+Botones preparar(QMessageBox& caja, int estilo) {
     caja.setTextFormat(Qt::PlainText);
-    caja.setDefaultButton(caja.addButton(QStringLiteral("Aceptar"), QMessageBox::AcceptRole));
+    const std::vector<int> botones = botonesDe(estilo);
+    const std::size_t porDefecto = static_cast<std::size_t>(estilo & mascaraPorDefecto) >> 8U;
+    Botones codigos;
+    for (std::size_t i = 0; i < botones.size(); ++i) {
+        // The same role for all keeps the order in which they are documented.
+        QPushButton* const boton = caja.addButton(textoDeBoton(botones[i]), QMessageBox::ActionRole);
+        codigos[boton] = botones[i];
+        if (i == 0 || i == porDefecto)
+            caja.setDefaultButton(boton);
+        if (botones[i] == vbCancel || botones.size() == 1)
+            caja.setEscapeButton(boton);
+    }
     if ((estilo & vbSystemModal) != 0) {
         caja.setWindowModality(Qt::ApplicationModal);
         caja.setWindowFlag(Qt::WindowStaysOnTopHint);
     }
+    return codigos;
+}
+
+} // namespace
+
+int MsgBox(QWidget* padre, const QString& texto, int estilo, const QString& titulo) {
+    QMessageBox caja(icono(estilo), titulo, texto, QMessageBox::NoButton, padre);
+    const Botones codigos = preparar(caja, estilo);
     caja.exec();
+    const auto pulsado = codigos.find(caja.clickedButton());
+    return pulsado != codigos.end() ? pulsado->second : vbCancel; // the program ends meanwhile
+}
+
+void avisarMsgBox(QWidget* padre, const QString& texto, int estilo, const QString& titulo) {
+    auto* caja = new QMessageBox(icono(estilo), titulo, texto, QMessageBox::NoButton, padre);
+    caja->setAttribute(Qt::WA_DeleteOnClose);
+    caja->setWindowModality(Qt::ApplicationModal);
+    preparar(*caja, estilo);
+    caja->show();
 }

@@ -1,0 +1,98 @@
+#include "script/AutomatizacionScript.h"
+
+#include "platform/profile/Numeros.h"
+#include "platform/window/Eventos.h"
+#include "platform/window/MsgBox.h"
+#include "registers/Palabra.h"
+#include "script/PeriodoScript.h"
+
+#include <QCheckBox>
+#include <QElapsedTimer>
+#include <QLabel>
+
+#include <cmath>
+#include <cstdio>
+#include <string>
+
+namespace {
+
+constexpr QRgb verde = 0xFF00FF00;
+constexpr QRgb rojo = 0xFFFF0000;
+
+} // namespace
+
+AutomatizacionScript::AutomatizacionScript(Esclavos& esclavos, ConfiguracionScript& configuracion,
+                                           const std::filesystem::path& carpetaPrograma, Eventos& eventos,
+                                           const Ventana& ventana, std::chrono::milliseconds limite)
+    : QObject(&ventana.principal), configuracion_(configuracion), eventos_(eventos), ventana_(ventana),
+      host_(&ventana.principal, ventana.sinPantalla), codigo_(configuracion, carpetaPrograma),
+      mw_(vbs::makeObject<ObjetoMW>(esclavos, [this](double num) { ejecucion_timers(num); })), ScriptControl1_(host_),
+      ejecutor_(ScriptControl1_, codigo_, *this) {
+    ScriptControl1_.setTimeout(limite);
+    timerScript_.setObjectName(QStringLiteral("timerScript"));
+    timerScript_.setTimerType(Qt::PreciseTimer);
+    connect(&timerScript_, &QTimer::timeout, this, &AutomatizacionScript::alVencer);
+    connect(&ventana_.chScript, &QCheckBox::toggled, this, &AutomatizacionScript::clicChScript);
+}
+
+AutomatizacionScript::~AutomatizacionScript() = default;
+
+void AutomatizacionScript::iniciar() {
+    ScriptControl1_.addObject(u"mw", vbs::Ref<vbs::Object>(mw_.get()));
+    const double ejecutar =
+        numeroDeTexto(configuracion_.leerConfiguracion(ConfiguracionScript::claveEjecutar, "0")).value_or(0);
+    ventana_.chScript.setChecked(std::nearbyint(ejecutar) == 1);
+}
+
+// What makes the click fail is told to the user, and the timer stays as it was.
+void AutomatizacionScript::clicChScript() {
+    try {
+        configuracion_.escribirConfiguracion(ConfiguracionScript::claveEjecutar,
+                                             ventana_.chScript.isChecked() ? "1" : "0");
+        const double periodo =
+            periodoDeTexto(configuracion_.leerConfiguracion(ConfiguracionScript::clavePeriodo, "500"));
+        armarTimer(periodo);
+        ventana_.lblBaseDeTiempo.setText(
+            QString::fromStdString("Intervalo: " + textoDeNumero(periodo, '.') + " Milisegundos"));
+    } catch (const ErrorEjecucion& error) {
+        if (ventana_.sinPantalla)
+            std::fprintf(stderr, "esclavo-modbus: %s: %s\n", ConfiguracionScript::clavePeriodo.data(), error.what());
+        else
+            avisarMsgBox(&ventana_.principal, QString::fromUtf8(error.what()), vbCritical);
+    }
+}
+
+void AutomatizacionScript::armarTimer(double periodo) {
+    if (ventana_.chScript.isChecked())
+        timerScript_.start(intervaloDeTimer(periodo));
+    else
+        timerScript_.stop();
+}
+
+void AutomatizacionScript::alVencer() {
+    if (!puedePasar_)
+        return;
+    QElapsedTimer reloj;
+    reloj.start();
+    ejecucion_timers(EjecutorScript::TIMER_SCRIPT);
+    if (timerScript_.isActive() && reloj.elapsed() >= timerScript_.interval())
+        timerScript_.start();
+}
+
+bool AutomatizacionScript::ejecucionActiva() const {
+    return ventana_.chScript.isChecked();
+}
+
+void AutomatizacionScript::mostrarResultado(bool sinError) {
+    const QColor color = QColor::fromRgb(sinError ? verde : rojo);
+    if (ventana_.chScript.palette().color(QPalette::Window) == color)
+        return;
+    QPalette colores = ventana_.chScript.palette();
+    colores.setColor(QPalette::Window, color);
+    colores.setColor(QPalette::WindowText, Qt::black); // legible on both, whatever the theme
+    ventana_.chScript.setPalette(colores);
+}
+
+void AutomatizacionScript::dejarPasarEventos() {
+    eventos_.dejarPasarEventos();
+}

@@ -1,0 +1,81 @@
+// Script automation of the main window: the engine ScriptControl1 with "mw" in it, the script timer, the check box
+// that switches it on, and the label that shows its period.
+//
+// A pass blocks the thread until the script ends or its time is up. The timer never piles passes up: after a pass that
+// took longer than the period, the next one comes a whole period later.
+#pragma once
+
+#include "script/ConfiguracionScript.h"
+#include "script/EjecutorScript.h"
+#include "script/HostScript.h"
+#include "script/ObjetoMW.h"
+
+#include <QObject>
+#include <QTimer>
+
+#include <chrono>
+
+class Esclavos;
+class Eventos;
+class QCheckBox;
+class QLabel;
+class QWidget;
+
+class AutomatizacionScript final : public QObject, private EntornoScript {
+    Q_OBJECT
+
+public:
+    static constexpr std::chrono::milliseconds tiempoLimite{50000}; // of one pass
+
+    struct Ventana {
+        QWidget& principal; // parent of every message box
+        QCheckBox& chScript;
+        QLabel& lblBaseDeTiempo;
+        bool sinPantalla; // nobody sees the windows
+    };
+
+    // All borrowed; they outlive this object.
+    AutomatizacionScript(Esclavos& esclavos, ConfiguracionScript& configuracion,
+                         const std::filesystem::path& carpetaPrograma, Eventos& eventos, const Ventana& ventana,
+                         std::chrono::milliseconds limite = tiempoLimite);
+    ~AutomatizacionScript() override;
+
+    // Part of the main window's start: gives the engine "mw" and sets chScript from the configuration.
+    void iniciar();
+
+    // The timer that iniciar() may have armed runs passes from here on, not before: a script that takes long or waits
+    // for an answer must not keep the station from coming up, and it finds the first tables made.
+    void empezarPasadas() { puedePasar_ = true; }
+
+    // A pass when `num` is exactly 1.
+    void ejecucion_timers(double num) { ejecutor_.ejecucion_timers(num); }
+
+    // One pass.
+    void ejecutarScript() { ejecutor_.ejecutarScript(); }
+
+    // Ends the running script as soon as possible, or the next one when none runs. May be called from a signal handler.
+    void detener() noexcept { ScriptControl1_.stop(); }
+
+    vbs::ScriptControl& ScriptControl1() { return ScriptControl1_; }
+
+private:
+    // EntornoScript
+    bool ejecucionActiva() const override;
+    void mostrarResultado(bool sinError) override;
+    void dejarPasarEventos() override;
+
+    void clicChScript();
+    void armarTimer(double periodo);
+    void alVencer();
+
+    ConfiguracionScript& configuracion_;
+    Eventos& eventos_;
+    Ventana ventana_;
+    HostScript host_;
+    Modulo_Codigo codigo_;
+    vbs::Ref<ObjetoMW> mw_;
+    vbs::ScriptControl ScriptControl1_;
+    EjecutorScript ejecutor_;
+    QTimer timerScript_{this};
+    bool puedePasar_ = false;
+};

@@ -1,0 +1,384 @@
+// Script automation in the main window: check box, period, timer, colours, passes, endless loops.
+
+#include "CajaDeMensaje.h"
+#include "PrincipalDePrueba.h"
+
+#include <QCheckBox>
+#include <QElapsedTimer>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+
+#include <functional>
+
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr QRgb verde = 0xFF00FF00;
+constexpr QRgb rojo = 0xFFFF0000;
+constexpr const char* claveEjecutar = "Codigo_Ejecutar";
+constexpr const char* clavePeriodo = "Ejecucion_Codigo_Milisegundos";
+
+class Estacion : public PrincipalDePrueba {
+public:
+    explicit Estacion(const std::string& masConfiguracion = "", std::chrono::milliseconds limite = 50s)
+        : PrincipalDePrueba(masConfiguracion, arranque(limite)) {}
+
+    static Arranque arranque(std::chrono::milliseconds limite) {
+        Arranque a;
+        a.limiteScript = limite;
+        return a;
+    }
+
+    void script(const std::string& texto) const { escribirArchivo(carpeta / "codigoTrelvano.txt", texto); }
+    QCheckBox& chScript() const { return control<QCheckBox>("chScript"); }
+    QTimer* timer() const { return ventana->findChild<QTimer*>(QStringLiteral("timerScript")); }
+    QString etiqueta() const { return control<QLabel>("lblBaseDeTiempo").text(); }
+    QRgb color() const { return chScript().palette().color(QPalette::Window).rgb(); }
+    double registro(int esclavo, int direccion) const {
+        return ventana->esclavos().valores(esclavo)[static_cast<std::size_t>(direccion)];
+    }
+    void clic() const { QTest::mouseClick(&chScript(), Qt::LeftButton, {}, QPoint(8, chScript().height() / 2)); }
+    void pasada() const { ventana->ejecucion_timers(1); }
+};
+
+// Does something once, as soon as a box waits for an answer.
+class AlVerCaja {
+public:
+    explicit AlVerCaja(std::function<void(QWidget&)> accion) : accion_(std::move(accion)) {
+        QObject::connect(&vigia_, &QTimer::timeout, &vigia_, [this] {
+            if (QWidget* const caja = QApplication::activeModalWidget()) {
+                vigia_.stop();
+                accion_(*caja);
+            }
+        });
+        vigia_.start(5);
+    }
+
+private:
+    std::function<void(QWidget&)> accion_;
+    QTimer vigia_;
+};
+
+} // namespace
+
+class TestFrmPrincipalScript : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void startWithTheKeyOnArmsTheTimerAndShowsThePeriod() {
+        Estacion e("Codigo_Ejecutar=1\r\nEjecucion_Codigo_Milisegundos=250\r\n");
+        QVERIFY(e.cargar());
+        QVERIFY(e.chScript().isChecked());
+        QVERIFY(e.timer()->isActive());
+        QCOMPARE(e.timer()->interval(), 250);
+        QCOMPARE(e.etiqueta(), QStringLiteral("Intervalo: 250 Milisegundos"));
+    }
+
+    void startWithTheKeyOffLeavesTimerLabelAndPeriodAlone() {
+        Estacion e;
+        QVERIFY(e.cargar());
+        QVERIFY(!e.timer()->isActive());
+        QCOMPARE(e.etiqueta(), QStringLiteral("Tiempo:"));
+        QCOMPARE(e.clave(clavePeriodo), std::string("?"));
+    }
+
+    void firstClickStoresTheDefaultPeriod() {
+        Estacion e;
+        QVERIFY(e.cargar());
+        e.clic();
+        QCOMPARE(e.clave(claveEjecutar), std::string("1"));
+        QCOMPARE(e.clave(clavePeriodo), std::string("500"));
+        QCOMPARE(e.timer()->interval(), 500);
+        QVERIFY(e.timer()->isActive());
+        QCOMPARE(e.etiqueta(), QStringLiteral("Intervalo: 500 Milisegundos"));
+    }
+
+    void secondClickDisarmsAndStillShowsThePeriod() {
+        Estacion e;
+        QVERIFY(e.cargar());
+        e.clic();
+        e.clic();
+        QCOMPARE(e.clave(claveEjecutar), std::string("0"));
+        QVERIFY(!e.timer()->isActive());
+        QCOMPARE(e.etiqueta(), QStringLiteral("Intervalo: 500 Milisegundos"));
+    }
+
+    void clickByKeyAndByProgramIsTheSameClick() {
+        Estacion e;
+        QVERIFY(e.cargar());
+        QTest::keyClick(&e.chScript(), Qt::Key_Space);
+        QVERIFY(e.timer()->isActive());
+        e.chScript().setChecked(false);
+        QCOMPARE(e.clave(claveEjecutar), std::string("0"));
+        QVERIFY(!e.timer()->isActive());
+    }
+
+    void periodOfTheFileIsRoundedHalvesToEven_data() {
+        QTest::addColumn<int>("ms");
+        QTest::newRow("12.5") << 12;
+        QTest::newRow("13.5") << 14;
+        QTest::newRow("99.4") << 99;
+        QTest::newRow("10") << 10;
+        QTest::newRow("60000") << 60000;
+        QTest::newRow("2147483647") << 2147483647;
+        // Too short to leave time for anything else: the shortest that the editor admits.
+        QTest::newRow("0") << 10;
+        QTest::newRow("-5") << 10;
+        QTest::newRow("-2147483648") << 10;
+    }
+    void periodOfTheFileIsRoundedHalvesToEven() {
+        QFETCH(int, ms);
+        Estacion e(std::string("Ejecucion_Codigo_Milisegundos=") + QTest::currentDataTag() + "\r\n");
+        QVERIFY(e.cargar());
+        e.clic();
+        QCOMPARE(e.timer()->interval(), ms);
+        QCOMPARE(e.etiqueta(),
+                 QStringLiteral("Intervalo: %1 Milisegundos").arg(QLatin1String(QTest::currentDataTag())));
+    }
+
+    void periodThatIsNoPeriodIsToldAndLeavesTheTimer_data() {
+        QTest::addColumn<QString>("mensaje");
+        QTest::newRow("abc") << QStringLiteral("No coinciden los tipos");
+        QTest::newRow("12 ms") << QStringLiteral("No coinciden los tipos");
+        QTest::newRow("1e12") << QStringLiteral("Desbordamiento");
+        QTest::newRow("2147483648") << QStringLiteral("Desbordamiento");
+    }
+    void periodThatIsNoPeriodIsToldAndLeavesTheTimer() {
+        QFETCH(QString, mensaje);
+        Estacion e("Ejecucion_Codigo_Milisegundos=70\r\nCodigo_Ejecutar=1\r\n");
+        QVERIFY(e.cargar());
+        e.clic(); // off
+        e.clic(); // on, 70 ms
+        e.escribirConfig(std::string("Ejecucion_Codigo_Milisegundos=") + QTest::currentDataTag() + "\r\n");
+        CajaDeMensaje caja;
+        e.chScript().blockSignals(true);
+        e.chScript().setChecked(false);
+        e.chScript().blockSignals(false);
+        e.clic(); // on again
+        QTRY_COMPARE(caja.vistas, 1);
+        QCOMPARE(caja.texto, mensaje);
+        QCOMPARE(caja.icono, QMessageBox::Critical);
+        QVERIFY(e.timer()->isActive());
+        QCOMPARE(e.timer()->interval(), 70);
+        QCOMPARE(e.etiqueta(), QStringLiteral("Intervalo: 70 Milisegundos"));
+        QCOMPARE(e.clave(claveEjecutar), std::string("1"));
+    }
+
+    void badPeriodAtTheStartDoesNotKeepTheStationFromServing() {
+        Estacion e("Codigo_Ejecutar=1\r\nEjecucion_Codigo_Milisegundos=nada\r\n");
+        QVERIFY(e.cargar()); // although nobody answers the message yet
+        QVERIFY(!e.timer()->isActive());
+        const auto maestro = e.conectarMaestro();
+        QCOMPARE(PrincipalDePrueba::pedir(*maestro, PrincipalDePrueba::lectura(1), 13).size(), 13);
+        CajaDeMensaje caja;
+        QTRY_COMPARE(caja.texto, QStringLiteral("No coinciden los tipos"));
+    }
+
+    void scriptThatWaitsForAnAnswerDoesNotKeepTheStationFromComingUp() {
+        Estacion e("Codigo_Ejecutar=1\r\nEjecucion_Codigo_Milisegundos=10\r\n");
+        e.script("MsgBox \"a\"\r\nmw.escribir 11, 499, 1");
+        QVERIFY(e.cargar());
+        QVERIFY(e.ventana->escucha().escuchando());
+        CajaDeMensaje caja;
+        QTRY_COMPARE(e.registro(11, 499), 1.0);
+        e.clic();
+    }
+
+    void timerRunsPassesThatWriteRegistersAndTurnTheBoxGreen() {
+        Estacion e("Codigo_Ejecutar=1\r\nEjecucion_Codigo_Milisegundos=10\r\n");
+        e.script("mw.escribir 1, 7, mw.leer(1, 7) + 1");
+        QVERIFY(e.cargar());
+        QTRY_VERIFY(e.registro(1, 7) >= 3);
+        QCOMPARE(e.color(), verde);
+        QCOMPARE(e.chScript().palette().color(QPalette::WindowText), QColor(Qt::black));
+        QVERIFY(e.chScript().autoFillBackground());
+    }
+
+    void syntaxErrorIsRedOnEveryPassUntilTheFileIsMended() {
+        Estacion e("Codigo_Ejecutar=1\r\n");
+        QVERIFY(e.cargar());
+        e.script("Si esto es basic");
+        e.pasada();
+        QCOMPARE(e.color(), rojo);
+        e.pasada();
+        QCOMPARE(e.color(), rojo);
+        e.script("a = 1");
+        e.pasada();
+        QCOMPARE(e.color(), verde);
+    }
+
+    void runTimeErrorIsRedAndShowsNoMessage() {
+        Estacion e("Codigo_Ejecutar=1\r\n");
+        QVERIFY(e.cargar());
+        CajaDeMensaje caja;
+        e.script("mw.escribir 1, 0, 5\r\nmw.escribir 99, 0, 1"); // no slave 99
+        e.pasada();
+        QCOMPARE(e.color(), rojo);
+        QCOMPARE(e.registro(1, 0), 5.0);
+        QTest::qWait(20); // a message would be answered by then
+        QCOMPARE(caja.vistas, 0);
+    }
+
+    void missingScriptFileIsGreen() {
+        Estacion e("Codigo_Ejecutar=1\r\n");
+        QVERIFY(e.cargar());
+        e.pasada();
+        QCOMPARE(e.color(), verde);
+    }
+
+    void uncheckedBoxRunsNothingAndIsGreen() {
+        Estacion e;
+        QVERIFY(e.cargar());
+        e.script("mw.escribir 1, 0, 5");
+        e.pasada();
+        QCOMPARE(e.registro(1, 0), 0.0);
+        QCOMPARE(e.color(), verde);
+    }
+
+    void otherTimerNumbersDoNothing() {
+        Estacion e("Codigo_Ejecutar=1\r\n");
+        QVERIFY(e.cargar());
+        e.script("mw.escribir 1, 0, 5");
+        for (const double num : {2.0, 0.0, -1.0, 1.0000001})
+            e.ventana->ejecucion_timers(num);
+        QCOMPARE(e.registro(1, 0), 0.0);
+        e.ventana->ejecucion_timers(1);
+        QCOMPARE(e.registro(1, 0), 5.0);
+    }
+
+    void masterSeesWhatTheScriptWrote() {
+        Estacion e("Codigo_Ejecutar=1\r\n");
+        QVERIFY(e.cargar());
+        e.script("mw.escribir 1, 0, 258\r\nmw.escribir 1, 1, 772");
+        e.pasada();
+        const auto maestro = e.conectarMaestro();
+        const QByteArray respuesta = PrincipalDePrueba::pedir(*maestro, PrincipalDePrueba::lectura(1), 13);
+        QCOMPARE(respuesta.mid(9), QByteArray("\1\2\3\4"));
+    }
+
+    void scriptSeesWhatAMasterWrote() {
+        Estacion e("Codigo_Ejecutar=1\r\n");
+        QVERIFY(e.cargar());
+        const auto maestro = e.conectarMaestro();
+        QCOMPARE(PrincipalDePrueba::pedir(*maestro, PrincipalDePrueba::escritura(1, 4, 42), 12).size(), 12);
+        e.script("mw.escribir 1, 5, mw.leer(1, 4) * 2");
+        e.pasada();
+        QCOMPARE(e.registro(1, 5), 84.0);
+    }
+
+    void uncheckingDuringAPassLetsItFinishAndIsTheLast() {
+        Estacion e("Codigo_Ejecutar=1\r\nEjecucion_Codigo_Milisegundos=10\r\n");
+        e.script("mw.escribir 1, 0, 1\r\nMsgBox \"a\"\r\nmw.escribir 1, 1, mw.leer(1, 1) + 1");
+        QVERIFY(e.cargar());
+        const AlVerCaja desmarcar([&](QWidget& caja) {
+            e.chScript().setChecked(false);
+            QTest::keyClick(&caja, Qt::Key_Return);
+        });
+        QTRY_COMPARE(e.registro(1, 1), 1.0);
+        QCOMPARE(e.registro(1, 0), 1.0);
+        QVERIFY(!e.timer()->isActive());
+        QTest::qWait(50); // several periods
+        QCOMPARE(e.registro(1, 0), 1.0);
+    }
+
+    void passesDoNotPileUpOverAMessageBoxAndTheStationGoesOnServing() {
+        Estacion e("Codigo_Ejecutar=1\r\nEjecucion_Codigo_Milisegundos=10\r\n");
+        e.script("n = n + 1\r\nmw.escribir 1, 0, n\r\nIf n = 1 Then MsgBox \"a\", 4, \"b\"\r\nmw.escribir 1, 1, n");
+        QVERIFY(e.cargar());
+        QByteArray mientras;
+        QStringList botones;
+        const AlVerCaja atender([&](QWidget& caja) {
+            const auto maestro = e.conectarMaestro();
+            mientras = PrincipalDePrueba::pedir(*maestro, PrincipalDePrueba::lectura(1), 13).mid(9);
+            for (const auto* boton : caja.findChildren<QPushButton*>())
+                botones += boton->text();
+            QTest::qWait(30); // several periods
+            QTest::keyClick(&caja, Qt::Key_Return);
+        });
+        QTRY_VERIFY(e.registro(1, 1) >= 2);
+        QCOMPARE(mientras, QByteArray("\0\1\0\0", 4));
+        QCOMPARE(botones.size(), 2);
+    }
+
+    void slowPassWaitsAWholePeriodBeforeTheNext() {
+        Estacion e("Codigo_Ejecutar=1\r\nEjecucion_Codigo_Milisegundos=20\r\n");
+        e.script("n = n + 1\r\nmw.escribir 1, 0, n\r\nt = Timer\r\nDo While Timer - t < 0.06\r\nLoop");
+        QVERIFY(e.cargar());
+        QTRY_COMPARE(e.registro(1, 0), 1.0);
+        QVERIFY(e.timer()->remainingTime() > 10);
+        const auto maestro = e.conectarMaestro();
+        QCOMPARE(PrincipalDePrueba::pedir(*maestro, PrincipalDePrueba::lectura(1), 13).size(), 13);
+    }
+
+    void endlessLoopIsStoppedAtTheTimeOutRedAndTheStationServesAgain() {
+        Estacion e("Codigo_Ejecutar=1\r\nEjecucion_Codigo_Milisegundos=50\r\n", 200ms);
+        e.script("mw.escribir 1, 0, 9\r\nOn Error Resume Next\r\nDo\r\nLoop");
+        QVERIFY(e.cargar());
+        QElapsedTimer reloj;
+        reloj.start();
+        QTRY_COMPARE(e.color(), rojo);
+        QVERIFY(reloj.elapsed() >= 200);
+        const auto maestro = e.conectarMaestro();
+        QCOMPARE(PrincipalDePrueba::pedir(*maestro, PrincipalDePrueba::lectura(1), 13).mid(9),
+                 QByteArray("\0\x9\0\0", 4));
+        e.script("mw.escribir 1, 0, 8");
+        QTRY_COMPARE(e.color(), verde);
+        QCOMPARE(e.registro(1, 0), 8.0);
+    }
+
+    void timeOutOfTheProgramIsFiftySeconds() { QCOMPARE(Arranque().limiteScript, std::chrono::milliseconds(50000)); }
+
+    void endingStopsAScriptThatWaitsInAMessageBox() {
+        Estacion e("Codigo_Ejecutar=1\r\nEjecucion_Codigo_Milisegundos=10\r\n");
+        e.script("MsgBox \"a\"\r\nmw.escribir 1, 0, 1\r\nDo\r\nLoop");
+        QVERIFY(e.cargar());
+        QElapsedTimer reloj;
+        const AlVerCaja apagar([&](QWidget&) {
+            reloj.start();
+            e.ventana->apagar();
+        });
+        QCOMPARE(QApplication::exec(), 0);
+        QVERIFY(reloj.elapsed() < 1000);
+    }
+
+    void inputBoxAsksAndAnswersTheScript() {
+        Estacion e("Codigo_Ejecutar=1\r\n");
+        QVERIFY(e.cargar());
+        e.script("x = InputBox(\"valor\", \"titulo\", \"3\")\r\nmw.escribir 1, 0, CInt(x)");
+        QString titulo;
+        const AlVerCaja contestar([&](QWidget& caja) {
+            titulo = caja.windowTitle();
+            QTest::keyClicks(caja.findChild<QLineEdit*>(), QStringLiteral("77"));
+            QTest::keyClick(&caja, Qt::Key_Return);
+        });
+        e.pasada();
+        QCOMPARE(titulo, QStringLiteral("titulo"));
+        QCOMPARE(e.registro(1, 0), 77.0);
+    }
+
+    void withoutAScreenMessagesWaitForNobody() {
+        Arranque arranque;
+        arranque.sinPantalla = true;
+        PrincipalDePrueba p("Codigo_Ejecutar=1\r\nEjecucion_Codigo_Milisegundos=nada\r\n", arranque);
+        escribirArchivo(
+            p.carpeta / "codigoTrelvano.txt",
+            "a = MsgBox(\"x\", 4)\r\nmw.escribir 1, 0, a\r\nmw.escribir 1, 1, InputBox(\"v\", \"t\", \"5\")");
+        QVERIFY(p.cargar());
+        p.ventana->ejecucion_timers(1);
+        QCOMPARE(p.ventana->esclavos().valores(1)[0], 1.0);
+        QCOMPARE(p.ventana->esclavos().valores(1)[1], 5.0);
+    }
+
+    void auxiliaryTimerIsDormantWhateverTheBoxSays() {
+        Estacion e("Codigo_Ejecutar=1\r\n");
+        QVERIFY(e.cargar());
+        e.clic();
+        e.clic();
+        QVERIFY(!e.control<QTimer>("timerAux").isActive());
+    }
+};
+
+QTEST_MAIN(TestFrmPrincipalScript)
+#include "FrmPrincipalScriptTest.moc"
