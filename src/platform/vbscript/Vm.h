@@ -21,6 +21,7 @@
 namespace vbs {
 
 class Instance;
+struct Builtin;
 
 // State of the script's Err object.
 struct ErrorState {
@@ -135,6 +136,8 @@ private:
     void elementReference(Instruction instruction);
     std::size_t elementOffset(const ArrayBlock& array, std::span<Value* const> indexes);
     void callOther(Instruction instruction);
+    void runIntrinsic(const Builtin& intrinsic, Value& argument, Value& to, Store store);
+    void runNative(Object& target, int member, Arguments arguments, Value& to, Store store);
     void callIntrinsic1(Instruction instruction);
     void callIntrinsic(Instruction instruction);
     void getMember(Instruction instruction);

@@ -33,23 +33,10 @@ inline Value& valueAt(Value* const* places, unsigned o) noexcept {
                                      std::size_t{o & 0xfffcU} * (sizeof(Value) / 4));
 }
 
-// Copied by its two words alone.
-inline bool isPlain(const Value& v) noexcept {
-    return v.type < Type::Undefined;
-}
-
 // Whether an element of this type reaches its place as it is.
 inline bool goesAsItIs(Type type, Store store) noexcept {
     return type == Type::String ? store == Store::Let || store == Store::Raw
                                 : type == Type::Object && (store == Store::Set || store == Store::Raw);
-}
-
-inline void put(Value& to, Type type, std::int64_t n) noexcept {
-    if (to.isCounted()) [[unlikely]] {
-        to.clear();
-    }
-    to.type = type;
-    to.n = n;
 }
 
 inline void putDouble(Value& to, double d) noexcept {
@@ -88,6 +75,7 @@ void Vm::dispatch(std::size_t floor) {
     Value* places[4] = {frame->base, m_globals.values(), const_cast<Value*>(frame->procedure->constants.data()),
                         frame->fields};
 
+// No object with a destructor may be alive here: a computed jump does not run it.
 #define NEXT                                                                                                           \
     i = *pc++;                                                                                                         \
     goto* labels[i & 0xff]
@@ -554,17 +542,7 @@ labelCallSelf:
 labelCallIntrinsic1 : {
     Value& argument = R(B).deref();
     if (isPlain(argument)) [[likely]] {
-        SAVE;
-        // A scope of its own: an indirect jump may not leave that of a value.
-        [this, &argument, &to = R(A), function = intrinsics[C].function, store = static_cast<Store>(X >> 6)] {
-            Value result = function(*this, {&argument, 1});
-            if (isPlain(result) && store <= Store::Let) [[likely]] {
-                put(to, result.type, result.n);
-            } else {
-                deliver(std::move(result), to, store);
-            }
-        }();
-        NEXT;
+        SLOW(runIntrinsic(intrinsics[C], argument, R(A), static_cast<Store>(X >> 6)));
     }
     SLOW(callIntrinsic1(i));
 }
@@ -604,26 +582,7 @@ labelCallMember : {
         const auto store = static_cast<Store>(X >> 6);
         if (target->shape == site.shape && target->role == Object::Role::Native && !target->takesReferences &&
             store != Store::Set) {
-            Value* arguments = &R(first);
-            const std::size_t count = X & 63;
-            for (std::size_t k = 0; k < count; ++k) {
-                if (arguments[k].type == Type::Reference) {
-                    arguments[k] = Value(*arguments[k].target);
-                }
-            }
-            const Value keep = Value::ofObject(target);
-            Value result = target->invoke(*this, site.member, store == Store::Discard ? Access::Call : Access::Get,
-                                          {arguments, count});
-            for (std::size_t k = 0; k < count; ++k) {
-                arguments[k].clear();
-            }
-            if (isPlain(result)) [[likely]] {
-                if (store != Store::Discard) {
-                    put(R(A), result.type, result.n);
-                }
-            } else {
-                deliver(std::move(result), R(A), store);
-            }
+            runNative(*target, site.member, {&R(first), X & 63}, R(A), store);
             NEXT;
         }
     }
