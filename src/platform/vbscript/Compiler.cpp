@@ -52,19 +52,15 @@ Resolved UnitScope::resolve(Symbol symbol) {
     }
     r.slot = globals.slotOf(symbol);
     r.operand = operandOf(Place::Global, r.slot);
-    if (procedure != m_procedures.end()) {
-        r.kind = Resolved::Kind::Callable;
-        r.procedure = procedure->second;
-    } else if (m_classes.contains(symbol)) {
+    r.procedure = procedure != m_procedures.end() ? procedure->second : nullptr;
+    if (r.procedure != nullptr || m_classes.contains(symbol)) {
         r.kind = Resolved::Kind::Callable;
     } else if (m_constants.contains(symbol)) {
         r.kind = Resolved::Kind::Constant;
-    } else if (own || kind == GlobalKind::Variable) {
-        r.kind = Resolved::Kind::Variable;
-    } else if (kind == GlobalKind::Callable) {
-        r.kind = Resolved::Kind::Callable;
-    } else if (kind != GlobalKind::Undefined) {
-        r.kind = Resolved::Kind::Constant;
+    } else if (own || kind != GlobalKind::Undefined) {
+        r.kind = own || kind == GlobalKind::Variable ? Resolved::Kind::Variable
+                 : kind == GlobalKind::Callable      ? Resolved::Kind::Callable
+                                                     : Resolved::Kind::Constant;
     }
     return r;
 }

@@ -100,8 +100,8 @@ inline Value Value::ofObject(Object* object) noexcept {
 // The entry at index 0 is the default member; begin the table with an entry without a name if there is none.
 struct AccessSet {
     std::uint8_t bits;
-    constexpr AccessSet(Access a) noexcept
-        : bits(static_cast<std::uint8_t>(a)) {} // NOLINT(google-explicit-constructor)
+    // One access stands for the set of it alone, as in tables. NOLINTNEXTLINE(google-explicit-constructor)
+    constexpr AccessSet(Access a) noexcept : bits(static_cast<std::uint8_t>(a)) {}
     constexpr explicit AccessSet(unsigned b) noexcept : bits(static_cast<std::uint8_t>(b)) {}
     constexpr bool contains(Access a) const noexcept { return (bits & static_cast<std::uint8_t>(a)) != 0; }
 };
@@ -172,6 +172,7 @@ private:
 
 template <class T, class... Parameters>
 Ref<T> makeObject(Parameters&&... parameters) {
+    // The object counts its references itself, which the analyzer does not see. NOLINTNEXTLINE(*NewDeleteLeaks)
     return Ref<T>(new T(std::forward<Parameters>(parameters)...));
 }
 

@@ -107,10 +107,13 @@ void String::append(std::u16string_view tail) {
     }
     const std::size_t total = size() + tail.size();
     if (m_block == nullptr || m_block->references != 1 || m_block->capacity < total) {
-        String old(*this); // keeps `tail` alive while it may point into this text
         const bool growing = m_block != nullptr && m_block->capacity >= 32;
-        reserveUnique(growing ? std::max(total, std::min(size() * 2, maxLength)) : total + 8);
-        std::memcpy(m_block->text() + size(), tail.data(), tail.size() * sizeof(char16_t));
+        String grown =
+            adopt(StringBlock::allocate(growing ? std::max(total, std::min(size() * 2, maxLength)) : total + 8));
+        std::memcpy(grown.m_block->text(), data(), size() * sizeof(char16_t));
+        std::memcpy(grown.m_block->text() + size(), tail.data(), tail.size() * sizeof(char16_t));
+        grown.m_block->length = static_cast<std::uint32_t>(total);
+        swap(grown); // only now, because `tail` may point into the old text
     } else {
         std::memmove(m_block->text() + size(), tail.data(), tail.size() * sizeof(char16_t));
     }

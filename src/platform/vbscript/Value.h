@@ -123,7 +123,7 @@ struct Value {
     StringBlock* stringBlock() const noexcept { return static_cast<StringBlock*>(counted); }
     std::u16string_view text() const noexcept {
         return counted != nullptr ? std::u16string_view(stringBlock()->text(), stringBlock()->length)
-                                  : std::u16string_view(u"", 0);
+                                  : std::u16string_view();
     }
     String string() const noexcept; // shares
     // A text with half a character at its end (see String::fromBytes); any type may be asked.

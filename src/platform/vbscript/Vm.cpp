@@ -432,7 +432,7 @@ Value Vm::defaultValue(const Value& object) {
     if (target == nullptr) {
         raise(ErrorNumber::ObjectNotSet);
     }
-    const Value keep = object;
+    const Value keep = Value::ofObject(target);
     Value result;
     if (target->role == Object::Role::Instance) {
         auto& instance = static_cast<Instance&>(*target);
@@ -452,10 +452,11 @@ Value Vm::defaultValue(const Value& object) {
 }
 
 Value Vm::call(const Value& procedure, Arguments arguments) {
-    const Value keep = procedure.deref();
-    if (!keep.isObject() || keep.object() == nullptr) {
+    const Value& callee = procedure.deref();
+    if (!callee.isObject() || callee.object() == nullptr) {
         raise(ErrorNumber::ObjectRequired);
     }
+    const Value keep = Value::ofObject(callee.object());
     if (keep.object()->role == Object::Role::Instance) {
         const auto& cls = static_cast<Instance*>(keep.object())->cls();
         return keep.object()->invoke(*this, cls.defaultMember, Access::Call, arguments);

@@ -43,6 +43,11 @@ struct Row {
     std::size_t count;
 };
 
+// A share of the value, so that it stays while code of the script runs.
+Value shared(const Value& v) {
+    return v;
+}
+
 std::vector<Value> copied(std::span<Value* const> indexes) {
     std::vector<Value> values;
     values.reserve(indexes.size() + 1);
@@ -66,7 +71,7 @@ std::size_t Vm::elementOffset(const ArrayBlock& array, std::span<Value* const> i
 void Vm::getIndex(Value& to, const Value& base, std::span<Value* const> indexes, Store store) {
     const Value& variable = base.deref();
     if (variable.isArray()) {
-        const Value keep = variable; // a default member of an index may change the variable
+        const Value keep = shared(variable); // a default member of an index may change the variable
         deliver(keep.array()->elements()[elementOffset(*keep.array(), indexes)], to, store);
         return;
     }
@@ -76,7 +81,7 @@ void Vm::getIndex(Value& to, const Value& base, std::span<Value* const> indexes,
     if (variable.object() == nullptr) {
         raise(ErrorNumber::ObjectNotSet);
     }
-    const Value keep = variable;
+    const Value keep = Value::ofObject(variable.object());
     if (indexes.size() == 1 && keep.object()->role == Object::Role::Native) {
         Value argument = indexes[0]->deref();
         deliver(keep.object()->invoke(*this, Object::defaultMember, Access::Get, {&argument, 1}), to, store);
@@ -107,7 +112,7 @@ void Vm::setIndex(Value& base, std::span<Value* const> indexes, Value value, Sto
     if (variable.object() == nullptr) {
         raise(ErrorNumber::ObjectNotSet);
     }
-    const Value keep = variable;
+    const Value keep = Value::ofObject(variable.object());
     const Access access = store == Store::Set ? Access::Set : Access::Let;
     if (indexes.size() == 1 && keep.object()->role == Object::Role::Native) {
         std::array<Value, 2> arguments{indexes[0]->deref(), std::move(value)};

@@ -375,13 +375,12 @@ void Vm::makeNew(Instruction instruction) {
         raise(ErrorNumber::ClassUndefined, m_symbols.name(m_globals.symbol(static_cast<std::uint32_t>(indexOf(c)))));
     }
     const auto& cls = *static_cast<const ScriptClass*>(static_cast<const Callable*>(named.pointer));
-    auto* instance = new Instance(*this, cls);
-    const Value object = Value::ofObject(instance);
+    const auto instance = makeObject<Instance>(*this, cls);
     instance->terminates = true;
     if (cls.initialize != nullptr) {
-        callProcedure(*cls.initialize, instance, {});
+        callProcedure(*cls.initialize, instance.get(), {});
     }
-    deliver(object, at(operandA(instruction)), storeOf(instruction));
+    deliver(instance.value(), at(operandA(instruction)), storeOf(instruction));
 }
 
 void Vm::makeNamed(Instruction instruction) {
@@ -398,7 +397,7 @@ void Vm::getRef(Instruction instruction) {
         raise(ErrorNumber::InvalidCall);
     }
     const auto& procedure = *static_cast<const Procedure*>(static_cast<const Callable*>(named->pointer));
-    at(operandA(instruction)) = Value::ofObject(new ProcedureReference(*this, procedure));
+    at(operandA(instruction)) = makeObject<ProcedureReference>(*this, procedure).value();
 }
 
 void Vm::executeText(Instruction instruction) {

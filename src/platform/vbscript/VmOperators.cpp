@@ -342,12 +342,12 @@ void Vm::eachPrepare(Instruction instruction) {
     const Value collection = taken(operandB(instruction));
     Value iterator;
     if (collection.isArray()) {
-        iterator = Value::ofObject(new Iterator(collection));
+        iterator = makeObject<Iterator>(collection).value();
     } else if (collection.isObject()) {
         if (collection.object() == nullptr) {
             raise(ErrorNumber::ObjectNotSet);
         }
-        iterator = Value::ofObject(new Iterator(collection.object()->enumerate(*this)));
+        iterator = makeObject<Iterator>(collection.object()->enumerate(*this)).value();
     } else {
         raise(ErrorNumber::NotACollection);
     }
