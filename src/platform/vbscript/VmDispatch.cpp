@@ -1,5 +1,11 @@
 // The dispatch loop. Each instruction handles its common cases here, on the spot, and leaves the rest to a member
 // function of Vm (VmOperators.cpp, VmArrays.cpp, VmCalls.cpp). Those may raise, so the frame's pc is stored before.
+
+// One indirect jump an instruction, each with a prediction of its own: these two passes would merge them.
+#if defined(__GNUC__) && !defined(__clang__)
+#pragma GCC optimize("no-gcse", "no-crossjumping")
+#endif
+
 #include "platform/vbscript/Array.h"
 #include "platform/vbscript/Builtins.h"
 #include "platform/vbscript/Instance.h"
