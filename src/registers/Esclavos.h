@@ -84,6 +84,16 @@ public:
         return numero >= 0 && numero <= limite() ? registros_[static_cast<std::size_t>(numero)].pagina.get() : nullptr;
     }
 
+    // The register's value, or null when slave or register does not exist. Valid as valores() is.
+    const double* valorSiExiste(std::int64_t esclavo, std::int64_t direccion) const {
+        if (esclavo < 0 || static_cast<std::size_t>(esclavo) >= registros_.size())
+            return nullptr;
+        const EsclavoMW& registro = registros_[static_cast<std::size_t>(esclavo)];
+        const bool existe = registro.pagina != nullptr && direccion >= 0 &&
+                            static_cast<std::size_t>(direccion) < registro.Valores.size();
+        return existe ? &registro.Valores[static_cast<std::size_t>(direccion)] : nullptr;
+    }
+
     // The registers of a slave, empty for one that does not exist. Valid until the next operation that may grow it.
     std::span<const double> valores(int numero) const;
 

@@ -55,6 +55,10 @@ std::span<const ObjetoMW::Member> ObjetoMW::members() {
 }
 
 Value ObjetoMW::leer(Context& context, Access, Arguments a) {
+    // The usual call: whole slave and address, a register that exists.
+    if (a.size() == 2 && a[0].isWhole() && a[1].isWhole())
+        if (const double* valor = esclavos_.valorSiExiste(a[0].n, a[1].n))
+            return Value::ofDouble(*valor);
     const double sclavo = numero(context, a[0]);
     const double direccion = numero(context, a[1]);
     const double numBit = a.size() > 2 && !a[2].isMissing() ? numero(context, a[2]) : -1;
