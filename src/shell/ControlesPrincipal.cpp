@@ -164,7 +164,6 @@ void ControlesPrincipal::grupoBotones(QVBoxLayout& columna, QWidget* padre) {
                      QStringLiteral("Muestra el puente entre los puertos 500 y 501"));
     btnVerFormularioRS232 =
         boton(padre, "btnVerFormularioRS232", QStringLiteral("RS232"), QStringLiteral("Muestra el puerto serie"));
-    btnVerFormularioRS232->setEnabled(false); // until there is a window behind it
     Command1 = boton(padre, "Command1", QStringLiteral("About"), QStringLiteral("Acerca de este programa"));
     BtnOcultar = boton(padre, "BtnOcultar", QStringLiteral("Ocultar"),
                        QStringLiteral("Oculta esta ventana; el esclavo sigue respondiendo"));

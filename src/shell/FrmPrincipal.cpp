@@ -7,6 +7,7 @@
 #include "registers/FrmMW.h"
 #include "registers/Palabra.h"
 #include "registers/VistaPagina.h"
+#include "serial/frmRS232.h"
 #include "shell/AyudaContextual.h"
 #include "shell/ControlesPrincipal.h"
 #include "shell/FrmAbout.h"
@@ -63,7 +64,10 @@ FrmPrincipal::FrmPrincipal(Modulo_Config& config, Arranque arranque)
           esclavos_, configuracionScript_, config_.rutaArchivo().parent_path(), eventos_,
           AutomatizacionScript::Ventana{*this, *controles_->chScript, *controles_->lblBaseDeTiempo,
                                         arranque_.sinPantalla},
-          arranque_.limiteScript)) {
+          arranque_.limiteScript)),
+      enlaceSerie_(std::make_unique<EnlaceSerie>(*this, config_, script_->ScriptControl1(),
+                                                 std::filesystem::path(arranque_.rutaPrograma).filename().string(),
+                                                 arranque_.depurar)) {
     setObjectName(QStringLiteral("FrmPrincipal"));
     setWindowTitle(QStringLiteral("Trelvano"));
     resize(1180, 760);
@@ -78,6 +82,7 @@ FrmPrincipal::FrmPrincipal(Modulo_Config& config, Arranque arranque)
 
 FrmPrincipal::~FrmPrincipal() {
     esclavos_.observar(nullptr);
+    enlaceSerie_.reset();
     script_.reset();
     // The views borrow the store and the monitors, so they go first.
     qDeleteAll(findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly));
@@ -93,6 +98,7 @@ void FrmPrincipal::conectarControles() {
     connect(c.BtnCerrar, &QPushButton::clicked, this, &FrmPrincipal::apagar);
     connect(c.Command1, &QPushButton::clicked, this, &FrmPrincipal::mostrarAbout);
     connect(c.Command2, &QPushButton::clicked, this, &FrmPrincipal::mostrarPuentes);
+    connect(c.btnVerFormularioRS232, &QPushButton::clicked, this, &FrmPrincipal::mostrarSerie);
     connect(&TimerCambioPuerto_, &QTimer::timeout, this, &FrmPrincipal::comprobarPuertoYVisibilidad);
 
     auto* avisador = new QSocketNotifier(reactor_.descriptor(), QSocketNotifier::Read, this);
@@ -171,6 +177,10 @@ void FrmPrincipal::mostrarAbout() {
     mostrarDelante(*frmAbout_);
 }
 
+void FrmPrincipal::mostrarSerie() {
+    mostrarDelante(enlaceSerie_->formulario());
+}
+
 void FrmPrincipal::comprobarPuertoYVisibilidad() {
     escucha_.levantarEscucha();
     escucha_.refrescarConexiones();
@@ -199,6 +209,7 @@ void FrmPrincipal::apagar() {
     TimerCambioPuerto_.stop();
     detenerScript();
     // Hidden, not deleted: a message box of theirs may still be on the stack. They end with this window.
+    enlaceSerie_->ocultar();
     if (frmMW_)
         frmMW_->hide();
     hide();

@@ -12,6 +12,7 @@
 #include "registers/Esclavos.h"
 #include "script/AutomatizacionScript.h"
 #include "shell/ConfiguracionScriptIni.h"
+#include "shell/EnlaceSerie.h"
 #include "shell/RelojSistema.h"
 
 #include <QPointer>
@@ -36,6 +37,7 @@ struct Arranque {
     QString lineaDeComandos;      // the arguments as one text
     bool instanciaPrevia = false; // another copy of the same executable is running
     bool sinPantalla = false;     // nobody sees the windows
+    bool depurar = false;         // show every logged error in a message box
     std::chrono::milliseconds limiteScript = AutomatizacionScript::tiempoLimite; // of one script pass
 };
 
@@ -92,6 +94,7 @@ private:
     void cargarPuentes();
     void mostrarPuentes();
     void mostrarAbout();
+    void mostrarSerie();
     void seleccionarPestana(int indice);
     void cambiarEsclavo(int paso);
     void abrirFrmMW(int esclavo, int direccion, const QString& texto);
@@ -111,6 +114,7 @@ private:
     std::unique_ptr<ControlesPrincipal> controles_;
     ConfiguracionScriptIni configuracionScript_{config_};
     std::unique_ptr<AutomatizacionScript> script_;
+    std::unique_ptr<EnlaceSerie> enlaceSerie_;
     std::map<int, VistaPagina*> vistas_; // by slave number; owned by their parent
     QPointer<FrmAbout> frmAbout_;
     QPointer<FrmTxRx> frmTxRx_;

@@ -67,7 +67,8 @@ int main(int argc, char** argv) {
     FrmPrincipal principal(config, Arranque{.rutaPrograma = ruta.string(),
                                             .lineaDeComandos = QApplication::arguments().mid(1).join(QLatin1Char(' ')),
                                             .instanciaPrevia = instancia.hayOtra(),
-                                            .sinPantalla = sinPantalla});
+                                            .sinPantalla = sinPantalla,
+                                            .depurar = qEnvironmentVariable("ESCLAVO_DEBUG") == QLatin1String("1")});
     const SenalesTermino senales([&principal] { principal.detenerScript(); }, [&principal] { principal.apagar(); });
     return principal.cargar() ? QApplication::exec() : 0;
 }

@@ -108,10 +108,7 @@ private Q_SLOTS:
         QCOMPARE(lista.headerItem()->text(1), QStringLiteral("ESTADO"));
     }
 
-    void buttonsWithoutAWindowYetAreDisabled() {
-        QVERIFY(!control<QPushButton>("BtnEdicionCodigo").isEnabled());
-        QVERIFY(!control<QPushButton>("btnVerFormularioRS232").isEnabled());
-    }
+    void buttonsWithoutAWindowYetAreDisabled() { QVERIFY(!control<QPushButton>("BtnEdicionCodigo").isEnabled()); }
 
     void twelveTabsAndTheSecondInFront() {
         QCOMPARE(pestanas().count(), 12);
@@ -194,6 +191,7 @@ private Q_SLOTS:
                                    QStringLiteral("ChRxTx"),
                                    QStringLiteral("BtnBorrarTextosRXTX"),
                                    QStringLiteral("Command2"),
+                                   QStringLiteral("btnVerFormularioRS232"),
                                    QStringLiteral("Command1"),
                                    QStringLiteral("BtnOcultar"),
                                    QStringLiteral("BtnCerrar")};
