@@ -59,6 +59,10 @@ Value ObjetoMW::leer(Context& context, Access, Arguments a) {
     if (a.size() == 2 && a[0].isWhole() && a[1].isWhole())
         if (const double* valor = esclavos_.valorSiExiste(a[0].n, a[1].n))
             return Value::ofDouble(*valor);
+    return leerEnGeneral(context, a);
+}
+
+Value ObjetoMW::leerEnGeneral(Context& context, Arguments a) {
     const double sclavo = numero(context, a[0]);
     const double direccion = numero(context, a[1]);
     const double numBit = a.size() > 2 && !a[2].isMissing() ? numero(context, a[2]) : -1;

@@ -23,6 +23,7 @@ public:
 
 private:
     vbs::Value leer(vbs::Context& context, vbs::Access, vbs::Arguments a);
+    [[gnu::noinline]] vbs::Value leerEnGeneral(vbs::Context& context, vbs::Arguments a); // keeps leer() short
     vbs::Value escribir(vbs::Context& context, vbs::Access, vbs::Arguments a);
     vbs::Value escribir_C2(vbs::Context& context, vbs::Access, vbs::Arguments a);
     vbs::Value escribir_bit(vbs::Context& context, vbs::Access, vbs::Arguments a);
