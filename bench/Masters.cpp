@@ -1,11 +1,13 @@
 #include "Masters.h"
 
 #include <arpa/inet.h>
+#include <iterator>
 #include <netinet/in.h>
 #include <netinet/tcp.h>
 #include <stdexcept>
 #include <sys/epoll.h>
 #include <sys/socket.h>
+#include <sys/time.h>
 
 namespace {
 
@@ -43,6 +45,18 @@ std::uint16_t freePort() {
 
 bool accepts(std::uint16_t port) {
     return static_cast<bool>(connectTo(port));
+}
+
+std::uint16_t readRegister(std::uint16_t port, std::uint8_t unit, std::uint8_t address) {
+    const Descriptor connection = connectTo(port);
+    const timeval patience{.tv_sec = 5, .tv_usec = 0};
+    setsockopt(connection.number(), SOL_SOCKET, SO_RCVTIMEO, &patience, sizeof patience);
+    const std::array<std::uint8_t, 12> request{0, 1, 0, 0, 0, 6, unit, 3, 0, address, 0, 1};
+    std::array<std::uint8_t, 11> answer;
+    if (send(connection.number(), request.data(), request.size(), MSG_NOSIGNAL) != std::ssize(request) ||
+        recv(connection.number(), answer.data(), answer.size(), MSG_WAITALL) != std::ssize(answer))
+        throw std::runtime_error("a register cannot be read");
+    return static_cast<std::uint16_t>(answer[9] << 8U | answer[10]);
 }
 
 Masters::Masters(std::uint16_t port, std::size_t count) : epoll_(epoll_create1(EPOLL_CLOEXEC)), masters_(count) {

@@ -12,6 +12,8 @@
 std::uint16_t freePort();
 /// Whether somebody accepts connections on that port of the loopback.
 bool accepts(std::uint16_t port);
+/// A register below 256. Throws std::runtime_error without an answer within five seconds.
+std::uint16_t readRegister(std::uint16_t port, std::uint8_t unit, std::uint8_t address);
 
 /// Modbus TCP masters in closed loop, all in the calling thread: each sends a read request of ten registers (unit 1,
 /// address 0) and the next one when its answer has come.

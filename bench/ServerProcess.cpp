@@ -31,12 +31,15 @@ void becomeServer() {
     runOnProcessor(0);
 }
 
-fs::path makeFolder(const fs::path& program, std::uint16_t port) {
+fs::path makeFolder(const fs::path& program, std::uint16_t port, const ServerProcess::Extras& extras) {
     std::string name = (fs::temp_directory_path() / "station-XXXXXX").string();
     if (mkdtemp(name.data()) == nullptr)
         throw std::runtime_error("no temporary folder");
     fs::copy_file(program, fs::path(name) / program.filename());
-    std::ofstream(fs::path(name) / "Sis_Config.ini") << "[Trelvano]\r\nPUERTO_VALOR=" << port << "\r\nver=1\r\n";
+    std::ofstream(fs::path(name) / "Sis_Config.ini") << "[Trelvano]\r\nPUERTO_VALOR=" << port << "\r\nver=1\r\n"
+                                                     << extras.settings;
+    if (!extras.script.empty())
+        std::ofstream(fs::path(name) / "codigoTrelvano.txt") << extras.script;
     return name;
 }
 
@@ -51,8 +54,8 @@ ServerProcess::ServerProcess(Body body) : port_(freePort()), process_(fork()) {
     waitUntilListening();
 }
 
-ServerProcess::ServerProcess(const fs::path& program)
-    : port_(freePort()), folder_(makeFolder(program, port_)), process_(fork()) {
+ServerProcess::ServerProcess(const fs::path& program, const Extras& extras)
+    : port_(freePort()), folder_(makeFolder(program, port_, extras)), process_(fork()) {
     if (process_ == 0) {
         becomeServer();
         const std::string copy = (folder_ / program.filename()).string();
@@ -93,4 +96,12 @@ std::chrono::nanoseconds ServerProcess::processorTime() const {
     timespec used{};
     clock_gettime(clock_, &used);
     return std::chrono::seconds(used.tv_sec) + std::chrono::nanoseconds(used.tv_nsec);
+}
+
+void ServerProcess::pause() const {
+    kill(process_, SIGSTOP);
+}
+
+void ServerProcess::resume() const {
+    kill(process_, SIGCONT);
 }
