@@ -12,6 +12,7 @@
 #include <cstdlib>
 #include <exception>
 #include <filesystem>
+#include <sstream>
 #include <stdexcept>
 #include <string>
 #include <thread>
@@ -29,12 +30,10 @@ constexpr std::uint8_t firstRegister = 100; // of those that the script works on
 
 /// 100 blocks of ten statements, two of which call the store.
 std::string scriptText(int unit) {
-    const std::string slave = std::to_string(unit);
-    std::string text;
-    for (int block = 0; block < 100; ++block) {
-        const std::string address = std::to_string(firstRegister + block);
-        text += "valor = mw.leer(" + slave + ", " + address +
-                ")\r\n"
+    std::ostringstream text;
+    for (int address = firstRegister; address < firstRegister + 100; ++address) {
+        text << "valor = mw.leer(" << unit << ", " << address
+             << ")\r\n"
                 "suma = suma + valor\r\n"
                 "If suma > 1000000 Then suma = 0\r\n"
                 "cuenta = cuenta + 1\r\n"
@@ -43,10 +42,10 @@ std::string scriptText(int unit) {
                 "texto = \"paso \" & resto\r\n"
                 "If Len(texto) > 6 Then largos = largos + 1 Else largos = 0\r\n"
                 "valor = (valor + 1) Mod 65536\r\n"
-                "mw.escribir " +
-                slave + ", " + address + ", valor\r\n";
+                "mw.escribir "
+             << unit << ", " << address << ", valor\r\n";
     }
-    return text;
+    return text.str();
 }
 
 double median(std::vector<double> values) {
