@@ -149,8 +149,6 @@ void ControlesPrincipal::grupoScript(QVBoxLayout& columna, QWidget* padre) {
     fila->addWidget(chScript);
     fila->addWidget(BtnEdicionCodigo);
     fila->addWidget(lblBaseDeTiempo, 1);
-
-    BtnEdicionCodigo->setEnabled(false); // until there is a window behind it
     columna.addWidget(titulo(padre, "Label2", QStringLiteral("Codigo Script")));
     columna.addLayout(fila);
 }
