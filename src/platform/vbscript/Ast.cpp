@@ -16,6 +16,7 @@ Symbol SymbolTable::intern(std::u16string_view name) {
 }
 
 Expr* Ast::expr(Expr::Kind kind, Position at) {
+    charge(sizeof(Expr));
     Expr& e = m_exprs.emplace_back();
     e.kind = kind;
     e.at = at;
@@ -23,6 +24,7 @@ Expr* Ast::expr(Expr::Kind kind, Position at) {
 }
 
 Stmt* Ast::stmt(Stmt::Kind kind, Position at) {
+    charge(sizeof(Stmt));
     Stmt& s = m_stmts.emplace_back();
     s.kind = kind;
     s.at = at;
@@ -30,10 +32,12 @@ Stmt* Ast::stmt(Stmt::Kind kind, Position at) {
 }
 
 ProcedureDecl* Ast::procedure() {
+    charge(sizeof(ProcedureDecl));
     return &m_procedures.emplace_back();
 }
 
 ClassDecl* Ast::classDecl() {
+    charge(sizeof(ClassDecl));
     return &m_classes.emplace_back();
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/vbscript/Errors.h"
+#include "platform/vbscript/Memory.h"
 #include "platform/vbscript/Value.h"
 
 #include <cstdint>
@@ -10,6 +11,7 @@
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <unordered_set>
 #include <vector>
 
 namespace vbs {
@@ -182,21 +184,22 @@ struct ProcedureDecl {
     enum class Kind : std::uint8_t { Sub, Function, PropertyGet, PropertyLet, PropertySet, Main };
     Kind kind = Kind::Sub;
     Symbol name = noSymbol;
-    Position at;
+    Position at{1, 1}; // of the main text: its start
     bool isPrivate = false;
     bool isDefault = false;
     std::vector<Parameter> parameters;
     std::vector<Variable> variables;
     std::vector<ConstDecl> constants;
-    std::vector<Symbol> assigned;  // names assigned without regard to where they are declared
-    std::vector<Symbol> redimmed;  // names that a ReDim would declare
-    std::vector<Symbol> changed;   // names whose elements are assigned, or that ReDim and Erase act on
-    std::vector<Passed> passed;    // names that stand alone as arguments
-    std::vector<Symbol> mentioned; // every name
-    std::vector<Symbol> called;    // names that are called or indexed
-    bool resumesNext = false;      // contains On Error Resume Next
-    std::uint32_t hiddenSlots = 0; // deepest nesting of statements, in slots for their bookkeeping
-    bool dynamicScope = false;     // uses Execute or Eval: names may come from text at run time
+    std::unordered_set<Symbol> declared; // names of variables and constants
+    std::vector<Symbol> assigned;        // names assigned without regard to where they are declared
+    std::vector<Symbol> redimmed;        // names that a ReDim would declare
+    std::vector<Symbol> changed;         // names whose elements are assigned, or that ReDim and Erase act on
+    std::vector<Passed> passed;          // names that stand alone as arguments
+    std::vector<Symbol> mentioned;       // every name
+    std::vector<Symbol> called;          // names that are called or indexed
+    bool resumesNext = false;            // contains On Error Resume Next
+    std::uint32_t hiddenSlots = 0;       // deepest nesting of statements, in slots for their bookkeeping
+    bool dynamicScope = false;           // uses Execute or Eval: names may come from text at run time
     Block body;
 };
 
@@ -205,10 +208,18 @@ struct ClassDecl {
     Position at;
     std::vector<Variable> fields;
     std::vector<ProcedureDecl*> members;
+    std::unordered_set<Symbol> fieldNames;
+    std::unordered_multimap<Symbol, const ProcedureDecl*> memberNames; // Get, Let and Set share one
+    bool hasDefault = false;
 };
 
 // One parsed text.
 struct Ast {
+    Ast() = default;
+    ~Ast() { releaseMemory(m_charged); }
+    Ast(const Ast&) = delete;
+    Ast& operator=(const Ast&) = delete;
+
     bool optionExplicit = false;
     ProcedureDecl main;
     std::vector<ProcedureDecl*> procedures;
@@ -220,6 +231,13 @@ struct Ast {
     ClassDecl* classDecl();
 
 private:
+    // Trees count as memory of the script: error 7 when the ceiling is passed.
+    void charge(std::size_t bytes) {
+        chargeMemory(bytes);
+        m_charged += bytes;
+    }
+
+    std::size_t m_charged = 0;
     std::deque<Expr> m_exprs;
     std::deque<Stmt> m_stmts;
     std::deque<ProcedureDecl> m_procedures;

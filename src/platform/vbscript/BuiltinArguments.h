@@ -53,7 +53,7 @@ inline int firstDayArgument(Context& context, Arguments arguments, std::size_t i
 }
 
 // Place of `needle` at or after `from`, or npos. An empty needle is found at `from`.
-std::size_t findText(std::u16string_view text, std::u16string_view needle, std::size_t from,
-                     TextComparison comparison) noexcept;
+std::size_t findText(Context& context, std::u16string_view text, std::u16string_view needle, std::size_t from,
+                     TextComparison comparison);
 
 } // namespace vbs

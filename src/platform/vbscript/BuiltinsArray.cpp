@@ -72,12 +72,12 @@ struct Piece {
     std::size_t length;
 };
 
-std::vector<Piece> cut(std::u16string_view text, std::u16string_view separator, std::int32_t most,
+std::vector<Piece> cut(Context& context, std::u16string_view text, std::u16string_view separator, std::int32_t most,
                        TextComparison comparison) {
     std::vector<Piece> pieces;
     std::size_t from = 0;
     while (!separator.empty() && (most < 0 || pieces.size() + 1 < static_cast<std::size_t>(most))) {
-        const std::size_t at = findText(text, separator, from, comparison);
+        const std::size_t at = findText(context, text, separator, from, comparison);
         if (at == std::u16string_view::npos) {
             break;
         }
@@ -102,7 +102,7 @@ Value split(Context& context, Arguments arguments) {
     if (text.size() == 0 || most == 0) {
         return Value::ofArray(ArrayBlock::create(std::size_t{0}));
     }
-    const std::vector<Piece> pieces = cut(text.view(), separator.view(), most, comparison);
+    const std::vector<Piece> pieces = cut(context, text.view(), separator.view(), most, comparison);
     Value result = Value::ofArray(ArrayBlock::create(pieces.size()));
     std::transform(pieces.begin(), pieces.end(), result.array()->elements(), [&](const Piece& piece) {
         return piece.length == 1 ? context.character(text.view()[piece.from])
@@ -120,7 +120,7 @@ Value filter(Context& context, Arguments arguments) {
     std::vector<Value> kept;
     for (const Value& element : list) {
         const TextArgument text(context, element);
-        if ((findText(text.view(), needle.view(), 0, comparison) != std::u16string_view::npos) == include) {
+        if ((findText(context, text.view(), needle.view(), 0, comparison) != std::u16string_view::npos) == include) {
             kept.push_back(element.isString() ? element : Value::ofString(text.view()));
         }
     }

@@ -30,7 +30,7 @@ Value inStr(Context& context, Arguments arguments) {
     if (from >= text.size()) {
         return Value::ofLong(0);
     }
-    const std::size_t at = findText(text.view(), needle.view(), from, comparison);
+    const std::size_t at = findText(context, text.view(), needle.view(), from, comparison);
     return Value::ofLong(at != std::u16string_view::npos ? static_cast<std::int32_t>(at) + 1 : 0);
 }
 
@@ -76,7 +76,7 @@ Value replace(Context& context, Arguments arguments) {
     String result;
     std::size_t copied = 0;
     for (std::size_t at = 0; needle.size() > 0 && count != 0; --count) {
-        at = findText(text, needle.view(), at, comparison);
+        at = findText(context, text, needle.view(), at, comparison);
         if (at == std::u16string_view::npos) {
             break;
         }
@@ -100,14 +100,42 @@ constexpr Builtin table[] = {
 
 } // namespace
 
-std::size_t findText(std::u16string_view text, std::u16string_view needle, std::size_t from,
-                     TextComparison comparison) noexcept {
+namespace {
+
+constexpr std::size_t comparisonsATurn = 4'000'000; // between two looks at the clock
+
+// The first of the places from `from` to before `end` where the needle stands, or npos.
+std::size_t findWithin(std::u16string_view text, std::u16string_view needle, std::size_t from, std::size_t end,
+                       TextComparison comparison) noexcept {
+    text = text.substr(0, end + needle.size() - 1);
     if (comparison == TextComparison::Binary) {
         return text.find(needle, from);
     }
     for (std::size_t at = from; at + needle.size() <= text.size(); ++at) {
         if (matchesAt(text, needle, at, comparison)) {
             return at;
+        }
+    }
+    return std::u16string_view::npos;
+}
+
+} // namespace
+
+std::size_t findText(Context& context, std::u16string_view text, std::u16string_view needle, std::size_t from,
+                     TextComparison comparison) {
+    if (needle.empty()) {
+        return from <= text.size() ? from : std::u16string_view::npos;
+    }
+    const std::size_t places = comparisonsATurn / needle.size() + 1;
+    while (from + needle.size() <= text.size()) {
+        const std::size_t end = std::min(from + places, text.size() - needle.size() + 1);
+        const std::size_t found = findWithin(text, needle, from, end, comparison);
+        if (found != std::u16string_view::npos) {
+            return found;
+        }
+        from = end;
+        if (places < text.size()) {
+            context.spend(comparisonsATurn);
         }
     }
     return std::u16string_view::npos;

@@ -1,6 +1,8 @@
 // Registers, names and emission; expressions, calls, assignments and statements stand in files of their own.
 #include "platform/vbscript/CodeGen.h"
 
+#include "platform/vbscript/ConstantFolding.h"
+
 #include <algorithm>
 
 namespace vbs {
@@ -286,12 +288,9 @@ void CodeGen::deliver(Operand from, Operand to, Store store) {
 }
 
 void CodeGen::prologue() {
-    std::unordered_map<Symbol, const Expr*> known;
-    for (const ConstDecl& decl : m_decl.constants) {
-        known[decl.name] = decl.value;
-    }
+    ConstantTable constants(m_decl.constants);
     for (const auto& [name, operand] : m_localConstants) {
-        emit(encode(Opcode::Move, operand, constant(foldConstant(*known.at(name), known))));
+        emit(encode(Opcode::Move, operand, constant(constants.valueOf(name))));
     }
     for (const Variable& variable : m_decl.variables) {
         if (!variable.array) {
@@ -300,7 +299,9 @@ void CodeGen::prologue() {
         const Resolved r = resolve(variable.name);
         m_procedure.shapes.push_back(variable.sizes);
         const auto shape = static_cast<Operand>(m_procedure.shapes.size() - 1);
+        beginMark(variable.at);
         emit(encode(Opcode::MakeArray, r.operand, 0, shape, placeOf(r.operand) == Place::Global ? 1 : 0));
+        endMark();
     }
 }
 

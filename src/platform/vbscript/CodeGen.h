@@ -61,9 +61,6 @@ private:
     std::unordered_set<Symbol> m_implicit;
 };
 
-// The value of an expression of literals, or error 1045.
-Value foldConstant(const Expr& e, const std::unordered_map<Symbol, const Expr*>& known, int depth = 0);
-
 class CodeGen {
 public:
     CodeGen(UnitScope& scope, const ProcedureDecl& decl, Procedure& procedure, const ScriptClass* owner);

@@ -1,6 +1,7 @@
 // Code for expressions. expr() answers where a value can be read (a variable itself, a constant, or a temporary);
 // exprTo() puts it into a given place.
 #include "platform/vbscript/CodeGen.h"
+#include "platform/vbscript/ConstantFolding.h"
 #include "platform/vbscript/Operators.h"
 
 #include <algorithm>
@@ -90,8 +91,7 @@ Operand CodeGen::expr(const Expr* e) {
         return constant(e->value);
     }
     if (e->kind == Expr::Kind::Negate && e->a->kind == Expr::Kind::Literal && e->a->value.type <= Type::Single) {
-        static const std::unordered_map<Symbol, const Expr*> none;
-        return constant(foldConstant(*e, none));
+        return constant(foldConstant(*e));
     }
     if (const auto variable = plainVariable(e)) {
         return *variable;

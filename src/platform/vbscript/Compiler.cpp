@@ -1,8 +1,7 @@
 #include "platform/vbscript/Compiler.h"
 
 #include "platform/vbscript/CodeGen.h"
-#include "platform/vbscript/Convert.h"
-#include "platform/vbscript/Operators.h"
+#include "platform/vbscript/ConstantFolding.h"
 #include "platform/vbscript/Parser.h"
 
 #include <algorithm>
@@ -100,86 +99,6 @@ bool UnitScope::mayWriteArgument(const ProcedureDecl& caller, std::size_t caller
 
 namespace {
 
-// A context for folding constants: no objects can occur.
-class FoldingContext : public Context {
-public:
-    explicit FoldingContext(Host& theHost) : Context(theHost) {}
-    Value defaultValue(const Value& /*object*/) override { raise(ErrorNumber::TypeMismatch); }
-    Value call(const Value& /*procedure*/, Arguments /*arguments*/) override { raise(ErrorNumber::TypeMismatch); }
-    void adopt(Object& /*object*/) override {}
-    void abandon(Object& /*object*/) noexcept override {}
-    void poll() override {}
-};
-
-Value foldBinary(Context& context, BinaryOp op, const Value& a, const Value& b) {
-    switch (op) {
-    case BinaryOp::Add:
-        return add(context, a, b);
-    case BinaryOp::Subtract:
-        return subtract(context, a, b);
-    case BinaryOp::Multiply:
-        return multiply(context, a, b);
-    case BinaryOp::Divide:
-        return divide(context, a, b);
-    case BinaryOp::IntegerDivide:
-        return integerDivide(context, a, b);
-    case BinaryOp::Modulo:
-        return modulo(context, a, b);
-    case BinaryOp::Power:
-        return power(context, a, b);
-    case BinaryOp::Concatenate:
-        return concatenate(context, a, b);
-    case BinaryOp::And:
-        return logicalAnd(context, a, b);
-    case BinaryOp::Or:
-        return logicalOr(context, a, b);
-    case BinaryOp::Xor:
-        return logicalXor(context, a, b);
-    default:
-        raise(ErrorNumber::ExpectedLiteral);
-    }
-}
-
-Value fold(Context& context, const Expr& e, const std::unordered_map<Symbol, const Expr*>& known, int depth) {
-    if (depth > 100) {
-        raise(ErrorNumber::ExpectedLiteral);
-    }
-    switch (e.kind) {
-    case Expr::Kind::Literal:
-        return e.value;
-    case Expr::Kind::Parentheses:
-    case Expr::Kind::Plus:
-        return fold(context, *e.a, known, depth + 1);
-    case Expr::Kind::Negate:
-        return negate(context, fold(context, *e.a, known, depth + 1));
-    case Expr::Kind::Not:
-        return logicalNot(context, fold(context, *e.a, known, depth + 1));
-    case Expr::Kind::Binary:
-        return foldBinary(context, e.op, fold(context, *e.a, known, depth + 1), fold(context, *e.b, known, depth + 1));
-    case Expr::Kind::Name:
-        if (const auto found = known.find(e.symbol); found != known.end()) {
-            return fold(context, *found->second, known, depth + 1);
-        }
-        [[fallthrough]];
-    default:
-        raise(ErrorNumber::ExpectedLiteral);
-    }
-}
-
-} // namespace
-
-Value foldConstant(const Expr& e, const std::unordered_map<Symbol, const Expr*>& known, int depth) {
-    Host host;
-    FoldingContext context(host);
-    try {
-        return fold(context, e, known, depth);
-    } catch (const ScriptError&) {
-        throw CompileError{ErrorNumber::ExpectedLiteral, e.at};
-    }
-}
-
-namespace {
-
 void addMember(ScriptClass& cls, const ProcedureDecl& decl, const Procedure* procedure, const SymbolTable& symbols) {
     const auto [entry, added] = cls.index.try_emplace(decl.name, static_cast<int>(cls.members.size()));
     if (added) {
@@ -235,12 +154,9 @@ std::unique_ptr<ScriptClass> declareClass(const ClassDecl& decl, Unit& unit, Sym
 // What a unit defines among the globals.
 void declareGlobals(UnitScope& scope) {
     const ProcedureDecl& main = scope.ast.main;
-    std::unordered_map<Symbol, const Expr*> known;
+    ConstantTable constants(main.constants);
     for (const ConstDecl& decl : main.constants) {
-        known[decl.name] = decl.value;
-    }
-    for (const ConstDecl& decl : main.constants) {
-        scope.unit.constants.emplace_back(scope.globals.slotOf(decl.name), foldConstant(*decl.value, known));
+        scope.unit.constants.emplace_back(scope.globals.slotOf(decl.name), constants.valueOf(decl.name));
     }
     for (const Variable& variable : main.variables) {
         scope.unit.variables.push_back(scope.globals.slotOf(variable.name));
@@ -308,7 +224,39 @@ void compileDeclarations(UnitScope& scope) {
 
 } // namespace
 
+class Compiler::Slots {
+public:
+    explicit Slots(Globals& globals) noexcept : m_globals(globals), m_size(globals.size()) {}
+    ~Slots() {
+        if (!m_kept) {
+            m_globals.forgetFrom(m_size);
+        }
+    }
+    Slots(const Slots&) = delete;
+    Slots& operator=(const Slots&) = delete;
+
+    Unit* keepFor(std::unique_ptr<Unit> unit) noexcept {
+        m_kept = true;
+        return unit.release();
+    }
+
+private:
+    Globals& m_globals;
+    std::size_t m_size;
+    bool m_kept = false;
+};
+
 Unit* Compiler::compile(std::u16string_view text) {
+    Slots slots(m_globals);
+    return slots.keepFor(compileUnit(text));
+}
+
+void Compiler::check(std::u16string_view text) {
+    const Slots slots(m_globals);
+    compileUnit(text);
+}
+
+std::unique_ptr<Unit> Compiler::compileUnit(std::u16string_view text) {
     Parser parser(text, m_symbols);
     const std::unique_ptr<Ast> ast = parser.parse();
     auto unit = std::make_unique<Unit>();
@@ -316,10 +264,11 @@ Unit* Compiler::compile(std::u16string_view text) {
     declareGlobals(scope);
     compileDeclarations(scope);
     CodeGen(scope, ast->main, unit->main, nullptr).generate();
-    return unit.release();
+    return unit;
 }
 
 Unit* Compiler::compileLocal(std::u16string_view text, const LocalScope& localScope, std::vector<Symbol>& created) {
+    Slots slots(m_globals);
     Parser parser(text, m_symbols);
     const std::unique_ptr<Ast> ast = parser.parse();
     auto unit = std::make_unique<Unit>();
@@ -348,10 +297,11 @@ Unit* Compiler::compileLocal(std::u16string_view text, const LocalScope& localSc
         main.addCaptured(name);
     }
     main.generate();
-    return unit.release();
+    return slots.keepFor(std::move(unit));
 }
 
 Unit* Compiler::compileExpression(std::u16string_view text, const LocalScope& localScope) {
+    Slots slots(m_globals);
     const Symbol result = m_symbols.intern(u"(eval)");
     Parser parser(text, m_symbols);
     const std::unique_ptr<Ast> ast = parser.parseExpression(result);
@@ -363,7 +313,7 @@ Unit* Compiler::compileExpression(std::u16string_view text, const LocalScope& lo
         main.addCaptured(name);
     }
     main.generate();
-    return unit.release();
+    return slots.keepFor(std::move(unit));
 }
 
 } // namespace vbs

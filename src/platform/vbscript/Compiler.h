@@ -25,6 +25,8 @@ public:
 
     // Throws CompileError; the unit has one reference, which is the caller's.
     Unit* compile(std::u16string_view text);
+    // Throws what compile() would; nothing stays of the text.
+    void check(std::u16string_view text);
     // Execute inside a procedure. `created` receives the names that the text makes in the local scope; their references
     // follow those of `scope.names`.
     Unit* compileLocal(std::u16string_view text, const LocalScope& scope, std::vector<Symbol>& created);
@@ -32,6 +34,11 @@ public:
     Unit* compileExpression(std::u16string_view text, const LocalScope& scope);
 
 private:
+    // Takes back the global slots of a text that did not compile.
+    class Slots;
+
+    std::unique_ptr<Unit> compileUnit(std::u16string_view text);
+
     SymbolTable& m_symbols;
     Globals& m_globals;
 };

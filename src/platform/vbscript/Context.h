@@ -63,6 +63,8 @@ public:
 
     // To be called now and then by builtins that may run long; raises when the script was stopped or its time is up.
     virtual void poll() = 0;
+    // The same for one long step: `work` tells how many turns of an empty loop it was worth.
+    virtual void spend(std::size_t work) = 0;
 
     // Ends the running text at once; no On Error sees it.
     [[noreturn]] virtual void interrupt() { raise(ErrorNumber::Stopped); }

@@ -18,13 +18,19 @@ std::uint32_t Globals::slotOf(Symbol symbol) {
     }
     if (m_slots[symbol] == none) {
         if (m_info.size() == capacity) {
-            throw CompileError{ErrorNumber::OutOfMemoryCompiling, {}};
+            throw CompileError{ErrorNumber::OutOfMemoryCompiling, {1, 1}};
         }
         m_slots[symbol] = static_cast<std::uint32_t>(m_info.size());
         m_values[m_info.size()] = Value(Type::Undefined, 0);
         m_info.push_back({symbol});
     }
     return m_slots[symbol];
+}
+
+void Globals::forgetFrom(std::size_t size) {
+    for (; m_info.size() > size; m_info.pop_back()) {
+        m_slots[m_info.back().symbol] = none;
+    }
 }
 
 void Globals::define(std::uint32_t slot, GlobalKind kind, Value value, bool predefined) {

@@ -29,6 +29,8 @@ public:
     GlobalKind kind(std::uint32_t slot) const noexcept { return m_info[slot].kind; }
     bool predefined(std::uint32_t slot) const noexcept { return m_info[slot].predefined; }
     Symbol symbol(std::uint32_t slot) const noexcept { return m_info[slot].symbol; }
+    // Takes back the slots from number `size` on; none of them may be defined or in use by code.
+    void forgetFrom(std::size_t size);
     void define(std::uint32_t slot, GlobalKind kind, Value value, bool predefined = false);
 
     Value& operator[](std::uint32_t slot) noexcept { return m_values[slot]; }

@@ -21,6 +21,20 @@ MemoryMeter& memoryMeter() noexcept;
 void chargeMemory(std::size_t bytes);
 void releaseMemory(std::size_t bytes) noexcept;
 
+// Sets the ceiling for as long as it lives; engines that run inside each other keep their own.
+class MemoryCeiling {
+public:
+    explicit MemoryCeiling(std::size_t bytes) noexcept : m_before(memoryMeter().ceiling) {
+        memoryMeter().ceiling = bytes;
+    }
+    ~MemoryCeiling() { memoryMeter().ceiling = m_before; }
+    MemoryCeiling(const MemoryCeiling&) = delete;
+    MemoryCeiling& operator=(const MemoryCeiling&) = delete;
+
+private:
+    std::size_t m_before;
+};
+
 // Charges bytes for as long as it lives; a member of objects that scripts can make in any number.
 class MemoryCharge {
 public:

@@ -129,8 +129,7 @@ private:
     void parseClass();
     void parseClassMember(ClassDecl& decl);
     void checkClassMember(const ClassDecl& decl, const ProcedureDecl& procedure) const;
-    void declareVariable(const Variable& variable);
-    bool declared(Symbol name) const;
+    void declare(Symbol name, Position at);
 
     Lexer m_lexer;
     SymbolTable& m_symbols;

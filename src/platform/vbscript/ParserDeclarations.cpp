@@ -78,15 +78,12 @@ void Parser::parseModified() {
     endStatement();
 }
 
-bool Parser::declared(Symbol name) const {
-    const auto named = [name](const auto& entry) { return entry.name == name; };
-    return std::any_of(m_procedure->variables.begin(), m_procedure->variables.end(), named) ||
-           std::any_of(m_procedure->constants.begin(), m_procedure->constants.end(), named) ||
-           std::any_of(m_procedure->parameters.begin(), m_procedure->parameters.end(), named);
-}
-
-void Parser::declareVariable(const Variable& variable) {
-    m_procedure->variables.push_back(variable);
+void Parser::declare(Symbol name, Position at) {
+    const auto named = [name](const Parameter& parameter) { return parameter.name == name; };
+    const bool parameter = std::any_of(m_procedure->parameters.begin(), m_procedure->parameters.end(), named);
+    if (parameter || !m_procedure->declared.insert(name).second) {
+        fail(ErrorNumber::NameRedefined, at);
+    }
 }
 
 // name [( [integer {, integer}] )]
@@ -128,10 +125,8 @@ Stmt* Parser::parseDim(bool isPrivate) {
     Stmt* statement = m_ast->stmt(Stmt::Kind::Dim, here());
     do {
         const Variable variable = parseVariable(isPrivate);
-        if (declared(variable.name)) {
-            fail(ErrorNumber::NameRedefined, variable.at);
-        }
-        declareVariable(variable);
+        declare(variable.name, variable.at);
+        m_procedure->variables.push_back(variable);
     } while (accept(Sign::Comma));
     return statement;
 }
@@ -145,9 +140,7 @@ Stmt* Parser::parseConst() {
         decl.name = takeName();
         expect(Sign::Equal, ErrorNumber::ExpectedEqual);
         decl.value = parseExpr();
-        if (declared(decl.name)) {
-            fail(ErrorNumber::NameRedefined, decl.at);
-        }
+        declare(decl.name, decl.at);
         m_procedure->constants.push_back(decl);
     } while (accept(Sign::Comma));
     return statement;
@@ -276,6 +269,8 @@ void Parser::parseClassMember(ClassDecl& decl) {
         ProcedureDecl* procedure = parseProcedure(isPrivate, isDefault, true);
         checkClassMember(decl, *procedure);
         decl.members.push_back(procedure);
+        decl.memberNames.emplace(procedure->name, procedure);
+        decl.hasDefault = decl.hasDefault || isDefault;
         return;
     }
     if (isDefault) {
@@ -287,10 +282,9 @@ void Parser::parseClassMember(ClassDecl& decl) {
     const std::size_t known = decl.fields.size();
     parseVariables(decl.fields, isPrivate);
     for (std::size_t i = known; i < decl.fields.size(); ++i) {
-        for (std::size_t k = 0; k < i; ++k) {
-            if (decl.fields[k].name == decl.fields[i].name) {
-                fail(ErrorNumber::NameRedefined, decl.fields[i].at);
-            }
+        const Symbol name = decl.fields[i].name;
+        if (!decl.fieldNames.insert(name).second || decl.memberNames.contains(name)) {
+            fail(ErrorNumber::NameRedefined, decl.fields[i].at);
         }
     }
     endStatement();
@@ -308,13 +302,12 @@ void Parser::checkClassMember(const ClassDecl& decl, const ProcedureDecl& proced
     const auto isProperty = [](PK kind) {
         return kind == PK::PropertyGet || kind == PK::PropertyLet || kind == PK::PropertySet;
     };
-    for (const ProcedureDecl* other : decl.members) {
-        if (procedure.isDefault && other->isDefault) {
-            fail(ErrorNumber::MultipleDefaults, procedure.at);
-        }
-        if (other->name != procedure.name) {
-            continue;
-        }
+    if (procedure.isDefault && decl.hasDefault) {
+        fail(ErrorNumber::MultipleDefaults, procedure.at);
+    }
+    const auto [first, last] = decl.memberNames.equal_range(procedure.name);
+    for (auto it = first; it != last; ++it) {
+        const ProcedureDecl* other = it->second;
         if (!isProperty(other->kind) || !isProperty(procedure.kind) || other->kind == procedure.kind) {
             fail(ErrorNumber::NameRedefined, procedure.at);
         }
@@ -325,10 +318,8 @@ void Parser::checkClassMember(const ClassDecl& decl, const ProcedureDecl& proced
             fail(ErrorNumber::InconsistentArguments, procedure.at);
         }
     }
-    for (const Variable& field : decl.fields) {
-        if (field.name == procedure.name) {
-            fail(ErrorNumber::NameRedefined, procedure.at);
-        }
+    if (decl.fieldNames.contains(procedure.name)) {
+        fail(ErrorNumber::NameRedefined, procedure.at);
     }
 }
 

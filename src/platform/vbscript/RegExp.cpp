@@ -158,7 +158,7 @@ void RegExp::eachMatch(Context& context, const String& text, Function function) 
     const std::shared_ptr<RegExpProgram> running = program();
     const bool all = m_global;
     std::size_t from = 0;
-    while (from <= text.size() && running->match(text.view(), from)) {
+    while (from <= text.size() && running->match(context, text.view(), from)) {
         const Place whole = *running->group(0);
         function(*running);
         if (!all) {
@@ -171,7 +171,7 @@ void RegExp::eachMatch(Context& context, const String& text, Function function) 
 
 Value RegExp::test(Context& context, Access /*access*/, Arguments arguments) {
     const String text = toString(context, arguments[0]);
-    return Value::ofBoolean(program()->match(text.view(), 0));
+    return Value::ofBoolean(program()->match(context, text.view(), 0));
 }
 
 Value RegExp::execute(Context& context, Access /*access*/, Arguments arguments) {

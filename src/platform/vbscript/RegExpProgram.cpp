@@ -1,5 +1,6 @@
 #include "platform/vbscript/RegExpProgram.h"
 
+#include "platform/vbscript/Context.h"
 #include "platform/vbscript/Errors.h"
 #include "platform/vbscript/RegExpSyntax.h"
 
@@ -11,6 +12,7 @@ namespace vbs {
 namespace {
 
 constexpr std::uint32_t mostSteps = 10'000'000;
+constexpr std::size_t usualWork = 200;        // of a match, in turns of a loop
 constexpr std::uint32_t mostHeap = 64 * 1024; // KiB
 
 template <auto function>
@@ -59,7 +61,8 @@ RegExpProgram::RegExpProgram(std::u16string_view pattern, bool ignoreCase, bool 
 
 RegExpProgram::~RegExpProgram() = default;
 
-bool RegExpProgram::match(std::u16string_view subject, std::size_t from) {
+bool RegExpProgram::match(Context& context, std::u16string_view subject, std::size_t from) {
+    context.spend(usualWork);
     const int result = pcre2_match_16(m_library->code.get(), units(subject), subject.size(), from, 0,
                                       m_library->places.get(), m_library->limits.get());
     if (result >= 0) {
@@ -70,6 +73,7 @@ bool RegExpProgram::match(std::u16string_view subject, std::size_t from) {
         return false;
     case PCRE2_ERROR_MATCHLIMIT:
     case PCRE2_ERROR_DEPTHLIMIT:
+        context.spend(mostSteps);
         raise(ErrorNumber::OutOfStack);
     case PCRE2_ERROR_HEAPLIMIT:
     case PCRE2_ERROR_NOMEMORY:

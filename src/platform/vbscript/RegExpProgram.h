@@ -8,6 +8,8 @@
 
 namespace vbs {
 
+class Context;
+
 class RegExpProgram {
 public:
     // Raises 5017 to 5021 for a bad pattern.
@@ -20,7 +22,7 @@ public:
 
     // Looks for the first match at or after `from` (code units). Raises 28 when it takes more steps than any sensible
     // pattern does, 7 when it takes too much memory.
-    bool match(std::u16string_view subject, std::size_t from);
+    bool match(Context& context, std::u16string_view subject, std::size_t from);
 
     struct Place {
         std::size_t from;

@@ -1,6 +1,9 @@
 #include "platform/vbscript/ScriptControl.h"
 
+#include "platform/vbscript/Memory.h"
 #include "platform/vbscript/Vm.h"
+
+#include <limits>
 
 namespace vbs {
 
@@ -44,6 +47,7 @@ bool ScriptControl::check(std::string_view utf8) {
 }
 
 bool ScriptControl::fail(std::int32_t number, std::u16string_view text, std::uint32_t line, std::uint32_t column) {
+    const MemoryCeiling room(std::numeric_limits<std::size_t>::max()); // error 7 has a text, too
     m_failure.number = number;
     m_failure.line = line;
     m_failure.column = column;
@@ -61,6 +65,10 @@ bool ScriptControl::fail(std::int32_t number, std::u16string_view text, std::uin
 
 bool ScriptControl::addCode(std::u16string_view text) {
     m_failure = {};
+    if (m_vm->idle()) {
+        m_vm->stopRequested = 0; // meant for an earlier text that had ended by then
+    }
+    const MemoryCeiling ceiling(m_ceiling);
     try {
         m_vm->runUnit(m_vm->unitOf(text));
         return true;
@@ -77,8 +85,9 @@ bool ScriptControl::addCode(std::u16string_view text) {
 
 bool ScriptControl::check(std::u16string_view text) {
     m_failure = {};
+    const MemoryCeiling ceiling(m_ceiling);
     try {
-        delete m_vm->compiler().compile(text);
+        m_vm->compiler().check(text);
         return true;
     } catch (const CompileError& failure) {
         return fail(static_cast<std::int32_t>(failure.number), text, failure.position.line, failure.position.column);

@@ -54,6 +54,7 @@ Vm::Vm(Host& theHost)
 }
 
 Vm::~Vm() {
+    const MemoryCeiling ceiling(memoryCeiling);
     timeoutMilliseconds = 1000; // what Class_Terminate may still take
     startClock();
     for (std::uint32_t slot = 0; slot < m_globals.size(); ++slot) {
@@ -203,7 +204,6 @@ void Vm::runUnit(Unit* unit) {
     if (m_depth == 0) {
         startClock();
         error = {};
-        memoryMeter().ceiling = memoryCeiling;
     }
     const Reentry reentry(m_reentries, maxReentries);
     retain(unit);
@@ -235,6 +235,11 @@ void Vm::poll() {
     if (--m_budget < 0) {
         pollSlow();
     }
+}
+
+void Vm::spend(std::size_t work) {
+    m_budget -= static_cast<int>(std::min<std::size_t>(work, pollInterval));
+    poll();
 }
 
 void Vm::interrupt() {
@@ -393,6 +398,7 @@ void Vm::noteError(const ScriptError& failure) {
 // code
 
 Value Vm::callProcedure(const Procedure& procedure, Instance* me, Arguments arguments) {
+    poll(); // objects that make others as they go would never come to an end
     const Reentry reentry(m_reentries, maxReentries);
     Value* base = freeRegisters();
     if (base + arguments.size() + procedure.registers > m_stack + stackSize) {

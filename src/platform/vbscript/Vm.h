@@ -52,6 +52,8 @@ public:
     void adopt(Object& object) override;
     void abandon(Object& object) noexcept override;
     void poll() override;
+    void spend(std::size_t work) override;
+    bool idle() const noexcept { return m_depth == 0; }
     [[noreturn]] void interrupt() override;
 
     ErrorState error;
