@@ -92,7 +92,6 @@ private:
     void aplicarVisibilidad();
     void atenderLineaDeComandos();
     void cargarPuentes();
-    void editarCodigo();
     void mostrarPuentes();
     void mostrarAbout();
     void mostrarSerie();
