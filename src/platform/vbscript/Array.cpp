@@ -8,6 +8,7 @@
 #include <cstring>
 #include <limits>
 #include <new>
+#include <vector>
 
 namespace vbs {
 
@@ -27,6 +28,20 @@ std::size_t elementsOf(std::span<const std::int32_t> sizes) {
     }
     return count;
 }
+
+// Arrays within arrays, as deep as a script likes, must not be freed by as many nested calls: beyond a certain depth
+// they wait here.
+struct Graveyard {
+    int depth = 0;
+    std::vector<ArrayBlock*> waiting;
+};
+
+Graveyard& graveyard() {
+    static thread_local Graveyard yard;
+    return yard;
+}
+
+constexpr int maxNestedDeaths = 40;
 
 } // namespace
 
@@ -70,6 +85,22 @@ ArrayBlock* ArrayBlock::clone() const {
 }
 
 void ArrayBlock::destroy(ArrayBlock* array) noexcept {
+    Graveyard& yard = graveyard();
+    if (yard.depth >= maxNestedDeaths) {
+        yard.waiting.push_back(array);
+        return;
+    }
+    ++yard.depth;
+    bury(array);
+    while (yard.depth == 1 && !yard.waiting.empty()) {
+        ArrayBlock* next = yard.waiting.back();
+        yard.waiting.pop_back();
+        bury(next);
+    }
+    --yard.depth;
+}
+
+void ArrayBlock::bury(ArrayBlock* array) noexcept {
     for (std::size_t i = 0; i < array->m_count; ++i) {
         array->m_elements[i].~Value();
     }

@@ -39,6 +39,8 @@ public:
     int locks = 0;
 
 private:
+    static void bury(ArrayBlock* array) noexcept;
+
     ArrayBlock() noexcept = default;
 
     std::size_t m_count = 0;

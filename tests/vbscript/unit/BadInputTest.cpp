@@ -329,6 +329,15 @@ TEST_F(BadInput, errorSevenMayBeCaughtAndTheScriptGoesOn) {
               0);
 }
 
+TEST_F(BadInput, arraysWithinArraysMeetTheCeilingAndAreFreed) {
+    control.setMemoryCeiling(memoryMeter().used + (std::size_t{64} << 20));
+    EXPECT_FALSE(control.addCode("a = Array()\nDo : a = Array(a) : Loop"));
+    EXPECT_EQ(control.error().number, outOfMemory);
+    const std::size_t full = memoryMeter().used;
+    control.reset();
+    EXPECT_LT(memoryMeter().used, full / 2);
+}
+
 TEST_F(BadInput, aDictionaryMayChangeWhileItIsWalked) {
     control.setTimeout(std::chrono::milliseconds(200));
     EXPECT_EQ(errorOf("Set d = CreateObject(\"Scripting.Dictionary\")\nFor i = 1 To 100 : d.Add i, i : Next\n"
