@@ -10,6 +10,7 @@
 #include "script/ObjetoMW.h"
 #include "script/WScript.h"
 
+#include <array>
 #include <charconv>
 #include <fstream>
 #include <iostream>
@@ -61,10 +62,12 @@ std::optional<std::string> read(const std::string& file) {
         return std::string(std::istreambuf_iterator<char>(std::cin), {});
     }
     std::ifstream in(file, std::ios::binary);
-    if (!in) {
-        return std::nullopt;
+    std::string text;
+    std::array<char, 65536> block;
+    while (in.read(block.data(), block.size()) || in.gcount() > 0) {
+        text.append(block.data(), static_cast<std::size_t>(in.gcount()));
     }
-    return std::string(std::istreambuf_iterator<char>(in), {});
+    return in.eof() ? std::optional(text) : std::nullopt; // a folder opens, but cannot be read
 }
 
 void report(const std::string& file, const vbs::ScriptFailure& failure) {
