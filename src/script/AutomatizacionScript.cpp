@@ -4,6 +4,7 @@
 #include "platform/window/Eventos.h"
 #include "platform/window/MsgBox.h"
 #include "registers/Palabra.h"
+#include "script/FrmEdicionCodigo.h"
 #include "script/PeriodoScript.h"
 
 #include <QCheckBox>
@@ -35,7 +36,16 @@ AutomatizacionScript::AutomatizacionScript(Esclavos& esclavos, ConfiguracionScri
     connect(&ventana_.chScript, &QCheckBox::toggled, this, &AutomatizacionScript::clicChScript);
 }
 
-AutomatizacionScript::~AutomatizacionScript() = default;
+AutomatizacionScript::~AutomatizacionScript() {
+    delete editor_;
+}
+
+FrmEdicionCodigo& AutomatizacionScript::editor() {
+    if (!editor_)
+        editor_ = new FrmEdicionCodigo(codigo_, configuracion_, ventana_.chScript, eventos_, &ventana_.principal);
+    editor_->mostrarFallo(ejecutor_.ultimoError());
+    return *editor_;
+}
 
 void AutomatizacionScript::iniciar() {
     ScriptControl1_.addObject(u"mw", vbs::Ref<vbs::Object>(mw_.get()));
@@ -84,6 +94,8 @@ bool AutomatizacionScript::ejecucionActiva() const {
 }
 
 void AutomatizacionScript::mostrarResultado(bool sinError) {
+    if (editor_)
+        editor_->mostrarFallo(ejecutor_.ultimoError());
     const QColor color = QColor::fromRgb(sinError ? verde : rojo);
     if (ventana_.chScript.palette().color(QPalette::Window) == color)
         return;

@@ -1,5 +1,5 @@
 // Script automation of the main window: the engine ScriptControl1 with "mw" in it, the script timer, the check box
-// that switches it on, and the label that shows its period.
+// that switches it on, the label that shows its period, and the editor.
 //
 // A pass blocks the thread until the script ends or its time is up. The timer never piles passes up: after a pass that
 // took longer than the period, the next one comes a whole period later.
@@ -11,12 +11,14 @@
 #include "script/ObjetoMW.h"
 
 #include <QObject>
+#include <QPointer>
 #include <QTimer>
 
 #include <chrono>
 
 class Esclavos;
 class Eventos;
+class FrmEdicionCodigo;
 class QCheckBox;
 class QLabel;
 class QWidget;
@@ -28,7 +30,7 @@ public:
     static constexpr std::chrono::milliseconds tiempoLimite{50000}; // of one pass
 
     struct Ventana {
-        QWidget& principal; // parent of every message box
+        QWidget& principal; // parent of every message box and of the editor
         QCheckBox& chScript;
         QLabel& lblBaseDeTiempo;
         bool sinPantalla; // nobody sees the windows
@@ -56,6 +58,9 @@ public:
     // Ends the running script as soon as possible, or the next one when none runs. May be called from a signal handler.
     void detener() noexcept { ScriptControl1_.stop(); }
 
+    // The editor, made when there is none and not yet shown. It goes away when it is closed.
+    FrmEdicionCodigo& editor();
+
     vbs::ScriptControl& ScriptControl1() { return ScriptControl1_; }
 
 private:
@@ -77,5 +82,6 @@ private:
     vbs::ScriptControl ScriptControl1_;
     EjecutorScript ejecutor_;
     QTimer timerScript_{this};
+    QPointer<FrmEdicionCodigo> editor_;
     bool puedePasar_ = false;
 };

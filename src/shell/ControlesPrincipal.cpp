@@ -143,14 +143,13 @@ void ControlesPrincipal::grupoScript(QVBoxLayout& columna, QWidget* padre) {
     chScript = nombrado(new QCheckBox(QStringLiteral("Ejecutar"), padre), "chScript");
     chScript->setToolTip(QStringLiteral("Ejecuta el script periódicamente: verde, sin errores; rojo, con error"));
     chScript->setAutoFillBackground(true);
+    chScript->setBackgroundRole(QPalette::Window); // a button's own would be Button, and stay as it is
     BtnEdicionCodigo =
         boton(padre, "BtnEdicionCodigo", QStringLiteral("Editar"), QStringLiteral("Abre el editor del script"));
     lblBaseDeTiempo = nombrado(new QLabel(QStringLiteral("Tiempo:"), padre), "lblBaseDeTiempo");
     fila->addWidget(chScript);
     fila->addWidget(BtnEdicionCodigo);
     fila->addWidget(lblBaseDeTiempo, 1);
-
-    BtnEdicionCodigo->setEnabled(false); // until there is a window behind it
     columna.addWidget(titulo(padre, "Label2", QStringLiteral("Codigo Script")));
     columna.addLayout(fila);
 }

@@ -7,6 +7,7 @@
 #include "registers/FrmMW.h"
 #include "registers/Palabra.h"
 #include "registers/VistaPagina.h"
+#include "script/FrmEdicionCodigo.h"
 #include "serial/frmRS232.h"
 #include "shell/AyudaContextual.h"
 #include "shell/ControlesPrincipal.h"
@@ -93,6 +94,7 @@ void FrmPrincipal::conectarControles() {
     connect(c.TabStrip1, &QTabBar::currentChanged, this, &FrmPrincipal::seleccionarPestana);
     connect(c.ChRxTx, &QCheckBox::toggled, this, &FrmPrincipal::alternarTxRx);
     connect(c.BtnBorrarTextosRXTX, &QPushButton::clicked, this, [this] { monitores_.borrarTramas(); });
+    connect(c.BtnEdicionCodigo, &QPushButton::clicked, this, &FrmPrincipal::editarCodigo);
     connect(c.BtnBorrar, &QPushButton::clicked, this, [this] { monitores_.borrarEscrituras(); });
     connect(c.BtnOcultar, &QPushButton::clicked, this, &FrmPrincipal::ocultar);
     connect(c.BtnCerrar, &QPushButton::clicked, this, &FrmPrincipal::apagar);
@@ -159,6 +161,12 @@ void FrmPrincipal::atenderLineaDeComandos() {
         return;
     config_.escribirConfiguracion("ver", "1");
     show();
+}
+
+void FrmPrincipal::editarCodigo() {
+    FrmEdicionCodigo& editor = script_->editor();
+    ponerAyudaContextual(editor);
+    mostrarDelante(editor);
 }
 
 void FrmPrincipal::cargarPuentes() {

@@ -92,6 +92,7 @@ private:
     void aplicarVisibilidad();
     void atenderLineaDeComandos();
     void cargarPuentes();
+    void editarCodigo();
     void mostrarPuentes();
     void mostrarAbout();
     void mostrarSerie();

@@ -76,6 +76,18 @@ private Q_SLOTS:
         QCOMPARE(e.etiqueta(), QStringLiteral("Intervalo: 250 Milisegundos"));
     }
 
+    void outcomeIsSeenBehindTheBox() {
+        Estacion e("Codigo_Ejecutar=1\r\n");
+        QVERIFY(e.cargar());
+        const auto fondo = [&] { return e.chScript().grab().toImage().pixel(1, 1); };
+        e.script("x = 1");
+        e.pasada();
+        QCOMPARE(fondo(), verde);
+        e.script("x = 1 / 0");
+        e.pasada();
+        QCOMPARE(fondo(), rojo);
+    }
+
     void startWithTheKeyOffLeavesTimerLabelAndPeriodAlone() {
         Estacion e;
         QVERIFY(e.cargar());

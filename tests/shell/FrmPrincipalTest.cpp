@@ -108,8 +108,6 @@ private Q_SLOTS:
         QCOMPARE(lista.headerItem()->text(1), QStringLiteral("ESTADO"));
     }
 
-    void buttonsWithoutAWindowYetAreDisabled() { QVERIFY(!control<QPushButton>("BtnEdicionCodigo").isEnabled()); }
-
     void twelveTabsAndTheSecondInFront() {
         QCOMPARE(pestanas().count(), 12);
         for (int n = 0; n < 12; ++n) {
@@ -188,6 +186,7 @@ private Q_SLOTS:
                                    QStringLiteral("BtnBorrar"),
                                    QStringLiteral("txtEscrituras"),
                                    QStringLiteral("chScript"),
+                                   QStringLiteral("BtnEdicionCodigo"),
                                    QStringLiteral("ChRxTx"),
                                    QStringLiteral("BtnBorrarTextosRXTX"),
                                    QStringLiteral("Command2"),

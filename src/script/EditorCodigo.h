@@ -1,0 +1,65 @@
+// The text box of the script editor: monospaced, with line numbers, colours, automatic indentation and marks.
+//
+// It gives and takes its whole text, with '\n' as line end, character by character. Texts of many megabytes stay
+// usable: what is not in sight costs nothing.
+#pragma once
+
+#include "script/ResaltadoVBScript.h"
+
+#include <QPlainTextEdit>
+#include <QTextCursor>
+
+class EditorCodigo final : public QPlainTextEdit {
+    Q_OBJECT
+    Q_PROPERTY(QString plainText READ texto WRITE ponerTexto)
+
+public:
+    static constexpr int sangria = 4; // columns
+
+    explicit EditorCodigo(QWidget* parent = nullptr);
+
+    // Taking a text forgets what could be undone and the marks.
+    QString texto() const;
+    void ponerTexto(const QString& texto);
+
+    // Underlines the word at that place as an error of compilation; line and column from 1. Line 0: no error.
+    void marcarError(int linea, int columna);
+
+    // Marks the line where the running script failed, from 1; 0: none. The mark moves with the text.
+    void marcarFallo(int linea);
+
+    // Puts the text cursor there, in sight; line and column from 1, beyond the text its end.
+    void irA(int linea, int columna);
+
+    // Replaces every occurrence as one step that can be undone; returns how many there were.
+    int reemplazarTodo(const QString& buscado, const QString& nuevo, Qt::CaseSensitivity caja);
+
+    // The strip with the line numbers, for its widget.
+    int anchoMargen() const;
+    void pintarMargen(QPaintEvent& evento);
+    int lineaEnMargen(int y) const; // its number from 0
+
+    const ColoresCodigo& colores() const { return resaltado_.colores(); }
+
+protected:
+    void changeEvent(QEvent* evento) override;
+    void keyPressEvent(QKeyEvent* evento) override;
+    void paintEvent(QPaintEvent* evento) override;
+    void resizeEvent(QResizeEvent* evento) override;
+
+private:
+    void colorearVisibles();
+    void colocarMargen();
+    void ponerMarcas();
+    void sangrarSeleccion(int sentido);
+    void insertarTabulador();
+    bool borrarSangria();
+    void nuevaLinea();
+    void alinearCierre(QTextCursor& cursor, int cierra) const;
+
+    ResaltadoVBScript resaltado_;
+    QWidget* margen_;
+    QTextCursor error_; // its selection is underlined; without one: no error
+    QTextCursor fallo_; // in the line marked
+    bool conFallo_ = false;
+};

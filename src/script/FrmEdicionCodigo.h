@@ -1,0 +1,87 @@
+// The window in which the user edits the script and its period.
+//
+// It loads the script file when it is made, saves it with "Guardar" or Ctrl+S and goes away when it is closed, without
+// saving. While one types, the text is compiled and its first error underlined; where the running script failed is
+// marked as well. A star in the title tells of changes that are not saved.
+#pragma once
+
+#include "platform/vbscript/ScriptControl.h"
+#include "script/ComprobadorCodigo.h"
+#include "script/ConfiguracionScript.h"
+
+#include <QPointer>
+#include <QWidget>
+
+class AyudaMW;
+class BarraBusqueda;
+class EditorCodigo;
+class Eventos;
+class QCheckBox;
+class QLabel;
+class QLineEdit;
+class QPushButton;
+class QVBoxLayout;
+
+class FrmEdicionCodigo final : public QWidget {
+    Q_OBJECT
+
+public:
+    // All borrowed. `chScript` is unticked and ticked again to arm the timer with a new period.
+    FrmEdicionCodigo(const Modulo_Codigo& codigo, ConfiguracionScript& configuracion, QCheckBox& chScript,
+                     Eventos& eventos, QWidget* padre);
+
+    // Tells the outcome of a pass of the script; number 0: good. Cheap when nothing has changed.
+    void mostrarFallo(const vbs::ScriptFailure& fallo);
+
+    // True when the period is one that is admitted. Else says why, puts the fallback there and takes the focus back.
+    bool comprobarPeriodo();
+
+protected:
+    bool eventFilter(QObject* objeto, QEvent* evento) override;
+    void changeEvent(QEvent* evento) override;
+
+private:
+    void crearControles();
+    void crearFilaInferior(QVBoxLayout& columna);
+    void conectar();
+    void crearTeclas();
+    void cargar();
+    void guardar();
+    void guardarPeriodo();
+    void rearmar();
+    void salir();
+    bool periodoPendienteValido();
+    void irALinea();
+    void irAlError();
+    void mostrarAyuda();
+    void cambiarLetra(int puntos);
+    void mostrarTitulo();
+    void mostrarPosicion();
+    void mostrarEstado();
+    int lineasVaciasAlPrincipio() const;
+    int lineaDelFallo() const;
+    bool hayCambios() const;
+
+    const Modulo_Codigo& codigo_;
+    ConfiguracionScript& configuracion_;
+    QCheckBox& chScript_;
+    Eventos& eventos_;
+
+    EditorCodigo* txtCodigo_ = nullptr;
+    QLineEdit* txtIntervaloDeTiempo_ = nullptr;
+    QPushButton* BtnGuardar_ = nullptr;
+    QPushButton* BtnSalir_ = nullptr;
+    BarraBusqueda* busqueda_ = nullptr;
+    QLabel* lblEstado_ = nullptr;
+    QLabel* lblPosicion_ = nullptr;
+    ComprobadorCodigo* comprobador_ = nullptr;
+    QPointer<AyudaMW> ayuda_;
+
+    QString archivo_; // what the title names
+    QString periodoCargado_;
+    bool periodoPendiente_ = false; // the box has lost the focus and is still to be checked
+    bool demasiadoLargo_ = false;
+    vbs::ScriptFailure errorCompilacion_;
+    vbs::ScriptFailure fallo_;
+    QString aviso_; // of the last save or load; until something else happens
+};
