@@ -231,6 +231,7 @@ bool FrmEdicionCodigo::comprobarPeriodo() {
                                     "milisegundos.\r\nSe asgina por defecto 1000 Milisegundos");
     MsgBox(this, mensaje, estiloError);
     txtIntervaloDeTiempo_->setText(QString::number(periodoPorDefecto));
+    activateWindow(); // not every window system does it when a box closes
     txtIntervaloDeTiempo_->setFocus();
     txtIntervaloDeTiempo_->selectAll();
     return false;

@@ -7,6 +7,8 @@
 #include <QElapsedTimer>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPointer>
 #include <QPushButton>
 
 #include <functional>
@@ -381,6 +383,67 @@ private Q_SLOTS:
         p.ventana->ejecucion_timers(1);
         QCOMPARE(p.ventana->esclavos().valores(1)[0], 1.0);
         QCOMPARE(p.ventana->esclavos().valores(1)[1], 5.0);
+    }
+
+    void editButtonOpensTheEditorOnceWithTheHelpTopicOfAll() {
+        Estacion e;
+        e.script("a = 1");
+        QVERIFY(e.cargar());
+        const auto abrir = [&] { QTest::mouseClick(&e.control<QPushButton>("BtnEdicionCodigo"), Qt::LeftButton); };
+        abrir();
+        QPointer<QWidget> editor = e.ventana->findChild<QWidget*>(QStringLiteral("FrmEdicionCodigo"));
+        QVERIFY(editor && editor->isVisible() && editor->isWindow());
+        QCOMPARE(editor->windowModality(), Qt::NonModal);
+        QCOMPARE(editor->property("HelpContextID").toInt(), 420);
+        QCOMPARE(editor->findChild<QWidget*>(QStringLiteral("txtCodigo"))->property("HelpContextID").toInt(), 420);
+        abrir();
+        QCOMPARE(e.ventana->findChildren<QWidget*>(QStringLiteral("FrmEdicionCodigo")).size(), 1);
+        QTest::mouseClick(editor->findChild<QPushButton*>(QStringLiteral("BtnSalir")), Qt::LeftButton);
+        QTRY_VERIFY(!editor);
+        abrir();
+        QVERIFY(e.ventana->findChild<QWidget*>(QStringLiteral("FrmEdicionCodigo")) != nullptr);
+    }
+
+    void editorTellsTheErrorOfTheLastPassAndForgetsItAfterAGoodOne() {
+        Estacion e("Codigo_Ejecutar=1\r\n");
+        e.script("a = 0\r\nx = 1 / a");
+        QVERIFY(e.cargar());
+        e.pasada();
+        QTest::mouseClick(&e.control<QPushButton>("BtnEdicionCodigo"), Qt::LeftButton);
+        const auto& estado = e.control<QLabel>("lblEstado");
+        QCOMPARE(estado.text(), QStringLiteral("Falló al ejecutar, línea 2, columna 1: División por cero (error 11)"));
+        e.script("a = 0\r\nx = 1");
+        e.pasada();
+        QCOMPARE(estado.text(), QString());
+        e.script("Error de sintaxis");
+        e.pasada();
+        QVERIFY(estado.text().startsWith(QStringLiteral("Falló al ejecutar, línea 1")));
+    }
+
+    void periodSavedInTheEditorRearmsTheTimer() {
+        Estacion e("Codigo_Ejecutar=1\r\nEjecucion_Codigo_Milisegundos=300\r\n");
+        QVERIFY(e.cargar());
+        QTest::mouseClick(&e.control<QPushButton>("BtnEdicionCodigo"), Qt::LeftButton);
+        auto& periodo = e.control<QLineEdit>("txtIntervaloDeTiempo");
+        QCOMPARE(periodo.text(), QStringLiteral("300"));
+        periodo.setFocus();
+        periodo.selectAll();
+        QTest::keyClicks(&periodo, QStringLiteral("70"));
+        QTest::mouseClick(&e.control<QPushButton>("BtnGuardar"), Qt::LeftButton);
+        QCOMPARE(e.timer()->interval(), 70);
+        QVERIFY(e.timer()->isActive());
+        QVERIFY(e.chScript().isChecked());
+        QCOMPARE(e.etiqueta(), QStringLiteral("Intervalo: 70 Milisegundos"));
+        QCOMPARE(e.clave(clavePeriodo), std::string("70"));
+    }
+
+    void textSavedInTheEditorRunsOnTheNextPass() {
+        Estacion e("Codigo_Ejecutar=1\r\nEjecucion_Codigo_Milisegundos=10\r\n");
+        QVERIFY(e.cargar());
+        QTest::mouseClick(&e.control<QPushButton>("BtnEdicionCodigo"), Qt::LeftButton);
+        QTest::keyClicks(&e.control<QPlainTextEdit>("txtCodigo"), QStringLiteral("mw.escribir 1, 3, 33"));
+        QTest::mouseClick(&e.control<QPushButton>("BtnGuardar"), Qt::LeftButton);
+        QTRY_COMPARE(e.registro(1, 3), 33.0);
     }
 
     void auxiliaryTimerIsDormantWhateverTheBoxSays() {
