@@ -186,7 +186,9 @@ Expr* Parser::parseAtom() {
 
 // postfix: { ( arguments ) | .name }
 Expr* Parser::parsePostfix(Expr* e) {
-    const bool indexable = e->kind == Expr::Kind::Name || e->kind == Expr::Kind::Member || e->kind == Expr::Kind::Me;
+    using EK = Expr::Kind; // `(New K)(1)` calls the default member
+    const bool indexable =
+        e->kind == EK::Name || e->kind == EK::Member || e->kind == EK::Me || e->kind == EK::Parentheses;
     for (bool first = true;; first = false) {
         const Position at = here();
         if (is(Sign::Dot) &&
