@@ -123,7 +123,7 @@ class Station:
         return self.process.wait(patience)
 
     def errors(self):
-        return (self.folder / "stderr.txt").read_text(errors="replace")
+        return (self.folder / "stderr.txt").read_text("utf-8", errors="replace")
 
     def setting(self, key):
         match = re.search(rf"^{key}=(.*?)\r?$", self.ini.read_text("cp1252"), re.MULTILINE | re.IGNORECASE)

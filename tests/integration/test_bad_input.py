@@ -36,7 +36,7 @@ class Configuration(unittest.TestCase):
         with socket.socket() as other:
             other.bind(("127.0.0.1", 0))
             other.listen()
-            self.refused(other.getsockname()[1], "ocupado por otro programa")
+            self.refused(port := other.getsockname()[1], f"El puerto {port} está ocupado por otro programa")
 
     def serves_by_default(self, prepare):
         """With nothing usable in the file the station falls back to port 502, or says why it can't have it."""
