@@ -138,6 +138,6 @@ void BarraBusqueda::keyPressEvent(QKeyEvent* evento) {
 }
 
 void BarraBusqueda::cerrar() {
+    editor_.setFocus(); // before the bar goes, or the focus would pass through the control behind it
     hide();
-    editor_.setFocus();
 }

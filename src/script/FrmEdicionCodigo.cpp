@@ -79,7 +79,7 @@ void FrmEdicionCodigo::crearControles() {
     columna->addWidget(busqueda_);
     columna->addLayout(estado);
     crearFilaInferior(*columna);
-    resize(txtCodigo_->anchoMargen() + txtCodigo_->fontMetrics().horizontalAdvance(u'0') * 96,
+    resize(txtCodigo_->anchoMargen() + txtCodigo_->fontMetrics().horizontalAdvance(u'0') * 112,
            txtCodigo_->fontMetrics().height() * 42);
     txtCodigo_->setFocus();
 }
@@ -95,7 +95,7 @@ void FrmEdicionCodigo::crearFilaInferior(QVBoxLayout& columna) {
     auto* btnBuscar = nombrado(new QPushButton(QStringLiteral("&Buscar"), this), "btnBuscar", {});
     btnBuscar->setToolTip(QStringLiteral("Ctrl+F; reemplazar: Ctrl+H"));
     connect(btnBuscar, &QPushButton::clicked, this, [this] { busqueda_->abrir(true); });
-    auto* btnAyuda = nombrado(new QPushButton(QStringLiteral("Ay&uda"), this), "btnAyuda", {});
+    auto* btnAyuda = nombrado(new QPushButton(QStringLiteral("A&yuda"), this), "btnAyuda", {});
     btnAyuda->setToolTip(QStringLiteral("F1"));
     connect(btnAyuda, &QPushButton::clicked, this, &FrmEdicionCodigo::mostrarAyuda);
     BtnGuardar_ = nombrado(new QPushButton(QStringLiteral("&Guardar"), this), "BtnGuardar", {});

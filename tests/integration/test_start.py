@@ -154,7 +154,7 @@ class CloseBox(unittest.TestCase):
     def test_the_txrx_window_does_not_take_the_focus(self):
         with Screen() as screen, Station(environment=screen.environment) as station:
             window = wait_for(lambda: screen.windows("Trelvano"), "the window")[0]
-            for key in ["shift+Tab"] * 6 + ["space"]:
+            for key in ["shift+Tab"] * 7 + ["space"]:
                 screen.key(window, key)
             wait_for(lambda: screen.windows("TxRx"), "the TX/RX window")
             screen.key(None, "space")  # still goes to the check box, which hides it again

@@ -476,6 +476,16 @@ private Q_SLOTS:
         QCOMPARE(seleccionado(), QStringLiteral("uno"));
     }
 
+    void closingTheFindBarIsNoLeavingOfThePeriod() {
+        abrir(); // the period is 0
+        CajaDeMensaje caja;
+        tecla(Qt::Key_F, Qt::ControlModifier);
+        tecla(Qt::Key_Escape);
+        QTest::qWait(30); // a message would be answered by then
+        QCOMPARE(caja.vistas, 0);
+        QVERIFY(txtCodigo().hasFocus());
+    }
+
     void findTakesWhatIsSelected() {
         abrirCon("uno dos uno");
         tecla(Qt::Key_Right, Qt::ControlModifier | Qt::ShiftModifier);
