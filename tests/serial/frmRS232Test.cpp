@@ -2,10 +2,10 @@
 #include "serial/frmRS232.h"
 
 #include "EntornoFalso.h"
+#include "TiempoDeProcesador.h"
 #include "platform/serial/ParSerie.h"
 #include "platform/window/VistaTexto.h"
 
-#include <QElapsedTimer>
 #include <QLabel>
 #include <QLineEdit>
 #include <QProcess>
@@ -265,14 +265,13 @@ private Q_SLOTS:
                 estacion.par.enviar(std::string(1'000'000, 'x'));
         });
         auto* vista = estacion.control<VistaTexto>("TxtInputCom");
-        qint64 masLarga = 0;
+        std::int64_t masLarga = 0;
         qsizetype mostrados = 0;
         const QDeadlineTimer plazo(100'000);
         while (mostrados < total && !plazo.hasExpired()) {
-            QElapsedTimer vuelta;
-            vuelta.start();
+            const std::int64_t antes = msDeProcesador();
             QCoreApplication::processEvents(QEventLoop::AllEvents);
-            masLarga = std::max(masLarga, vuelta.elapsed());
+            masLarga = std::max(masLarga, msDeProcesador() - antes);
             mostrados = vista->alDia() ? vista->document()->characterCount() - vista->blockCount() : 0;
         }
         aparato.join();

@@ -105,7 +105,7 @@ constexpr Entry entries[] = {
     {DefinedInsideClass, u"Debe definirse dentro de una clase"},
     {ExpectedLetSetGet, u"Se esperaba Let, Set o Get en la declaración de la propiedad"},
     {ExpectedProperty, u"Se esperaba 'Property'"},
-    {InconsistentArguments, u"El número de argumentos debe ser coherente con la especificación de la propiedad"},
+    {InconsistentArguments, u"El número de argumentos debe coincidir en todas las partes de la propiedad"},
     {MultipleDefaults, u"No puede haber más de una propiedad o método predeterminado en una clase"},
     {ClassEventArguments, u"Class_Initialize o Class_Terminate no tienen argumentos"},
     {PropertyArguments, u"Property Set o Let debe tener al menos un argumento"},

@@ -60,7 +60,8 @@ public:
     void setTimeout(std::chrono::milliseconds timeout);
     // Most bytes that texts, arrays and objects of scripts may take; beyond it error 7.
     void setMemoryCeiling(std::size_t bytes);
-    // Ends the running text as soon as possible, and does nothing if none runs; may be called from a host object or a signal handler.
+    // Ends the running text as soon as possible, and does nothing if none runs; may be called from a host object or a
+    // signal handler.
     void stop() noexcept;
 
     // Forgets every global, procedure and class; added objects stay.
