@@ -2,6 +2,7 @@
 
 #include <QElapsedTimer>
 #include <QFontDatabase>
+#include <QScrollBar>
 #include <QTextCursor>
 
 #include <algorithm>
@@ -73,7 +74,7 @@ void VistaMonitor::ponerAlDia() {
     }
     generacion_ = monitor_.generacion();
     mostrados_ = texto.size();
-    moveCursor(QTextCursor::End);
+    mostrarFinal();
     const std::chrono::milliseconds gasto{reloj.elapsed()};
     intervalo_ = std::clamp(gasto * parteDelTiempo, intervaloMinimo, intervaloMaximo);
 }
@@ -88,5 +89,11 @@ void VistaMonitor::showEvent(QShowEvent* evento) {
 void VistaMonitor::resizeEvent(QResizeEvent* evento) {
     QPlainTextEdit::resizeEvent(evento);
     if (textCursor().atEnd())
-        ensureCursorVisible();
+        mostrarFinal();
+}
+
+// The caret's own rules stop where its line is in view; with some fonts that is a line short of the end.
+void VistaMonitor::mostrarFinal() {
+    moveCursor(QTextCursor::End);
+    verticalScrollBar()->setValue(verticalScrollBar()->maximum());
 }

@@ -30,6 +30,7 @@ private:
     void alVencer();
     bool conviene();
     void ponerAlDia();
+    void mostrarFinal();
 
     TextoMonitor& monitor_;
     QTimer espera_;
