@@ -1,7 +1,7 @@
 // The lexer on any text: it ends, its tokens stand in order within the text, and lines and columns tell where.
 
-#include "platform/vbscript/Lexer.h"
-#include "platform/vbscript/String.h"
+#include "platform/vbscript/syntax/Lexer.h"
+#include "platform/vbscript/value/String.h"
 
 #include <cstdint>
 #include <cstdio>

@@ -1,8 +1,8 @@
 // The compiler on any text: it ends, an error tells a number and a place within the text, and compiling once more gives
 // the same answer and leaves no memory behind.
 
-#include "platform/vbscript/Memory.h"
 #include "platform/vbscript/ScriptControl.h"
+#include "platform/vbscript/value/Memory.h"
 
 #include <algorithm>
 #include <cstdint>

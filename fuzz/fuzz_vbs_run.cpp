@@ -3,8 +3,8 @@
 // Whatever the text: it ends near its time-out, the engine runs the next text all the same, a second pass is possible,
 // and when the engine goes nothing that scripts made stays behind.
 
-#include "platform/vbscript/Memory.h"
 #include "platform/vbscript/ScriptControl.h"
+#include "platform/vbscript/value/Memory.h"
 #include "registers/Esclavos.h"
 #include "script/ObjetoMW.h"
 

@@ -21,6 +21,10 @@ BELOW = {  # folder: the folders whose files it may include, beside its own
     "bridge": {"platform"},
     "registers": {"platform"},
 }
+FLOOR = {"platform/text", "platform/posix"}  # known to the other folders of platform/
+# The script engine's rooms, from left to right; a file includes, and a target links, only what stands left of it.
+ENGINE = "platform/vbscript"
+ROOMS = ["value", "syntax", "compile", "run", "library", ""]  # the last is the public face
 QT_PLATFORM = {"platform_grid", "platform_window", "platform_serial"}
 TARGET = re.compile(r"^\s*(esclavo_library|add_library|add_executable)\s*\(\s*([\w-]+)([^)]*)\)", re.M)
 LINKS = re.compile(r"^\s*target_link_libraries\s*\(\s*([\w-]+)([^)]*)\)", re.M)
@@ -36,6 +40,7 @@ class Tree:
         self.qt_targets = set()  # every target that Qt is switched on for
         self.targets = {}  # target: is it windows?
         self.owner = {}  # file: target
+        self.links = {}  # target: what it links
         self.all_windows = {}  # folder: has it nothing but windows?
         for lists in sorted(src.rglob("CMakeLists.txt")):
             self.read_targets(lists)
@@ -56,6 +61,7 @@ class Tree:
             elif qt:
                 self.qt_targets.add(target)
             self.targets[target] = windows
+            self.links[target] = needed[1:] + links.get(target, [])
             self.all_windows[lists.parent] = windows and self.all_windows.get(lists.parent, True)
             for word in words:
                 if word.endswith((".cpp", ".h")):
@@ -65,6 +71,10 @@ class Tree:
         """"registers", or "platform/grid"."""
         parts = file.relative_to(self.src).parts
         return "/".join(parts[:2]) if parts[0] == "platform" else parts[0]
+
+    def room(self, file):
+        """Place of a file in ROOMS, or None outside the engine."""
+        return room_number(file.relative_to(self.src).as_posix())
 
     def target(self, file):
         return self.owner.get(file) or self.owner.get(file.with_suffix(".cpp"))
@@ -83,9 +93,23 @@ class Tree:
             yield mark == '"', name, found[0] if found else None
 
 
+def room_number(path):
+    if not path.startswith(ENGINE + "/"):
+        return None
+    room = path[len(ENGINE) + 1:].split("/")[0]
+    return ROOMS.index(room if room in ROOMS else "")
+
+
+def engine_target_number(target):
+    if target == "platform_vbscript":
+        return len(ROOMS) - 1
+    name = target.removeprefix("vbscript_")
+    return ROOMS.index(name) if name != target and name in ROOMS else None
+
+
 def may_include(lower, upper):
     """May a file of the folder `upper` include one of `lower`?"""
-    if lower == upper:
+    if lower == upper or lower in FLOOR and upper not in FLOOR and upper.startswith("platform/"):
         return True
     return not upper.startswith("platform/") and lower.split("/")[0] in BELOW.get(upper, set())
 
@@ -95,6 +119,12 @@ def violations(tree):
     for target in sorted(tree.qt_targets):
         if not tree.targets[target]:
             found.append(f"{target}: a logic target with Qt")
+    for target, linked in sorted(tree.links.items()):
+        place = engine_target_number(target)
+        for other in linked:
+            right = engine_target_number(other)
+            if place is not None and right is not None and right >= place:
+                found.append(f"{target}: a room of the engine may not link {other}, which stands right of it")
     for file in tree.files:
         name = file.relative_to(tree.src)
         if file.suffix == ".cpp" and not tree.target(file):
@@ -111,6 +141,8 @@ def violations(tree):
                 continue
             if not may_include(tree.folder(included), tree.folder(file)):
                 found.append(f"{name}: {tree.folder(file)} may not know {header}")
+            elif None not in (tree.room(file), tree.room(included)) and tree.room(included) > tree.room(file):
+                found.append(f"{name}: a room of the engine may not know {header}, which stands right of it")
             elif not window and tree.is_window(included):
                 found.append(f"{name}: logic includes the window {header}")
     return found
@@ -171,6 +203,25 @@ class Rules(unittest.TestCase):
 
     def test_platform_folders_do_not_know_one_another(self):
         self.expect("platform/grid may not know", platform__grid__G_dot_cpp='#include "platform/net/N.h"')
+
+    def test_floor_of_platform_is_known_to_its_folders(self):
+        self.assertEqual(self.found(platform__grid__G_dot_cpp='#include "platform/text/T.h"',
+                                    platform__text__T_dot_h=""), [])
+        self.expect("platform/text may not know", platform__text__T_dot_h='#include "platform/net/N.h"')
+
+    def test_rooms_of_the_engine_know_only_what_stands_left_of_them(self):
+        right = {"platform__vbscript__run__V_dot_h": "", "platform__vbscript__S_dot_h": ""}
+        self.assertEqual(self.found(**right | {"platform__vbscript__S_dot_h": '#include "platform/vbscript/run/V.h"'}), [])
+        self.expect("stands right of it", **right,
+                    platform__vbscript__syntax__P_dot_h='#include "platform/vbscript/run/V.h"')
+        self.expect("stands right of it", platform__vbscript__S_dot_h="",
+                    platform__vbscript__run__V_dot_h='#include "platform/vbscript/S.h"')
+
+    def test_rooms_of_the_engine_link_only_what_stands_left_of_them(self):
+        self.assertEqual(self.found(
+            platform__vbscript__run__CMakeLists_dot_txt="esclavo_library(vbscript_run SOURCES LINK vbscript_value)"), [])
+        self.expect("may not link vbscript_library", platform__vbscript__run__CMakeLists_dot_txt=
+                    "esclavo_library(vbscript_run SOURCES LINK vbscript_value vbscript_library)")
 
     def test_path_upwards_is_seen_through(self):
         self.expect("bridge may not know", bridge__B_dot_cpp='#include "../registers/A.h"')

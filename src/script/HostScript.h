@@ -1,7 +1,7 @@
 // The host of the window's script engine: message and input boxes, and the facts of the user's country.
 #pragma once
 
-#include "platform/vbscript/Host.h"
+#include "platform/vbscript/value/Host.h"
 #include "script/LocaleQt.h"
 
 class QWidget;

@@ -1,6 +1,6 @@
 #include "script/LocaleQt.h"
 
-#include "platform/vbscript/LocaleNames.h"
+#include "platform/vbscript/value/LocaleNames.h"
 
 #include <QLocale>
 #include <QRegularExpression>

@@ -1,8 +1,8 @@
 #include "script/ResaltadoVBScript.h"
 
-#include "platform/vbscript/Builtins.h"
-#include "platform/vbscript/Lexer.h"
-#include "platform/vbscript/String.h"
+#include "platform/vbscript/library/Builtins.h"
+#include "platform/vbscript/syntax/Lexer.h"
+#include "platform/vbscript/value/String.h"
 
 #include <QTextDocument>
 

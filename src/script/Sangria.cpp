@@ -1,6 +1,6 @@
 #include "script/Sangria.h"
 
-#include "platform/vbscript/Lexer.h"
+#include "platform/vbscript/syntax/Lexer.h"
 
 #include <vector>
 

@@ -1,7 +1,7 @@
 #include "script/WScript.h"
 
-#include "platform/vbscript/Context.h"
-#include "platform/vbscript/Convert.h"
+#include "platform/vbscript/value/Context.h"
+#include "platform/vbscript/value/Convert.h"
 
 #include <ostream>
 

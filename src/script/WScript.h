@@ -1,7 +1,7 @@
 // The "WScript" object of the command-line tool: Echo, Quit, Arguments and ScriptName.
 #pragma once
 
-#include "platform/vbscript/Object.h"
+#include "platform/vbscript/value/Object.h"
 
 #include <iosfwd>
 #include <span>

@@ -4,8 +4,8 @@
 //
 // --comprobar only compiles; --pasadas runs every text N times in the same engine, as the station does; - reads
 // standard input. Exit status: 0 good, 1 script error, 2 usage.
-#include "platform/vbscript/Ansi.h"
 #include "platform/vbscript/ScriptControl.h"
+#include "platform/vbscript/value/Ansi.h"
 #include "registers/Esclavos.h"
 #include "script/ObjetoMW.h"
 #include "script/WScript.h"

@@ -1,7 +1,8 @@
 #include "platform/vbscript/ScriptControl.h"
 
-#include "platform/vbscript/Memory.h"
-#include "platform/vbscript/Vm.h"
+#include "platform/vbscript/library/Builtins.h"
+#include "platform/vbscript/run/Vm.h"
+#include "platform/vbscript/value/Memory.h"
 
 #include <limits>
 
@@ -29,7 +30,7 @@ std::u16string_view lineOf(std::u16string_view text, std::uint32_t number) {
 } // namespace
 
 ScriptControl::ScriptControl(Host& host)
-    : m_host(host), m_vm(std::make_unique<Vm>(host)), m_ceiling(m_vm->memoryCeiling) {}
+    : m_host(host), m_vm(std::make_unique<Vm>(host, library())), m_ceiling(m_vm->memoryCeiling) {}
 
 ScriptControl::~ScriptControl() = default;
 
@@ -114,7 +115,7 @@ void ScriptControl::stop() noexcept {
 
 void ScriptControl::reset() {
     m_vm.reset();
-    m_vm = std::make_unique<Vm>(m_host);
+    m_vm = std::make_unique<Vm>(m_host, library());
     m_vm->timeoutMilliseconds = static_cast<double>(m_timeout.count());
     m_vm->memoryCeiling = m_ceiling;
     for (const Added& added : m_objects) {

@@ -1,7 +1,7 @@
 // Texts that no one writes by hand: huge, endless, nested beyond reason. Each ends in an error of the script or in a
 // finished run, and the engine goes on.
-#include "platform/vbscript/Memory.h"
 #include "platform/vbscript/ScriptControl.h"
+#include "platform/vbscript/value/Memory.h"
 
 #include <gtest/gtest.h>
 #include <string>

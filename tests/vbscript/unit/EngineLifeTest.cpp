@@ -1,8 +1,8 @@
 // Engines beside each other and after failures: what survives, what is freed, who may stop them.
-#include "platform/vbscript/Context.h"
-#include "platform/vbscript/Convert.h"
-#include "platform/vbscript/Memory.h"
 #include "platform/vbscript/ScriptControl.h"
+#include "platform/vbscript/value/Context.h"
+#include "platform/vbscript/value/Convert.h"
+#include "platform/vbscript/value/Memory.h"
 
 #include <csignal>
 #include <gtest/gtest.h>

@@ -1,5 +1,5 @@
 // Tokens and their places, as an editor sees them.
-#include "platform/vbscript/Lexer.h"
+#include "platform/vbscript/syntax/Lexer.h"
 
 #include <gtest/gtest.h>
 #include <vector>

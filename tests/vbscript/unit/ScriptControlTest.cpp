@@ -1,9 +1,9 @@
 // The engine as a program sees it: texts one after another, errors, time-out, stopping, memory.
 #include "platform/vbscript/ScriptControl.h"
 
-#include "platform/vbscript/Context.h"
-#include "platform/vbscript/Convert.h"
-#include "platform/vbscript/Memory.h"
+#include "platform/vbscript/value/Context.h"
+#include "platform/vbscript/value/Convert.h"
+#include "platform/vbscript/value/Memory.h"
 
 #include <csignal>
 #include <gtest/gtest.h>

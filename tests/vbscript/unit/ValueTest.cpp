@@ -1,8 +1,8 @@
 // Values, texts and arrays as the rest of the engine relies on them.
-#include "platform/vbscript/Value.h"
+#include "platform/vbscript/value/Value.h"
 
-#include "platform/vbscript/Array.h"
-#include "platform/vbscript/Memory.h"
+#include "platform/vbscript/value/Array.h"
+#include "platform/vbscript/value/Memory.h"
 
 #include <gtest/gtest.h>
 

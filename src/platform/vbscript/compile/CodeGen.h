@@ -1,0 +1,202 @@
+// Inside the compiler: what is known about a whole text (UnitScope) and the making of one procedure's code (CodeGen).
+#pragma once
+
+#include "platform/vbscript/compile/Compiler.h"
+#include "platform/vbscript/value/Library.h"
+
+#include <optional>
+#include <string_view>
+#include <unordered_map>
+#include <unordered_set>
+#include <vector>
+
+namespace vbs {
+
+// The names that have syntax of their own behind them.
+enum class Special : std::uint8_t { None, Execute, ExecuteGlobal, Eval, GetRef };
+
+// What a name stands for at some place.
+struct Resolved {
+    enum class Kind : std::uint8_t {
+        Variable,  // operand
+        Constant,  // operand; may not be assigned
+        Callable,  // global slot: procedure or class
+        OwnMember, // of the class around: member
+        Intrinsic, // builtin
+        Special,   // special
+        Unknown,   // global slot that may be filled while the script runs
+    };
+    Kind kind = Kind::Unknown;
+    Operand operand = 0;
+    bool mayRefer = false; // the register may hold a reference to a variable elsewhere
+    std::uint32_t slot = 0;
+    const ProcedureDecl* procedure = nullptr; // of Callable, where it is declared in this text
+    const ClassMember* member = nullptr;
+    const Builtin* builtin = nullptr;
+    Special special = Special::None;
+};
+
+class UnitScope {
+public:
+    UnitScope(const Ast& ast, SymbolTable& symbols, Globals& globals, const Library& library, Unit& unit);
+
+    Resolved resolve(Symbol symbol);
+    // The name will be a global variable because the main text assigns it.
+    void makeImplicit(Symbol symbol);
+    // Whether a call may assign the parameter's variable.
+    bool writesParameter(const ProcedureDecl& procedure, std::size_t index);
+
+    const Ast& ast;
+    SymbolTable& symbols;
+    Globals& globals;
+    const Library& library;
+    Unit& unit;
+
+private:
+    bool mayWriteArgument(const ProcedureDecl& caller, std::size_t callerIndex, const Passed& passed);
+
+    std::unordered_map<Symbol, const ProcedureDecl*> m_procedures;
+    std::unordered_set<Symbol> m_classes;
+    std::unordered_set<Symbol> m_variables;
+    std::unordered_set<Symbol> m_constants;
+    std::unordered_set<Symbol> m_implicit;
+};
+
+class CodeGen {
+public:
+    CodeGen(UnitScope& scope, const ProcedureDecl& decl, Procedure& procedure, const ScriptClass* owner);
+
+    // Names that come as references in the first registers (Execute in a procedure).
+    void addCaptured(Symbol name);
+    void generate();
+
+private:
+    struct Local {
+        Operand operand;
+        bool mayRefer;
+        bool constant;
+    };
+    using Label = std::vector<std::size_t>; // jumps that wait for their target
+
+    // registers and names
+    void layOut();
+    std::size_t newLocal(Symbol symbol, bool mayRefer, bool constant);
+    bool isMember(Symbol symbol) const;
+    void addImplicitLocals();
+    Resolved resolve(Symbol symbol);
+    Resolved resolveCallee(Symbol symbol);
+    Operand newTemporary();
+    Operand newHidden();
+    bool isTemporary(Operand o) const noexcept { return placeOf(o) == Place::Frame && indexOf(o) >= m_hiddenEnd; }
+    Operand constant(Value value);
+    Operand textConstant(Symbol symbol);
+    std::uint16_t site(Symbol symbol);
+
+    // emission
+    std::size_t emit(Instruction instruction);
+    std::size_t emitJump(Opcode op, Operand a, Operand b, Label& label);
+    void emitJumpTo(Opcode op, Operand a, Operand b, std::size_t target);
+    void bind(Label& label);
+    void patch(std::size_t at, std::size_t target);
+    void beginMark(Position at);
+    void endMark();
+    void raiseAtRun(ErrorNumber number, Symbol detail);
+    void deliver(Operand from, Operand to, Store store);
+
+    // expressions
+    Operand expr(const Expr* e);
+    void exprTo(const Expr* e, Operand to, Store store);
+    void literalTo(const Expr* e, Operand to, Store store);
+    void nameTo(const Expr* e, Operand to, Store store);
+    void binaryTo(const Expr* e, Operand to);
+    bool joinTo(const Expr* e, Operand to);
+    void memberTo(const Expr* e, Operand to, Store store);
+    void newTo(const Expr* e, Operand to, Store store);
+    Operand leftOperand(const Expr* left, const Expr* right);
+    bool mayChange(const Expr* variable, const Expr* by);
+    bool runsUserCode(const Expr* e);
+    bool passesName(const Expr* e, Symbol symbol);
+    std::optional<Operand> plainVariable(const Expr* e);
+    Operand withObject();
+    void jumpUnless(const Expr* condition, Label& label);
+    void jumpIfTo(const Expr* condition, std::size_t target);
+    void jumpUnlessTo(const Expr* condition, std::size_t target);
+
+    // calls
+    void callTo(const Expr* e, Operand to, Store store);
+    void callNameTo(const Expr* e, const Resolved& callee, Operand to, Store store);
+    void indexTo(Operand base, const std::vector<Expr*>& args, Operand to, Store store);
+    void intrinsicTo(const Expr* e, const Builtin& builtin, Operand to, Store store);
+    void specialTo(const Expr* e, Special special, Operand to, Store store);
+    void callMemberTo(const Expr* e, const Expr* callee, Operand to, Store store);
+    void callSelfTo(const Procedure* procedure, const std::vector<Expr*>& args, Operand to, Store store);
+    void ownMemberTo(const ClassMember& member, const std::vector<Expr*>& args, Operand to, Store store);
+    struct CopyBack {
+        const Expr* element;
+        Operand holder;
+        Operand first;
+    };
+    struct Prepared {
+        Operand first = 0;
+        std::vector<CopyBack> copyBacks;
+    };
+    enum class Passing { Unknown, Known, Values };
+    Prepared arguments(const std::vector<Expr*>& args, const Resolved* callee, Passing passing);
+    void argumentTo(const Expr* e, Operand to, bool byValue);
+    bool passedByValue(const std::vector<Expr*>& args, std::size_t i, const Resolved* callee);
+    bool needsCopyBack(const Expr* e, std::size_t i, const Resolved* callee, Passing passing);
+    void copyBack(const Prepared& prepared);
+    Operand contiguous(const std::vector<Expr*>& args);
+    const ClassMember* ownMember(const Expr* e);
+    bool isNativeObject(const Expr* e);
+
+    // assignment
+    void assign(const Expr* target, const Expr* value, Store store);
+    void assignName(const Expr* target, const Expr* value, Store store);
+    void assignCall(const Expr* target, const Expr* value, Store store);
+    void assignMember(const Expr* object, Symbol symbol, const std::vector<Expr*>& args, const Expr* value,
+                      Store store);
+    void assignOwn(const ClassMember& member, const std::vector<Expr*>& args, const Expr* value, Store store);
+    void storeElement(Operand base, const std::vector<Expr*>& args, const Expr* value, Store store);
+    Operand elementBase(const Expr* base);
+    bool isOwnResult(Symbol symbol) const;
+    bool isFixedArray(Symbol symbol);
+
+    // statements
+    void block(const Block& statements);
+    void statement(const Stmt& s);
+    void ifStatement(const Stmt& s);
+    void selectStatement(const Stmt& s);
+    void forStatement(const Stmt& s);
+    void forEachStatement(const Stmt& s);
+    void whileStatement(const Stmt& s);
+    void doStatement(const Stmt& s);
+    void withStatement(const Stmt& s);
+    void exitStatement(const Stmt& s);
+    void reDimStatement(const Stmt& s);
+    void eraseStatement(const Stmt& s);
+    void prologue();
+
+    UnitScope& m_scope;
+    const ProcedureDecl& m_decl;
+    Procedure& m_procedure;
+    const ScriptClass* m_owner;
+    std::unordered_map<Symbol, Local> m_locals;
+    std::vector<Symbol> m_localOrder;
+    std::size_t m_nextLocal = 0;
+    std::size_t m_hidden = 0;
+    std::size_t m_hiddenEnd = 0;
+    std::size_t m_temporary = 0;
+    std::size_t m_highest = 0;
+    std::unordered_map<std::u16string, Operand> m_textConstants;
+    std::unordered_map<std::uint64_t, Operand> m_numberConstants;
+    std::unordered_map<Symbol, std::vector<std::uint16_t>> m_sites;
+    std::vector<Operand> m_withs;
+    std::vector<Label*> m_exitDo;
+    std::vector<Label*> m_exitFor;
+    Label m_exit;
+    std::vector<std::pair<Symbol, Operand>> m_localConstants;
+    bool m_markOpen = false;
+};
+
+} // namespace vbs

@@ -1,0 +1,191 @@
+// Code for assignments.
+#include "platform/vbscript/compile/CodeGen.h"
+
+#include <algorithm>
+
+namespace vbs {
+
+void CodeGen::assign(const Expr* target, const Expr* value, Store store) {
+    const std::size_t mark = m_temporary;
+    switch (target->kind) {
+    case Expr::Kind::Name:
+        assignName(target, value, store);
+        break;
+    case Expr::Kind::Call:
+        assignCall(target, value, store);
+        break;
+    case Expr::Kind::Member:
+        if (const ClassMember* own = ownMember(target)) {
+            assignOwn(*own, {}, value, store);
+        } else {
+            assignMember(target->a, target->symbol, {}, value, store);
+        }
+        break;
+    default:
+        throw CompileError{ErrorNumber::SyntaxError, target->at};
+    }
+    m_temporary = mark;
+}
+
+void CodeGen::assignName(const Expr* target, const Expr* value, Store store) {
+    const Resolved r = resolve(target->symbol);
+    switch (r.kind) {
+    case Resolved::Kind::Variable:
+        if (isFixedArray(target->symbol)) {
+            raiseAtRun(ErrorNumber::TypeMismatch, noSymbol);
+            return;
+        }
+        if (m_decl.kind == ProcedureDecl::Kind::Main && isOwnResult(target->symbol)) {
+            store = Store::Raw; // Eval answers objects as they are
+        }
+        if (r.mayRefer) {
+            const Operand from = expr(value);
+            emit(encode(store == Store::Set ? Opcode::StoreSet : Opcode::StoreLet, r.operand, from));
+        } else {
+            exprTo(value, r.operand, store);
+        }
+        return;
+    case Resolved::Kind::OwnMember:
+        assignOwn(*r.member, {}, value, store);
+        return;
+    case Resolved::Kind::Unknown:
+        if (m_scope.ast.optionExplicit) {
+            emit(encode(Opcode::CheckDefined, 0, 0, r.operand));
+        }
+        exprTo(value, r.operand, store);
+        return;
+    default:
+        raiseAtRun(ErrorNumber::IllegalAssignment, target->symbol);
+    }
+}
+
+// Whether the name was declared with bounds, here or, if it is a global, in the main text.
+bool CodeGen::isFixedArray(Symbol symbol) {
+    const auto fixed = [symbol](const Variable& v) { return v.name == symbol && !v.sizes.empty(); };
+    const bool local = m_locals.contains(symbol);
+    if (!local && isMember(symbol)) {
+        return std::any_of(m_owner->fields.begin(), m_owner->fields.end(), fixed);
+    }
+    const std::vector<Variable>& variables = local ? m_decl.variables : m_scope.ast.main.variables;
+    return std::any_of(variables.begin(), variables.end(), fixed);
+}
+
+// name(args) = value, object.name(args) = value, or something deeper
+void CodeGen::assignCall(const Expr* target, const Expr* value, Store store) {
+    const Expr* callee = target->a;
+    if (callee->kind == Expr::Kind::Member) {
+        if (const ClassMember* own = ownMember(callee)) {
+            assignOwn(*own, target->args, value, store);
+        } else {
+            assignMember(callee->a, callee->symbol, target->args, value, store);
+        }
+        return;
+    }
+    if (callee->kind != Expr::Kind::Name) {
+        storeElement(elementBase(callee), target->args, value, store);
+        return;
+    }
+    const Resolved r = resolve(callee->symbol);
+    switch (r.kind) {
+    case Resolved::Kind::Variable:
+    case Resolved::Kind::Constant:
+    case Resolved::Kind::Unknown:
+        if (r.kind == Resolved::Kind::Unknown && m_scope.ast.optionExplicit) {
+            emit(encode(Opcode::CheckDefined, 0, 0, r.operand));
+        }
+        storeElement(r.operand, target->args, value, store);
+        return;
+    case Resolved::Kind::OwnMember:
+        assignOwn(*r.member, target->args, value, store);
+        return;
+    case Resolved::Kind::Callable:
+        storeElement(expr(callee), target->args, value, store);
+        return;
+    default:
+        raiseAtRun(ErrorNumber::TypeMismatch, callee->symbol);
+    }
+}
+
+// Where the array or object behind a(1)(2)'s first part lives: arrays in arrays are written in place, through a
+// reference.
+Operand CodeGen::elementBase(const Expr* base) {
+    if (base->kind == Expr::Kind::Call && base->a->kind == Expr::Kind::Name && !base->args.empty()) {
+        const Resolved r = resolve(base->a->symbol);
+        if (r.kind == Resolved::Kind::Variable) {
+            const Operand to = newTemporary();
+            const Operand first = contiguous(base->args);
+            emit(encode(Opcode::ElementReference, to, r.operand, first, packed(base->args.size(), Store::Raw)));
+            return to;
+        }
+    }
+    if (base->kind == Expr::Kind::Call && base->a->kind == Expr::Kind::Call && !base->args.empty()) {
+        const Operand inner = elementBase(base->a);
+        const Operand to = newTemporary();
+        const Operand first = contiguous(base->args);
+        emit(encode(Opcode::ElementReference, to, inner, first, packed(base->args.size(), Store::Raw)));
+        return to;
+    }
+    return expr(base);
+}
+
+void CodeGen::storeElement(Operand base, const std::vector<Expr*>& args, const Expr* value, Store store) {
+    const bool missing =
+        std::any_of(args.begin(), args.end(), [](const Expr* e) { return e->kind == Expr::Kind::Missing; });
+    if (args.size() == 1 && !missing) {
+        const Operand index = leftOperand(args[0], value);
+        const Operand from = expr(value);
+        emit(encode(Opcode::SetIndex, base, index, from, packed(0, store)));
+    } else if (args.size() == 2 && !missing) {
+        const Operand i = leftOperand(args[0], value);
+        const Operand j = leftOperand(args[1], value);
+        const Operand from = expr(value);
+        emit(encode(Opcode::SetIndex2, base, i, j, packed(0, store)));
+        emit(from);
+    } else {
+        if (args.size() > 60) {
+            throw CompileError{ErrorNumber::OutOfMemoryCompiling, m_decl.at};
+        }
+        const Operand first = contiguous(args);
+        const Operand from = expr(value);
+        emit(encode(Opcode::SetIndexN, base, first, from, packed(args.size(), store)));
+    }
+}
+
+void CodeGen::assignMember(const Expr* object, Symbol symbol, const std::vector<Expr*>& args, const Expr* value,
+                           Store store) {
+    const Operand base = object != nullptr ? expr(object) : withObject();
+    if (args.empty()) {
+        const Operand from = expr(value);
+        emit(encode(Opcode::SetMember, base, from, site(symbol), packed(isTemporary(base) ? 1 : 0, store)));
+        return;
+    }
+    if (args.size() > 60) {
+        throw CompileError{ErrorNumber::OutOfMemoryCompiling, m_decl.at};
+    }
+    std::vector<Expr*> all(args);
+    all.push_back(const_cast<Expr*>(value));
+    const Operand first = contiguous(all);
+    emit(encode(Opcode::SetMemberN, base, first, site(symbol), packed(args.size(), store)));
+}
+
+void CodeGen::assignOwn(const ClassMember& member, const std::vector<Expr*>& args, const Expr* value, Store store) {
+    if (member.field >= 0) {
+        const Operand field = operandOf(Place::Field, static_cast<std::size_t>(member.field));
+        if (args.empty()) {
+            exprTo(value, field, store);
+        } else {
+            storeElement(field, args, value, store);
+        }
+        return;
+    }
+    const Procedure* procedure = store == Store::Set && member.set != nullptr ? member.set : member.let;
+    if (procedure == nullptr) {
+        raiseAtRun(member.set != nullptr ? ErrorNumber::ObjectRequired : ErrorNumber::IllegalAssignment, noSymbol);
+        return;
+    }
+    std::vector<Expr*> all(args);
+    all.push_back(const_cast<Expr*>(value));
+    callSelfTo(procedure, all, 0, Store::Discard);
+}
+
+} // namespace vbs

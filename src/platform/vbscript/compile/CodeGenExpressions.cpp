@@ -1,0 +1,340 @@
+// Code for expressions. expr() answers where a value can be read (a variable itself, a constant, or a temporary);
+// exprTo() puts it into a given place.
+#include "platform/vbscript/compile/CodeGen.h"
+#include "platform/vbscript/compile/ConstantFolding.h"
+#include "platform/vbscript/value/Operators.h"
+
+#include <algorithm>
+
+namespace vbs {
+
+namespace {
+
+Opcode opcodeOf(BinaryOp op) noexcept {
+    switch (op) {
+    case BinaryOp::Add:
+        return Opcode::Add;
+    case BinaryOp::Subtract:
+        return Opcode::Subtract;
+    case BinaryOp::Multiply:
+        return Opcode::Multiply;
+    case BinaryOp::Divide:
+        return Opcode::Divide;
+    case BinaryOp::IntegerDivide:
+        return Opcode::IntegerDivide;
+    case BinaryOp::Modulo:
+        return Opcode::Modulo;
+    case BinaryOp::Power:
+        return Opcode::Power;
+    case BinaryOp::Concatenate:
+        return Opcode::Concatenate;
+    case BinaryOp::Equal:
+        return Opcode::Equal;
+    case BinaryOp::NotEqual:
+        return Opcode::NotEqual;
+    case BinaryOp::Less:
+        return Opcode::Less;
+    case BinaryOp::Greater:
+        return Opcode::Greater;
+    case BinaryOp::LessEqual:
+        return Opcode::LessEqual;
+    case BinaryOp::GreaterEqual:
+        return Opcode::GreaterEqual;
+    case BinaryOp::Is:
+        return Opcode::Is;
+    case BinaryOp::And:
+        return Opcode::And;
+    case BinaryOp::Or:
+        return Opcode::Or;
+    case BinaryOp::Xor:
+        return Opcode::Xor;
+    case BinaryOp::Eqv:
+        return Opcode::Eqv;
+    default:
+        return Opcode::Imp;
+    }
+}
+
+// The fused compare-and-jump of a comparison, or nothing.
+std::optional<Opcode> jumpOf(const Expr& e, Opcode equal) noexcept {
+    if (e.kind != Expr::Kind::Binary || e.op < BinaryOp::Equal || e.op > BinaryOp::GreaterEqual) {
+        return std::nullopt;
+    }
+    const auto index = static_cast<std::uint8_t>(e.op) - static_cast<std::uint8_t>(BinaryOp::Equal);
+    return static_cast<Opcode>(static_cast<int>(equal) + index);
+}
+
+const Expr* withoutParentheses(const Expr* e) noexcept {
+    while (e->kind == Expr::Kind::Parentheses) {
+        e = e->a;
+    }
+    return e;
+}
+
+} // namespace
+
+// The operand of a variable or constant that can be read in place.
+std::optional<Operand> CodeGen::plainVariable(const Expr* e) {
+    if (e->kind != Expr::Kind::Name) {
+        return std::nullopt;
+    }
+    const Resolved r = resolve(e->symbol);
+    if (r.kind != Resolved::Kind::Variable && r.kind != Resolved::Kind::Constant) {
+        return std::nullopt;
+    }
+    return r.operand;
+}
+
+Operand CodeGen::expr(const Expr* e) {
+    e = withoutParentheses(e);
+    if (e->kind == Expr::Kind::Literal) {
+        return constant(e->value);
+    }
+    if (e->kind == Expr::Kind::Negate && e->a->kind == Expr::Kind::Literal && e->a->value.type <= Type::Single) {
+        return constant(foldConstant(*e));
+    }
+    if (const auto variable = plainVariable(e)) {
+        return *variable;
+    }
+    const Operand to = newTemporary();
+    exprTo(e, to, Store::Raw);
+    return to;
+}
+
+void CodeGen::exprTo(const Expr* e, Operand to, Store store) {
+    const std::size_t mark = m_temporary;
+    switch (e->kind) {
+    case Expr::Kind::Literal:
+    case Expr::Kind::Missing:
+        literalTo(e, to, store);
+        break;
+    case Expr::Kind::Name:
+        nameTo(e, to, store);
+        break;
+    case Expr::Kind::Me:
+        emit(encode(Opcode::Me, to, 0, 0, packed(0, store)));
+        break;
+    case Expr::Kind::Member:
+        memberTo(e, to, store);
+        break;
+    case Expr::Kind::Call:
+        callTo(e, to, store);
+        break;
+    case Expr::Kind::New:
+        newTo(e, to, store);
+        break;
+    case Expr::Kind::Parentheses:
+        exprTo(e->a, to, store);
+        break;
+    default:
+        if (store == Store::Set) {
+            const Operand value = newTemporary();
+            exprTo(e, value, Store::Raw);
+            deliver(value, to, store);
+        } else if (e->kind == Expr::Kind::Binary) {
+            binaryTo(e, to);
+        } else {
+            const Operand operand = expr(e->a);
+            const Opcode op = e->kind == Expr::Kind::Negate ? Opcode::Negate
+                              : e->kind == Expr::Kind::Plus ? Opcode::Plus
+                                                            : Opcode::Not;
+            emit(encode(op, to, operand));
+        }
+    }
+    m_temporary = mark;
+}
+
+void CodeGen::literalTo(const Expr* e, Operand to, Store store) {
+    deliver(constant(e->kind == Expr::Kind::Missing ? Value::missing() : e->value), to, store);
+}
+
+void CodeGen::nameTo(const Expr* e, Operand to, Store store) {
+    const Resolved r = resolve(e->symbol);
+    if (r.kind == Resolved::Kind::Variable || r.kind == Resolved::Kind::Constant) {
+        deliver(r.operand, to, store);
+    } else if (r.kind == Resolved::Kind::Unknown) {
+        if (m_scope.ast.optionExplicit) {
+            emit(encode(Opcode::CheckDefined, 0, 0, r.operand));
+        }
+        emit(encode(Opcode::GetName, to, newTemporary(), r.operand, packed(0, store)));
+    } else {
+        Expr call;
+        call.kind = Expr::Kind::Call;
+        callNameTo(&call, r, to, store);
+    }
+}
+
+Operand CodeGen::withObject() {
+    return m_withs.back();
+}
+
+void CodeGen::memberTo(const Expr* e, Operand to, Store store) {
+    if (const ClassMember* own = ownMember(e)) {
+        ownMemberTo(*own, {}, to, store);
+        return;
+    }
+    const Operand object = e->a != nullptr ? expr(e->a) : withObject();
+    emit(encode(Opcode::GetMember, to, object, site(e->symbol), packed(isTemporary(object) ? 1 : 0, store)));
+}
+
+void CodeGen::newTo(const Expr* e, Operand to, Store store) {
+    const std::u16string& name = m_scope.symbols.folded(e->symbol);
+    const Resolved r = m_scope.resolve(e->symbol);
+    if (r.kind == Resolved::Kind::Unknown && name == u"regexp") {
+        emit(encode(Opcode::NewNamed, to, 0, textConstant(e->symbol), packed(0, store)));
+    } else if (r.kind == Resolved::Kind::Callable || r.kind == Resolved::Kind::Unknown) {
+        if (r.kind == Resolved::Kind::Unknown && m_scope.ast.optionExplicit) {
+            emit(encode(Opcode::CheckDefined, 0, 0, r.operand));
+        }
+        emit(encode(Opcode::New, to, 0, r.operand, packed(0, store)));
+    } else {
+        raiseAtRun(ErrorNumber::ClassUndefined, e->symbol);
+    }
+}
+
+void CodeGen::binaryTo(const Expr* e, Operand to) {
+    if (e->op == BinaryOp::Concatenate && joinTo(e, to)) {
+        return;
+    }
+    // Rows like a + b + c lean to the left; they are walked here, not by recursion.
+    std::vector<const Expr*> row{e};
+    for (const Expr* left = e->a;
+         left->kind == Expr::Kind::Binary && (left->op != BinaryOp::Concatenate || row.back()->op == left->op);
+         left = left->a) {
+        row.push_back(left);
+    }
+    const std::size_t mark = m_temporary;
+    Operand left = leftOperand(row.back()->a, row.back()->b);
+    for (std::size_t i = row.size(); i-- > 0;) {
+        const Operand right = expr(row[i]->b);
+        if (i > 0) {
+            m_temporary = mark;
+        }
+        const Operand result = i > 0 ? newTemporary() : to;
+        emit(encode(opcodeOf(row[i]->op), result, left, right));
+        left = result;
+    }
+}
+
+// a & b & c ...: one instruction for the row; `x = x & ...` grows x in place.
+bool CodeGen::joinTo(const Expr* e, Operand to) {
+    std::vector<const Expr*> parts;
+    const Expr* first = e;
+    for (; first->kind == Expr::Kind::Binary && first->op == BinaryOp::Concatenate; first = first->a) {
+        parts.push_back(first->b);
+    }
+    parts.push_back(first);
+    std::reverse(parts.begin(), parts.end());
+    constexpr std::size_t most = 60;
+    if (parts.size() < 3 || parts.size() > most) {
+        return false;
+    }
+    const auto target = plainVariable(parts[0]);
+    const bool grows = target == to && std::none_of(parts.begin() + 1, parts.end(),
+                                                    [&](const Expr* part) { return mayChange(parts[0], part); });
+    const Operand start = operandOf(Place::Frame, m_temporary);
+    std::size_t count = 0;
+    for (const Expr* part : parts) {
+        if (!grows || part != parts[0]) {
+            const Operand place = newTemporary();
+            exprTo(part, place, Store::Raw);
+            ++count;
+        }
+    }
+    emit(encode(grows ? Opcode::Append : Opcode::Join, to, start, 0, packed(count, Store::Raw)));
+    return true;
+}
+
+// The left operand; a variable that evaluating the right side may change is copied first.
+Operand CodeGen::leftOperand(const Expr* left, const Expr* right) {
+    const Expr* plain = withoutParentheses(left);
+    if (plain->kind == Expr::Kind::Name && mayChange(plain, right)) {
+        const Operand copy = newTemporary();
+        exprTo(plain, copy, Store::Raw);
+        return copy;
+    }
+    return expr(left);
+}
+
+bool CodeGen::mayChange(const Expr* variable, const Expr* by) {
+    if (!by->calls) {
+        return false;
+    }
+    const Resolved r = resolve(variable->symbol);
+    if (r.kind == Resolved::Kind::Constant) {
+        return false;
+    }
+    if (r.kind == Resolved::Kind::Variable && placeOf(r.operand) == Place::Frame && !r.mayRefer &&
+        !m_decl.dynamicScope) {
+        return passesName(by, variable->symbol);
+    }
+    return runsUserCode(by);
+}
+
+// Whether code of the script may run while `e` is evaluated.
+bool CodeGen::runsUserCode(const Expr* e) {
+    if (e == nullptr || !e->calls) {
+        return false;
+    }
+    if (e->kind == Expr::Kind::Name) {
+        const Resolved r = resolve(e->symbol);
+        return r.kind != Resolved::Kind::Variable && r.kind != Resolved::Kind::Constant &&
+               r.kind != Resolved::Kind::Intrinsic;
+    }
+    if (e->kind == Expr::Kind::Member || e->kind == Expr::Kind::New) {
+        return true;
+    }
+    const auto runs = [this](const Expr* part) { return runsUserCode(part); };
+    return runs(e->a) || runs(e->b) || std::any_of(e->args.begin(), e->args.end(), runs);
+}
+
+// Whether `e` hands the variable itself to a call.
+bool CodeGen::passesName(const Expr* e, Symbol symbol) {
+    if (e == nullptr || !e->calls) {
+        return false;
+    }
+    const auto passes = [this, symbol](const Expr* part) { return passesName(part, symbol); };
+    for (const Expr* argument : e->args) {
+        if (argument->kind == Expr::Kind::Name && argument->symbol == symbol && runsUserCode(e->a)) {
+            return true;
+        }
+    }
+    return passes(e->a) || passes(e->b) || std::any_of(e->args.begin(), e->args.end(), passes);
+}
+
+void CodeGen::jumpUnless(const Expr* condition, Label& label) {
+    const std::size_t mark = m_temporary;
+    condition = withoutParentheses(condition);
+    if (const auto op = jumpOf(*condition, Opcode::UnlessEqual)) {
+        const Operand left = leftOperand(condition->a, condition->b);
+        const Operand right = expr(condition->b);
+        emitJump(*op, left, right, label);
+    } else {
+        const Operand value = expr(condition);
+        emitJump(Opcode::JumpUnless, value, 0, label);
+    }
+    m_temporary = mark;
+}
+
+void CodeGen::jumpIfTo(const Expr* condition, std::size_t target) {
+    const std::size_t mark = m_temporary;
+    condition = withoutParentheses(condition);
+    if (const auto op = jumpOf(*condition, Opcode::JumpEqual)) {
+        const Operand left = leftOperand(condition->a, condition->b);
+        const Operand right = expr(condition->b);
+        emitJumpTo(*op, left, right, target);
+    } else {
+        emitJumpTo(Opcode::JumpIf, expr(condition), 0, target);
+    }
+    m_temporary = mark;
+}
+
+void CodeGen::jumpUnlessTo(const Expr* condition, std::size_t target) {
+    Label label;
+    jumpUnless(condition, label);
+    for (const std::size_t at : label) {
+        patch(at, target);
+    }
+}
+
+} // namespace vbs

@@ -1,0 +1,300 @@
+// Code for statements.
+#include "platform/vbscript/compile/CodeGen.h"
+
+#include <algorithm>
+
+namespace vbs {
+
+void CodeGen::block(const Block& statements) {
+    for (const Stmt* s : statements) {
+        statement(*s);
+    }
+}
+
+void CodeGen::statement(const Stmt& s) {
+    const std::size_t temporaries = m_temporary;
+    beginMark(s.at);
+    switch (s.kind) {
+    case Stmt::Kind::Assign:
+        assign(s.target, s.value, Store::Let);
+        break;
+    case Stmt::Kind::Set:
+        assign(s.target, s.value, Store::Set);
+        break;
+    case Stmt::Kind::Call:
+        callTo(s.target, 0, Store::Discard);
+        break;
+    case Stmt::Kind::If:
+        ifStatement(s);
+        break;
+    case Stmt::Kind::Select:
+        selectStatement(s);
+        break;
+    case Stmt::Kind::For:
+        forStatement(s);
+        break;
+    case Stmt::Kind::ForEach:
+        forEachStatement(s);
+        break;
+    case Stmt::Kind::While:
+        whileStatement(s);
+        break;
+    case Stmt::Kind::Do:
+        doStatement(s);
+        break;
+    case Stmt::Kind::With:
+        withStatement(s);
+        break;
+    case Stmt::Kind::Exit:
+        exitStatement(s);
+        break;
+    case Stmt::Kind::ReDim:
+        reDimStatement(s);
+        break;
+    case Stmt::Kind::Erase:
+        eraseStatement(s);
+        break;
+    case Stmt::Kind::OnErrorResumeNext:
+        emit(encode(Opcode::OnError, 1));
+        break;
+    case Stmt::Kind::OnErrorGoTo0:
+        emit(encode(Opcode::OnError, 0));
+        break;
+    case Stmt::Kind::Const:
+    case Stmt::Kind::Dim:
+        break;
+    }
+    endMark();
+    m_temporary = temporaries;
+}
+
+void CodeGen::ifStatement(const Stmt& s) {
+    Label end;
+    for (std::size_t i = 0; i < s.branches.size(); ++i) {
+        const IfBranch& branch = s.branches[i];
+        if (i > 0) {
+            beginMark(branch.at);
+        }
+        Label next;
+        jumpUnless(branch.condition, next);
+        endMark();
+        block(branch.body);
+        if (i + 1 < s.branches.size() || s.hasOtherwise) {
+            emitJump(Opcode::Jump, 0, 0, end);
+        }
+        bind(next);
+    }
+    block(s.otherwise);
+    bind(end);
+}
+
+void CodeGen::selectStatement(const Stmt& s) {
+    const std::size_t hidden = m_hidden;
+    const Operand value = newHidden();
+    if (m_decl.resumesNext) {
+        emit(encode(Opcode::Clear, value));
+    }
+    exprTo(s.value, value, Store::Let);
+    const std::size_t header = m_procedure.marks.size() - 1;
+    endMark();
+    Label end;
+    for (const CaseBranch& branch : s.cases) {
+        beginMark(branch.at);
+        const std::size_t mark = m_procedure.marks.size() - 1;
+        Label body;
+        for (const Expr* candidate : branch.values) {
+            const std::size_t temporaries = m_temporary;
+            emitJump(Opcode::JumpEqual, value, expr(candidate), body);
+            m_temporary = temporaries;
+        }
+        Label next;
+        emitJump(Opcode::Jump, 0, 0, next);
+        bind(body);
+        endMark();
+        m_procedure.marks[mark].resume = static_cast<std::uint32_t>(m_procedure.code.size());
+        if (&branch == &s.cases.front()) {
+            m_procedure.marks[header].resume = static_cast<std::uint32_t>(m_procedure.code.size());
+        }
+        block(branch.body);
+        emitJump(Opcode::Jump, 0, 0, end);
+        bind(next);
+    }
+    block(s.otherwise);
+    bind(end);
+    emit(encode(Opcode::Clear, value));
+    m_hidden = hidden;
+}
+
+void CodeGen::forStatement(const Stmt& s) {
+    const std::size_t hiddenMark = m_hidden;
+    const Operand limit = newHidden();
+    const Operand step = newHidden();
+    if (m_decl.resumesNext) {
+        emit(encode(Opcode::Clear, limit)); // Next after a failed header finds a loop that was never set up
+        emit(encode(Opcode::Clear, step));
+    }
+    assign(s.target, s.value, Store::Let);
+    exprTo(s.limit, limit, Store::Let);
+    if (s.step != nullptr) {
+        exprTo(s.step, step, Store::Let);
+    } else {
+        emit(encode(Opcode::Move, step, constant(Value::ofInteger(1))));
+    }
+    const Resolved variable = resolve(s.target->symbol);
+    Label exit;
+    emitJump(Opcode::ForPrepare, variable.operand, limit, exit);
+    endMark();
+    m_exitFor.push_back(&exit);
+    const std::size_t body = m_procedure.code.size();
+    block(s.body);
+    m_exitFor.pop_back();
+    beginMark(s.closing);
+    emitJumpTo(Opcode::ForLoop, variable.operand, limit, body);
+    endMark();
+    bind(exit);
+    m_hidden = hiddenMark;
+}
+
+void CodeGen::forEachStatement(const Stmt& s) {
+    const std::size_t hiddenMark = m_hidden;
+    const Operand iterator = newHidden();
+    if (m_decl.resumesNext) {
+        emit(encode(Opcode::Clear, iterator));
+    }
+    const std::size_t temporaries = m_temporary;
+    const Operand collection = expr(s.value);
+    emit(encode(Opcode::EachPrepare, iterator, collection));
+    m_temporary = temporaries;
+    Label next;
+    emitJump(Opcode::Jump, 0, 0, next);
+    endMark();
+    Label exit;
+    m_exitFor.push_back(&exit);
+    const std::size_t body = m_procedure.code.size();
+    block(s.body);
+    m_exitFor.pop_back();
+    bind(next);
+    beginMark(s.closing);
+    const Resolved variable = resolve(s.target->symbol);
+    if (variable.kind != Resolved::Kind::Variable && variable.kind != Resolved::Kind::Unknown) {
+        raiseAtRun(ErrorNumber::IllegalAssignment, s.target->symbol);
+    }
+    emitJumpTo(Opcode::EachNext, variable.operand, iterator, body);
+    endMark();
+    bind(exit);
+    emit(encode(Opcode::Clear, iterator));
+    m_hidden = hiddenMark;
+}
+
+// The test stands below the body; after an error in it, Resume Next goes on inside the loop.
+void CodeGen::whileStatement(const Stmt& s) {
+    Label test;
+    emitJump(Opcode::Jump, 0, 0, test);
+    endMark();
+    const std::size_t body = m_procedure.code.size();
+    block(s.body);
+    bind(test);
+    beginMark(s.at);
+    jumpIfTo(s.value, body);
+    endMark();
+    m_procedure.marks.back().resume = static_cast<std::uint32_t>(body);
+}
+
+void CodeGen::doStatement(const Stmt& s) {
+    Label test;
+    Label exit;
+    const bool before = s.test == LoopTest::WhileBefore || s.test == LoopTest::UntilBefore;
+    if (before) {
+        emitJump(Opcode::Jump, 0, 0, test);
+    }
+    endMark();
+    m_exitDo.push_back(&exit);
+    const std::size_t body = m_procedure.code.size();
+    block(s.body);
+    m_exitDo.pop_back();
+    bind(test);
+    beginMark(before ? s.at : s.closing);
+    if (s.test == LoopTest::None) {
+        emitJumpTo(Opcode::Back, 0, 0, body);
+    } else if (s.test == LoopTest::WhileBefore || s.test == LoopTest::WhileAfter) {
+        jumpIfTo(s.value, body);
+    } else {
+        jumpUnlessTo(s.value, body);
+    }
+    endMark();
+    if (before) {
+        m_procedure.marks.back().resume = static_cast<std::uint32_t>(body);
+    }
+    bind(exit);
+}
+
+void CodeGen::withStatement(const Stmt& s) {
+    const std::size_t hiddenMark = m_hidden;
+    const Operand object = newHidden();
+    if (m_decl.resumesNext) {
+        emit(encode(Opcode::Clear, object));
+    }
+    exprTo(s.value, object, Store::Raw);
+    endMark();
+    m_withs.push_back(object);
+    block(s.body);
+    m_withs.pop_back();
+    emit(encode(Opcode::Clear, object));
+    m_hidden = hiddenMark;
+}
+
+void CodeGen::exitStatement(const Stmt& s) {
+    if (s.exit == ExitKind::Do) {
+        emitJump(Opcode::Jump, 0, 0, *m_exitDo.back());
+    } else if (s.exit == ExitKind::For) {
+        emitJump(Opcode::Jump, 0, 0, *m_exitFor.back());
+    } else {
+        emit(encode(Opcode::ClearError));
+        emitJump(Opcode::Jump, 0, 0, m_exit);
+    }
+}
+
+void CodeGen::reDimStatement(const Stmt& s) {
+    const Opcode op = s.preserve ? Opcode::ReDimPreserve : Opcode::ReDim;
+    for (const Expr* target : s.targets) {
+        const std::size_t temporaries = m_temporary;
+        const auto variable = target->a->kind == Expr::Kind::Name ? resolve(target->a->symbol) : Resolved{};
+        const bool named = target->a->kind == Expr::Kind::Name;
+        if (named && variable.kind != Resolved::Kind::Variable && variable.kind != Resolved::Kind::Unknown) {
+            raiseAtRun(ErrorNumber::IllegalAssignment, target->a->symbol);
+        } else if (named) {
+            if (variable.kind == Resolved::Kind::Unknown && m_scope.ast.optionExplicit) {
+                emit(encode(Opcode::CheckDefined, 0, 0, variable.operand));
+            }
+            const Operand first = contiguous(target->args);
+            emit(encode(op, variable.operand, first, 0, packed(target->args.size(), Store::Raw)));
+        } else {
+            // A member or element: take it out, change it, put it back.
+            const Operand copy = newTemporary();
+            exprTo(target->a, copy, Store::Raw);
+            const Operand first = contiguous(target->args);
+            emit(encode(op, copy, first, 0, packed(target->args.size(), Store::Raw)));
+            if (target->a->kind == Expr::Kind::Member) {
+                const Operand object = target->a->a != nullptr ? expr(target->a->a) : withObject();
+                emit(encode(Opcode::SetMember, object, copy, site(target->a->symbol),
+                            packed(isTemporary(object) ? 1 : 0, Store::Let)));
+            } else {
+                const Operand base = elementBase(target->a->a);
+                const Operand indexes = contiguous(target->a->args);
+                emit(encode(Opcode::SetIndexN, base, indexes, copy, packed(target->a->args.size(), Store::Let)));
+            }
+        }
+        m_temporary = temporaries;
+    }
+}
+
+void CodeGen::eraseStatement(const Stmt& s) {
+    for (const Expr* target : s.targets) {
+        const std::size_t temporaries = m_temporary;
+        const Operand operand = expr(target);
+        emit(encode(Opcode::Erase, operand));
+        m_temporary = temporaries;
+    }
+}
+
+} // namespace vbs

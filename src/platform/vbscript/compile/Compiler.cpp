@@ -1,0 +1,320 @@
+#include "platform/vbscript/compile/Compiler.h"
+
+#include "platform/vbscript/compile/CodeGen.h"
+#include "platform/vbscript/compile/ConstantFolding.h"
+#include "platform/vbscript/syntax/Parser.h"
+
+#include <algorithm>
+
+namespace vbs {
+
+UnitScope::UnitScope(const Ast& theAst, SymbolTable& theSymbols, Globals& theGlobals, const Library& theLibrary,
+                     Unit& theUnit)
+    : ast(theAst), symbols(theSymbols), globals(theGlobals), library(theLibrary), unit(theUnit) {
+    for (const ProcedureDecl* procedure : ast.procedures) {
+        m_procedures[procedure->name] = procedure;
+    }
+    for (const ClassDecl* decl : ast.classes) {
+        m_classes.insert(decl->name);
+    }
+    for (const Variable& variable : ast.main.variables) {
+        m_variables.insert(variable.name);
+    }
+    for (const ConstDecl& constant : ast.main.constants) {
+        m_constants.insert(constant.name);
+    }
+}
+
+void UnitScope::makeImplicit(Symbol symbol) {
+    if (m_implicit.insert(symbol).second) {
+        unit.implicit.push_back(globals.slotOf(symbol));
+    }
+}
+
+Resolved UnitScope::resolve(Symbol symbol) {
+    Resolved r;
+    const auto procedure = m_procedures.find(symbol);
+    const std::uint32_t existing = globals.find(symbol);
+    const GlobalKind kind = existing == Globals::none ? GlobalKind::Undefined : globals.kind(existing);
+    const bool own = m_variables.contains(symbol) || m_constants.contains(symbol) || m_implicit.contains(symbol);
+    if (procedure == m_procedures.end() && !m_classes.contains(symbol) && !own && kind == GlobalKind::Undefined) {
+        const std::u16string& name = symbols.folded(symbol);
+        r.special = name == u"execute"         ? Special::Execute
+                    : name == u"executeglobal" ? Special::ExecuteGlobal
+                    : name == u"eval"          ? Special::Eval
+                    : name == u"getref"        ? Special::GetRef
+                                               : Special::None;
+        r.builtin = r.special == Special::None ? library.find(name) : nullptr;
+        if (r.special != Special::None || r.builtin != nullptr) {
+            r.kind = r.special != Special::None ? Resolved::Kind::Special : Resolved::Kind::Intrinsic;
+            return r;
+        }
+    }
+    r.slot = globals.slotOf(symbol);
+    r.operand = operandOf(Place::Global, r.slot);
+    r.procedure = procedure != m_procedures.end() ? procedure->second : nullptr;
+    if (r.procedure != nullptr || m_classes.contains(symbol)) {
+        r.kind = Resolved::Kind::Callable;
+    } else if (m_constants.contains(symbol)) {
+        r.kind = Resolved::Kind::Constant;
+    } else if (own || kind != GlobalKind::Undefined) {
+        r.kind = own || kind == GlobalKind::Variable ? Resolved::Kind::Variable
+                 : kind == GlobalKind::Callable      ? Resolved::Kind::Callable
+                                                     : Resolved::Kind::Constant;
+    }
+    return r;
+}
+
+bool UnitScope::writesParameter(const ProcedureDecl& procedure, std::size_t index) {
+    const Symbol name = procedure.parameters[index].name;
+    const auto contains = [name](const std::vector<Symbol>& list) {
+        return std::find(list.begin(), list.end(), name) != list.end();
+    };
+    if (procedure.dynamicScope || contains(procedure.assigned) || contains(procedure.changed)) {
+        return true;
+    }
+    return std::any_of(procedure.passed.begin(), procedure.passed.end(), [&](const Passed& passed) {
+        return passed.name == name && mayWriteArgument(procedure, index, passed);
+    });
+}
+
+bool UnitScope::mayWriteArgument(const ProcedureDecl& caller, std::size_t callerIndex, const Passed& passed) {
+    if (passed.callee == noSymbol) {
+        return true;
+    }
+    const auto named = [&passed](const auto& entry) { return entry.name == passed.callee; };
+    if (std::any_of(caller.parameters.begin(), caller.parameters.end(), named) ||
+        std::any_of(caller.variables.begin(), caller.variables.end(), named)) {
+        return false; // an array that is indexed
+    }
+    const Resolved callee = resolve(passed.callee);
+    if (callee.kind == Resolved::Kind::Intrinsic || callee.kind == Resolved::Kind::Variable) {
+        return false;
+    }
+    if (callee.procedure == nullptr || passed.index >= callee.procedure->parameters.size()) {
+        return true;
+    }
+    const bool itself = callee.procedure == &caller && passed.index == callerIndex;
+    return !itself && !callee.procedure->parameters[passed.index].byValue;
+}
+
+namespace {
+
+void addMember(ScriptClass& cls, const ProcedureDecl& decl, const Procedure* procedure, const SymbolTable& symbols) {
+    const auto [entry, added] = cls.index.try_emplace(decl.name, static_cast<int>(cls.members.size()));
+    if (added) {
+        cls.members.emplace_back();
+        cls.members.back().isPrivate = decl.isPrivate;
+    }
+    ClassMember& member = cls.members[static_cast<std::size_t>(entry->second)];
+    using PK = ProcedureDecl::Kind;
+    (decl.kind == PK::PropertyGet   ? member.get
+     : decl.kind == PK::PropertyLet ? member.let
+     : decl.kind == PK::PropertySet ? member.set
+                                    : member.method) = procedure;
+    if (decl.isDefault) {
+        cls.defaultMember = entry->second;
+    }
+    const std::u16string& name = symbols.folded(decl.name);
+    if (name == u"class_initialize") {
+        cls.initialize = procedure;
+    } else if (name == u"class_terminate") {
+        cls.terminate = procedure;
+    }
+}
+
+// Odd numbers, so that no address of a native table can equal one.
+const void* freshShape(SymbolTable& symbols) noexcept {
+    return reinterpret_cast<const void*>((symbols.nextSerial() << 1) | 1U); // NOLINT(performance-no-int-to-ptr)
+}
+
+// Declares the class: its fields and, still without code, its procedures.
+std::unique_ptr<ScriptClass> declareClass(const ClassDecl& decl, Unit& unit, SymbolTable& symbols,
+                                          std::vector<std::pair<const ProcedureDecl*, Procedure*>>& bodies) {
+    auto cls = std::make_unique<ScriptClass>();
+    cls->unit = &unit;
+    cls->name = decl.name;
+    cls->spelling = symbols.name(decl.name);
+    cls->shape = freshShape(symbols);
+    cls->fields = decl.fields;
+    for (std::size_t i = 0; i < decl.fields.size(); ++i) {
+        cls->index[decl.fields[i].name] = static_cast<int>(cls->members.size());
+        ClassMember& member = cls->members.emplace_back();
+        member.field = static_cast<int>(i);
+        member.isPrivate = decl.fields[i].isPrivate;
+    }
+    for (const ProcedureDecl* body : decl.members) {
+        Procedure* procedure = unit.procedures.emplace_back(std::make_unique<Procedure>()).get();
+        procedure->owner = cls.get();
+        bodies.emplace_back(body, procedure);
+        addMember(*cls, *body, procedure, symbols);
+    }
+    return cls;
+}
+
+// What a unit defines among the globals.
+void declareGlobals(UnitScope& scope) {
+    const ProcedureDecl& main = scope.ast.main;
+    ConstantTable constants(main.constants);
+    for (const ConstDecl& decl : main.constants) {
+        scope.unit.constants.emplace_back(scope.globals.slotOf(decl.name), constants.valueOf(decl.name));
+    }
+    for (const Variable& variable : main.variables) {
+        scope.unit.variables.push_back(scope.globals.slotOf(variable.name));
+    }
+    if (scope.ast.optionExplicit) {
+        for (const Symbol symbol : main.redimmed) {
+            if (scope.resolve(symbol).kind == Resolved::Kind::Unknown) {
+                scope.makeImplicit(symbol);
+            }
+        }
+        return;
+    }
+    const auto makeImplicit = [&scope](Symbol symbol) {
+        if (scope.resolve(symbol).kind == Resolved::Kind::Unknown) {
+            scope.makeImplicit(symbol);
+        }
+    };
+    std::for_each(main.assigned.begin(), main.assigned.end(), makeImplicit);
+    for (const Passed& passed : main.passed) {
+        if (passed.callee == noSymbol || scope.resolve(passed.callee).kind != Resolved::Kind::Intrinsic) {
+            makeImplicit(passed.name);
+        }
+    }
+}
+
+void checkRedefinitions(const Ast& ast) {
+    std::unordered_set<Symbol> names;
+    for (const Variable& variable : ast.main.variables) {
+        names.insert(variable.name);
+    }
+    for (const ConstDecl& constant : ast.main.constants) {
+        names.insert(constant.name);
+    }
+    for (const ProcedureDecl* procedure : ast.procedures) {
+        if (names.contains(procedure->name)) {
+            throw CompileError{ErrorNumber::NameRedefined, procedure->at};
+        }
+    }
+    for (const ClassDecl* decl : ast.classes) {
+        if (!names.insert(decl->name).second) {
+            throw CompileError{ErrorNumber::NameRedefined, decl->at};
+        }
+    }
+}
+
+// Compiles everything but the main procedure.
+void compileDeclarations(UnitScope& scope) {
+    const Ast& ast = scope.ast;
+    Unit& unit = scope.unit;
+    checkRedefinitions(ast);
+    std::vector<std::pair<const ProcedureDecl*, Procedure*>> bodies;
+    for (const ClassDecl* decl : ast.classes) {
+        unit.classes.push_back(declareClass(*decl, unit, scope.symbols, bodies));
+        unit.callables.emplace_back(scope.globals.slotOf(decl->name), unit.classes.back().get());
+    }
+    for (const ProcedureDecl* decl : ast.procedures) {
+        Procedure* procedure = unit.procedures.emplace_back(std::make_unique<Procedure>()).get();
+        bodies.emplace_back(decl, procedure);
+        unit.callables.emplace_back(scope.globals.slotOf(decl->name), procedure);
+    }
+    for (const auto& [decl, procedure] : bodies) {
+        CodeGen(scope, *decl, *procedure, procedure->owner).generate();
+    }
+}
+
+} // namespace
+
+class Compiler::Slots {
+public:
+    explicit Slots(Globals& globals) noexcept : m_globals(globals), m_size(globals.size()) {}
+    ~Slots() {
+        if (!m_kept) {
+            m_globals.forgetFrom(m_size);
+        }
+    }
+    Slots(const Slots&) = delete;
+    Slots& operator=(const Slots&) = delete;
+
+    Unit* keepFor(std::unique_ptr<Unit> unit) noexcept {
+        m_kept = true;
+        return unit.release();
+    }
+
+private:
+    Globals& m_globals;
+    std::size_t m_size;
+    bool m_kept = false;
+};
+
+Unit* Compiler::compile(std::u16string_view text) {
+    Slots slots(m_globals);
+    return slots.keepFor(compileUnit(text));
+}
+
+void Compiler::check(std::u16string_view text) {
+    const Slots slots(m_globals);
+    compileUnit(text);
+}
+
+std::unique_ptr<Unit> Compiler::compileUnit(std::u16string_view text) {
+    Parser parser(text, m_symbols);
+    const std::unique_ptr<Ast> ast = parser.parse();
+    auto unit = std::make_unique<Unit>();
+    UnitScope scope(*ast, m_symbols, m_globals, m_library, *unit);
+    declareGlobals(scope);
+    compileDeclarations(scope);
+    CodeGen(scope, ast->main, unit->main, nullptr).generate();
+    return unit;
+}
+
+Unit* Compiler::compileLocal(std::u16string_view text, const LocalScope& localScope, std::vector<Symbol>& created) {
+    Slots slots(m_globals);
+    Parser parser(text, m_symbols);
+    const std::unique_ptr<Ast> ast = parser.parse();
+    auto unit = std::make_unique<Unit>();
+    UnitScope scope(*ast, m_symbols, m_globals, m_library, *unit);
+    compileDeclarations(scope);
+    CodeGen main(scope, ast->main, unit->main, localScope.owner);
+    for (const Symbol name : localScope.names) {
+        main.addCaptured(name);
+    }
+    const auto known = [&](Symbol name) {
+        return std::find(localScope.names.begin(), localScope.names.end(), name) != localScope.names.end() ||
+               std::find(created.begin(), created.end(), name) != created.end() ||
+               (localScope.owner != nullptr && localScope.owner->find(name) != nullptr);
+    };
+    for (const Variable& variable : ast->main.variables) {
+        if (!known(variable.name)) {
+            created.push_back(variable.name);
+        }
+    }
+    for (const Symbol name : ast->main.assigned) {
+        if (!known(name) && scope.resolve(name).kind == Resolved::Kind::Unknown) {
+            created.push_back(name);
+        }
+    }
+    for (const Symbol name : created) {
+        main.addCaptured(name);
+    }
+    main.generate();
+    return slots.keepFor(std::move(unit));
+}
+
+Unit* Compiler::compileExpression(std::u16string_view text, const LocalScope& localScope) {
+    Slots slots(m_globals);
+    const Symbol result = m_symbols.intern(u"(eval)");
+    Parser parser(text, m_symbols);
+    const std::unique_ptr<Ast> ast = parser.parseExpression(result);
+    ast->main.name = result;
+    auto unit = std::make_unique<Unit>();
+    UnitScope scope(*ast, m_symbols, m_globals, m_library, *unit);
+    CodeGen main(scope, ast->main, unit->main, localScope.owner);
+    for (const Symbol name : localScope.names) {
+        main.addCaptured(name);
+    }
+    main.generate();
+    return slots.keepFor(std::move(unit));
+}
+
+} // namespace vbs

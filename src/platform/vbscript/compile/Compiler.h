@@ -1,0 +1,49 @@
+// Text to Unit: parses, resolves names to slots and makes the code. Names of the engine's global scope are looked up
+// (and new ones get slots), but nothing there is defined before the unit runs.
+#pragma once
+
+#include "platform/vbscript/compile/Globals.h"
+#include "platform/vbscript/compile/Program.h"
+#include "platform/vbscript/syntax/Ast.h"
+#include "platform/vbscript/value/Library.h"
+
+#include <memory>
+#include <span>
+#include <string_view>
+
+namespace vbs {
+
+// The place from which Execute and Eval see their names: the locals of the procedure that runs them come as references
+// in the first registers of the unit's main procedure, in this order.
+struct LocalScope {
+    std::span<const Symbol> names;
+    const ScriptClass* owner = nullptr; // class of Me, if any
+};
+
+class Compiler {
+public:
+    Compiler(SymbolTable& symbols, Globals& globals, const Library& library) noexcept
+        : m_symbols(symbols), m_globals(globals), m_library(library) {}
+
+    // Throws CompileError; the unit has one reference, which is the caller's.
+    Unit* compile(std::u16string_view text);
+    // Throws what compile() would; nothing stays of the text.
+    void check(std::u16string_view text);
+    // Execute inside a procedure. `created` receives the names that the text makes in the local scope; their references
+    // follow those of `scope.names`.
+    Unit* compileLocal(std::u16string_view text, const LocalScope& scope, std::vector<Symbol>& created);
+    // Eval: the main procedure is a function that answers the value of the expression.
+    Unit* compileExpression(std::u16string_view text, const LocalScope& scope);
+
+private:
+    // Takes back the global slots of a text that did not compile.
+    class Slots;
+
+    std::unique_ptr<Unit> compileUnit(std::u16string_view text);
+
+    SymbolTable& m_symbols;
+    Globals& m_globals;
+    const Library& m_library;
+};
+
+} // namespace vbs

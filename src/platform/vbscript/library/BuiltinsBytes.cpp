@@ -1,0 +1,105 @@
+// The B variants: texts seen as rows of bytes, two a character. Places count from 1, lengths in bytes.
+#include "platform/vbscript/library/BuiltinArguments.h"
+
+#include <algorithm>
+
+namespace vbs {
+
+namespace {
+
+using Bytes = std::span<const std::uint8_t>;
+
+Value textOf(Bytes bytes) {
+    return Value::ofString(String::fromBytes(bytes));
+}
+
+Value ascB(Context& context, Arguments arguments) {
+    const String text = toString(context, arguments[0]);
+    if (text.bytes().empty()) {
+        raise(ErrorNumber::InvalidCall);
+    }
+    return Value::ofInteger(text.bytes().front());
+}
+
+Value chrB(Context& context, Arguments arguments) {
+    const std::int32_t code = longArgument(context, arguments[0]);
+    if (code < 0 || code > 255) {
+        raise(ErrorNumber::InvalidCall);
+    }
+    const auto byte = static_cast<std::uint8_t>(code);
+    return textOf({&byte, 1});
+}
+
+Value lenB(Context& context, Arguments arguments) {
+    if (arguments[0].isNull()) {
+        return Value::null();
+    }
+    return Value::ofLong(static_cast<std::int32_t>(toString(context, arguments[0]).bytes().size()));
+}
+
+Value leftB(Context& context, Arguments arguments) {
+    if (arguments[0].isNull()) {
+        return Value::null();
+    }
+    const String text = toString(context, arguments[0]);
+    return textOf(text.bytes().first(std::min(countArgument(context, arguments[1]), text.bytes().size())));
+}
+
+Value rightB(Context& context, Arguments arguments) {
+    if (arguments[0].isNull()) {
+        return Value::null();
+    }
+    const String text = toString(context, arguments[0]);
+    return textOf(text.bytes().last(std::min(countArgument(context, arguments[1]), text.bytes().size())));
+}
+
+Value midB(Context& context, Arguments arguments) {
+    if (arguments[0].isNull()) {
+        return Value::null();
+    }
+    const String text = toString(context, arguments[0]);
+    const std::int32_t start = longArgument(context, arguments[1]);
+    const Value* length = optional(arguments, 2);
+    const std::size_t wanted = length != nullptr ? countArgument(context, *length) : text.bytes().size();
+    if (start < 1) {
+        raise(ErrorNumber::InvalidCall);
+    }
+    const Bytes rest = text.bytes().subspan(std::min(static_cast<std::size_t>(start) - 1, text.bytes().size()));
+    return textOf(rest.first(std::min(wanted, rest.size())));
+}
+
+// InStrB([start, ]text, needle[, comparison]): bytes are compared as they are, whatever the comparison.
+Value inStrB(Context& context, Arguments arguments) {
+    const std::size_t first = arguments.size() > 2 ? 1 : 0;
+    const std::int32_t start = first == 1 ? longArgument(context, arguments, 0, 1) : 1;
+    comparisonArgument(context, arguments, 3);
+    if (start < 1) {
+        raise(ErrorNumber::InvalidCall);
+    }
+    if (arguments[first].isNull() || arguments[first + 1].isNull()) {
+        return Value::null();
+    }
+    const String text = toString(context, arguments[first]);
+    const String needle = toString(context, arguments[first + 1]);
+    const Bytes bytes = text.bytes();
+    const auto from = static_cast<std::size_t>(start) - 1;
+    if (from >= bytes.size()) {
+        return Value::ofLong(0);
+    }
+    const auto found = std::search(bytes.begin() + static_cast<std::ptrdiff_t>(from), bytes.end(),
+                                   needle.bytes().begin(), needle.bytes().end());
+    return Value::ofLong(found != bytes.end() ? static_cast<std::int32_t>(found - bytes.begin()) + 1 : 0);
+}
+
+constexpr Builtin table[] = {
+    {u"AscB", 1, 1, ascB}, {u"ChrB", 1, 1, chrB}, {u"InStrB", 2, 4, inStrB}, {u"LeftB", 2, 2, leftB},
+    {u"LenB", 1, 1, lenB}, {u"MidB", 2, 3, midB}, {u"RightB", 2, 2, rightB},
+};
+
+} // namespace
+
+std::span<const Builtin> byteBuiltins() {
+    return table;
+}
+
+} // namespace vbs

@@ -1,0 +1,151 @@
+#include "platform/vbscript/library/Dictionary.h"
+
+#include "platform/vbscript/value/ArrayEnumerator.h"
+#include "platform/vbscript/value/Context.h"
+#include "platform/vbscript/value/Convert.h"
+
+namespace vbs {
+
+namespace {
+
+// Keys() and Items() answer an array; Items(0) is its element.
+Value wholeOrElement(Context& context, Value list, Arguments arguments) {
+    if (arguments.empty()) {
+        return list;
+    }
+    const std::int32_t index = toLong(context, arguments[0]);
+    return list.array()->elements()[list.array()->offset({&index, 1})];
+}
+
+} // namespace
+
+Dictionary::Dictionary(Context& context) : m_context(&context) {
+    context.adopt(*this);
+}
+
+Dictionary::~Dictionary() {
+    if (m_context != nullptr) {
+        m_context->abandon(*this);
+    }
+}
+
+std::span<const Dictionary::Member> Dictionary::members() {
+    static constexpr Member table[] = {
+        {u"Item", &Dictionary::item, readWrite | Access::Set, 1, 1},
+        {u"Add", &Dictionary::add, readOnly, 2, 2},
+        {u"CompareMode", &Dictionary::compareMode, readWrite, 0, 0},
+        {u"Count", &Dictionary::count, readOnly, 0, 0},
+        {u"Exists", &Dictionary::exists, readOnly, 1, 1},
+        {u"Items", &Dictionary::items, readOnly, 0, 1},
+        {u"Key", &Dictionary::key, readWrite, 1, 1},
+        {u"Keys", &Dictionary::keys, readOnly, 0, 1},
+        {u"Remove", &Dictionary::remove, readOnly, 1, 1},
+        {u"RemoveAll", &Dictionary::removeAll, readOnly, 0, 0},
+    };
+    return table;
+}
+
+// Reading an item is what scripts do most, so it takes the shortest road.
+Value Dictionary::invoke(Context& context, int member, Access access, Arguments arguments) {
+    if (member == defaultMember && access == Access::Get && arguments.size() == 1) {
+        return m_table.findOrAdd(arguments[0].deref());
+    }
+    return NativeObject::invoke(context, member, access, arguments);
+}
+
+std::unique_ptr<Enumerator> Dictionary::enumerate(Context& /*context*/) {
+    return std::make_unique<ArrayEnumerator>(list(&KeyedTable::Entry::key));
+}
+
+void Dictionary::dropContents() noexcept {
+    m_context = nullptr;
+    m_table.clear();
+}
+
+Value Dictionary::item(Context& /*context*/, Access access, Arguments arguments) {
+    Value& found = m_table.findOrAdd(arguments[0].deref());
+    if (access == Access::Let || access == Access::Set) {
+        found = arguments[1].deref();
+        return {};
+    }
+    return found;
+}
+
+Value Dictionary::add(Context& /*context*/, Access /*access*/, Arguments arguments) {
+    if (!m_table.add(arguments[0].deref(), arguments[1].deref())) {
+        raise(ErrorNumber::KeyAlreadyExists);
+    }
+    return {};
+}
+
+// 0 binary, 1 text, above that a locale's own order (text as well). Only an empty dictionary changes it.
+Value Dictionary::compareMode(Context& context, Access access, Arguments arguments) {
+    if (access != Access::Let) {
+        return Value::ofLong(m_compareMode);
+    }
+    const std::int32_t mode = toLong(context, arguments[0]);
+    if (mode < 0 || m_table.count() > 0) {
+        raise(ErrorNumber::InvalidCall);
+    }
+    m_compareMode = mode;
+    m_table.setIgnoresCase(mode != 0);
+    return {};
+}
+
+Value Dictionary::count(Context& /*context*/, Access /*access*/, Arguments /*arguments*/) {
+    return Value::ofLong(static_cast<std::int32_t>(m_table.count()));
+}
+
+Value Dictionary::exists(Context& /*context*/, Access /*access*/, Arguments arguments) {
+    return Value::ofBoolean(m_table.find(arguments[0].deref()) != nullptr);
+}
+
+Value Dictionary::items(Context& context, Access /*access*/, Arguments arguments) {
+    return wholeOrElement(context, list(&KeyedTable::Entry::item), arguments);
+}
+
+// Key(old) = new; there is nothing to read.
+Value Dictionary::key(Context& /*context*/, Access access, Arguments arguments) {
+    if (access != Access::Let) {
+        raise(ErrorNumber::WrongArgumentCount);
+    }
+    const Value& old = arguments[0].deref();
+    const Value& fresh = arguments[1].deref();
+    if (m_table.find(old) == nullptr) {
+        raise(ErrorNumber::ElementNotFound);
+    }
+    if (m_table.find(fresh) != nullptr) {
+        raise(ErrorNumber::KeyAlreadyExists);
+    }
+    m_table.rename(old, fresh);
+    return {};
+}
+
+Value Dictionary::keys(Context& context, Access /*access*/, Arguments arguments) {
+    return wholeOrElement(context, list(&KeyedTable::Entry::key), arguments);
+}
+
+Value Dictionary::remove(Context& /*context*/, Access /*access*/, Arguments arguments) {
+    if (!m_table.remove(arguments[0].deref())) {
+        raise(ErrorNumber::ElementNotFound);
+    }
+    return {};
+}
+
+Value Dictionary::removeAll(Context& /*context*/, Access /*access*/, Arguments /*arguments*/) {
+    m_table.clear();
+    return {};
+}
+
+Value Dictionary::list(Value KeyedTable::Entry::*part) const {
+    Value result = Value::ofArray(ArrayBlock::create(m_table.count()));
+    Value* out = result.array()->elements();
+    for (const KeyedTable::Entry& entry : m_table.entries()) {
+        if (entry.alive) {
+            *out++ = entry.*part;
+        }
+    }
+    return result;
+}
+
+} // namespace vbs

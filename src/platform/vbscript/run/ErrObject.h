@@ -1,0 +1,33 @@
+// The script's Err: number, texts and Raise.
+#pragma once
+
+#include "platform/vbscript/value/Object.h"
+
+#include <span>
+
+namespace vbs {
+
+class Vm;
+
+class ErrObject final : public NativeObject<ErrObject> {
+public:
+    explicit ErrObject(Vm& vm) noexcept : m_vm(vm) {}
+    static std::span<const Member> members();
+    std::u16string_view typeName() const override { return u"Object"; }
+
+private:
+    Value number(Context& context, Access access, Arguments arguments);
+    Value source(Context& context, Access access, Arguments arguments);
+    Value description(Context& context, Access access, Arguments arguments);
+    Value helpFile(Context& context, Access access, Arguments arguments);
+    Value helpContext(Context& context, Access access, Arguments arguments);
+    Value clear(Context& context, Access access, Arguments arguments);
+    Value raiseError(Context& context, Access access, Arguments arguments);
+
+    Vm& m_vm;
+};
+
+// The script's own number for a system result code; other numbers stay as they are.
+std::int32_t scriptErrorNumber(std::int32_t code) noexcept;
+
+} // namespace vbs

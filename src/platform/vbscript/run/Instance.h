@@ -1,0 +1,71 @@
+// An object of a class that the script declares, what GetRef answers, and the iterator behind For Each.
+#pragma once
+
+#include "platform/vbscript/compile/Program.h"
+#include "platform/vbscript/value/Array.h"
+#include "platform/vbscript/value/Object.h"
+
+#include <memory>
+
+namespace vbs {
+
+class Vm;
+
+class Instance final : public Object {
+public:
+    Instance(Vm& vm, const ScriptClass& cls);
+    ~Instance() override;
+
+    std::u16string_view typeName() const override { return m_class.spelling; }
+    int resolve(std::u16string_view name) override;
+    Value invoke(Context& context, int member, Access access, Arguments arguments) override;
+    void dropContents() noexcept override;
+
+    const ScriptClass& cls() const noexcept { return m_class; }
+    Value* fields() noexcept { return m_fields.get(); }
+    bool terminates = false; // Class_Initialize was reached, so Class_Terminate will run
+
+protected:
+    void finalize() noexcept override;
+
+private:
+    Vm& m_vm;
+    const ScriptClass& m_class;
+    std::unique_ptr<Value[]> m_fields;
+};
+
+class ProcedureReference final : public Object {
+public:
+    ProcedureReference(Vm& vm, const Procedure& procedure);
+    ~ProcedureReference() override;
+
+    std::u16string_view typeName() const override { return u"Object"; }
+    int resolve(std::u16string_view /*name*/) override { return noMember; }
+    Value invoke(Context& context, int member, Access access, Arguments arguments) override;
+
+    const Procedure& procedure() const noexcept { return m_procedure; }
+
+private:
+    Vm& m_vm;
+    const Procedure& m_procedure;
+};
+
+class Iterator final : public Object {
+public:
+    explicit Iterator(const Value& array);
+    explicit Iterator(std::unique_ptr<Enumerator> enumerator);
+    ~Iterator() override;
+
+    std::u16string_view typeName() const override { return u"Iterator"; }
+    int resolve(std::u16string_view /*name*/) override { return noMember; }
+    Value invoke(Context& context, int member, Access access, Arguments arguments) override;
+
+    bool next(Context& context, Value& element);
+
+private:
+    Value m_array;
+    std::size_t m_index = 0;
+    std::unique_ptr<Enumerator> m_enumerator;
+};
+
+} // namespace vbs

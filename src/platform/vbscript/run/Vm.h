@@ -1,0 +1,198 @@
+// The machine: runs units on its own stack of registers and frames. Calls between script procedures do not use the
+// stack of C++; the machine enters itself again only where native code must have a result at once (Class_Initialize,
+// Class_Terminate, default members in the middle of an operator, Execute), and counts how deep.
+#pragma once
+
+#include "platform/vbscript/compile/Compiler.h"
+#include "platform/vbscript/compile/Globals.h"
+#include "platform/vbscript/compile/Program.h"
+#include "platform/vbscript/value/Context.h"
+#include "platform/vbscript/value/Library.h"
+
+#include <array>
+#include <csignal>
+#include <list>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <unordered_set>
+#include <vector>
+
+namespace vbs {
+
+class Instance;
+
+// State of the script's Err object.
+struct ErrorState {
+    std::int32_t number = 0;
+    String source;
+    String description;
+    String helpFile;
+    std::int32_t helpContext = 0;
+};
+
+class Vm : public Context {
+public:
+    // Both must outlive the machine.
+    Vm(Host& theHost, const Library& library);
+    ~Vm() override;
+
+    // Makes `object` a global name. Its members are found without regard to case.
+    void addObject(std::u16string_view name, Object& object);
+
+    // The unit of a text, compiled or from the cache. Throws CompileError.
+    Unit* unitOf(std::u16string_view text);
+    // Defines what the unit declares and runs its main procedure. Throws ScriptError; nothing of the run remains on the
+    // stack then.
+    void runUnit(Unit* unit);
+
+    // Context
+    Value defaultValue(const Value& object) override;
+    Value call(const Value& procedure, Arguments arguments) override;
+    void adopt(Object& object) override;
+    void abandon(Object& object) noexcept override;
+    void poll() override;
+    void spend(std::size_t work) override;
+    bool idle() const noexcept { return m_depth == 0; }
+    [[noreturn]] void interrupt() override;
+
+    ErrorState error;
+
+    double timeoutMilliseconds = 0; // 0: none
+    std::size_t memoryCeiling = std::size_t{1024} * 1024 * 1024;
+    volatile std::sig_atomic_t stopRequested = 0;
+
+    SymbolTable& symbols() noexcept { return m_symbols; }
+    Compiler& compiler() noexcept { return m_compiler; }
+
+    // For Instance: running its event procedures and members.
+    Value callProcedure(const Procedure& procedure, Instance* me, Arguments arguments);
+    Value invokeInstance(Instance& instance, const ClassMember& member, Access access, Arguments arguments);
+    void terminateInstance(Instance& instance, const Procedure& terminate) noexcept;
+    void retain(Unit* unit) noexcept { ++unit->references; }
+    void release(Unit* unit) noexcept;
+
+private:
+    static constexpr std::size_t stackSize = 1 << 20; // registers
+    static constexpr std::size_t maxFrames = 20000;
+    static constexpr int maxReentries = 120;
+    static constexpr int pollInterval = 10000;
+
+    struct Frame {
+        const Procedure* procedure;
+        const Instruction* pc;
+        Value* base;
+        Value* fields;
+        Instance* me;
+        Value* result;
+        Store store;
+        bool resumeNext;
+        std::unordered_map<Symbol, std::unique_ptr<Value>>* extra; // names made by Execute
+    };
+
+    // Dispatch
+    void dispatch(std::size_t floor);
+    void run(std::size_t floor);
+    bool recover(ScriptError& failure, std::size_t floor);
+    void unwindTo(std::size_t floor) noexcept;
+    void clearRegisters(const Frame& frame, std::size_t from) noexcept;
+    void noteError(const ScriptError& failure);
+    void locate(ScriptError& failure) const;
+    void pollSlow();
+
+    // Frames
+    void checkFrame(const Procedure* procedure, Value* base, std::size_t count);
+    Frame* pushFrame(const Procedure* procedure, Value* base, std::size_t count, Instance* me, Value* result,
+                     Store store);
+    void popFrame();
+    Value* freeRegisters() noexcept;
+    Frame& top() noexcept { return m_frames[m_depth - 1]; }
+    Value& at(Operand o) noexcept;
+    bool isTemporary(Operand o) noexcept;
+    void consume(Operand o) noexcept;
+    void consumeRow(Value* first, std::size_t count) noexcept;
+    void deliver(Value value, Value& to, Store store);
+    Value taken(Operand o);
+
+    // Slow paths of instructions
+    void binary(Instruction instruction);
+    void unary(Instruction instruction);
+    bool condition(Operand o);
+    bool comparison(Opcode op, Operand a, Operand b);
+    void letInto(Value& target, Operand from);
+    void setInto(Value& target, Operand from);
+    void concatenateInto(Instruction instruction);
+    void join(Instruction instruction, bool append);
+    bool forPrepare(Value& variable, Value* limits);
+    bool forStep(Value& variable, Value* limits);
+    void eachPrepare(Instruction instruction);
+    bool eachNext(Value& variable, Value& iterator);
+    void getIndex(Value& to, const Value& base, std::span<Value* const> indexes, Store store);
+    void setIndex(Value& base, std::span<Value* const> indexes, Value value, Store store);
+    void index(Instruction instruction);
+    void index2(Instruction instruction, Operand second);
+    void indexN(Instruction instruction);
+    void storeIndex(Instruction instruction);
+    void storeIndex2(Instruction instruction, Operand value);
+    void storeIndexN(Instruction instruction);
+    void elementReference(Instruction instruction);
+    std::size_t elementOffset(const ArrayBlock& array, std::span<Value* const> indexes);
+    void callOther(Instruction instruction);
+    void runIntrinsic(const Builtin& intrinsic, Value& argument, Value& to, Store store);
+    void runNative(Object& target, int member, Arguments arguments, Value& to, Store store);
+    void callIntrinsic1(Instruction instruction);
+    void callIntrinsic(Instruction instruction);
+    void getMember(Instruction instruction);
+    void callMember(Instruction instruction, Operand first);
+    void setMember(Instruction instruction);
+    void setMemberN(Instruction instruction);
+    void assignMember(Object* object, MemberSite& site, Value* first, std::size_t count, Store store);
+    const ClassMember& instanceMember(const Instance& instance, MemberSite& site) const;
+    int nativeMember(Object& object, MemberSite& site) const;
+    void getName(Instruction instruction);
+    void makeNew(Instruction instruction);
+    void makeNamed(Instruction instruction);
+    void makeMe(Instruction instruction);
+    void redim(Instruction instruction, bool preserve);
+    void erase(Operand o);
+    void makeArray(Instruction instruction);
+    void executeText(Instruction instruction);
+    Value runLocalText(std::u16string_view text, bool expression);
+    void getRef(Instruction instruction);
+    void onError(bool resumeNext);
+    [[noreturn]] void raiseCompiled(Instruction instruction);
+    [[noreturn]] void raiseUndefined(std::size_t slot);
+
+    // Units
+    void bind(Unit* unit);
+    void define(std::uint32_t slot, GlobalKind kind, Value value);
+    void forgetCache(const Unit* except);
+    void trimCache();
+    void defineBuiltins();
+    void startClock();
+
+    const Library& m_library;
+    SymbolTable m_symbols;
+    Globals m_globals;
+    Compiler m_compiler;
+    Value* m_stack;
+    std::unique_ptr<Frame[]> m_frames;
+    std::size_t m_depth = 0;
+    int m_reentries = 0;
+    int m_budget = pollInterval;
+    double m_deadline = 0;
+    bool m_interrupted = false; // a time-out or stop that no On Error may catch
+    ErrorNumber m_interruption = ErrorNumber::None;
+
+    std::list<Unit*> m_recent; // most recently used first
+    std::unordered_map<std::u16string_view, std::list<Unit*>::iterator> m_cache;
+    bool m_cacheStale = false;
+    std::unordered_set<Symbol> m_assumedLocal;
+    std::vector<Unit*> m_retired;
+    std::unordered_map<std::uint32_t, Unit*> m_owners; // of global callables
+    std::unordered_set<Object*> m_adopted;
+    bool m_closing = false;
+};
+
+} // namespace vbs

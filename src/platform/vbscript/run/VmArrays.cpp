@@ -1,0 +1,293 @@
+// Arrays: reading and writing elements, ReDim, Erase.
+#include "platform/vbscript/run/Instance.h"
+#include "platform/vbscript/run/Vm.h"
+#include "platform/vbscript/value/Array.h"
+#include "platform/vbscript/value/Convert.h"
+
+#include <algorithm>
+#include <array>
+#include <limits>
+#include <utility>
+
+namespace vbs {
+
+namespace {
+
+constexpr std::size_t maxIndexes = 64;
+
+Operand operandA(Instruction i) noexcept {
+    return static_cast<Operand>(i >> 8);
+}
+Operand operandB(Instruction i) noexcept {
+    return static_cast<Operand>(i >> 24);
+}
+Operand operandC(Instruction i) noexcept {
+    return static_cast<Operand>(i >> 40);
+}
+std::size_t countOf(Instruction i) noexcept {
+    return (i >> 56) & 63;
+}
+Store storeOf(Instruction i) noexcept {
+    return static_cast<Store>(i >> 62);
+}
+
+// The values of a row, as the functions below want them.
+struct Row {
+    Row(Value* first, std::size_t n) : count(n) {
+        for (std::size_t i = 0; i < n; ++i) {
+            items[i] = first + i;
+        }
+    }
+    std::span<Value* const> span() const { return {items.data(), count}; }
+    std::array<Value*, maxIndexes> items;
+    std::size_t count;
+};
+
+// A share of the value, so that it stays while code of the script runs.
+Value shared(const Value& v) {
+    return v;
+}
+
+std::vector<Value> copied(std::span<Value* const> indexes) {
+    std::vector<Value> values;
+    values.reserve(indexes.size() + 1);
+    for (const Value* index : indexes) {
+        values.push_back(index->deref());
+    }
+    return values;
+}
+
+} // namespace
+
+std::size_t Vm::elementOffset(const ArrayBlock& array, std::span<Value* const> indexes) {
+    std::array<std::int32_t, maxIndexes> places{};
+    for (std::size_t i = 0; i < indexes.size(); ++i) {
+        places[i] = toLong(*this, *indexes[i]);
+    }
+    return array.offset({places.data(), indexes.size()});
+}
+
+// base(indexes) into `to`; of an object the default member with arguments.
+void Vm::getIndex(Value& to, const Value& base, std::span<Value* const> indexes, Store store) {
+    const Value& variable = base.deref();
+    if (variable.isArray()) {
+        const Value keep = shared(variable); // a default member of an index may change the variable
+        deliver(keep.array()->elements()[elementOffset(*keep.array(), indexes)], to, store);
+        return;
+    }
+    if (!variable.isObject()) {
+        raise(ErrorNumber::TypeMismatch);
+    }
+    if (variable.object() == nullptr) {
+        raise(ErrorNumber::ObjectNotSet);
+    }
+    const Value keep = Value::ofObject(variable.object());
+    if (indexes.size() == 1 && keep.object()->role == Object::Role::Native) {
+        Value argument = indexes[0]->deref();
+        deliver(keep.object()->invoke(*this, Object::defaultMember, Access::Get, {&argument, 1}), to, store);
+        return;
+    }
+    std::vector<Value> arguments = copied(indexes);
+    deliver(call(keep, arguments), to, store);
+}
+
+void Vm::setIndex(Value& base, std::span<Value* const> indexes, Value value, Store store) {
+    if (store == Store::Let && value.isObject()) {
+        value = defaultValue(value);
+    } else if (store == Store::Set && !value.isObject()) {
+        raise(ErrorNumber::ObjectRequired);
+    }
+    Value& variable = base.deref();
+    if (variable.isArray()) {
+        const std::size_t offset = elementOffset(*variable.array(), indexes);
+        if (!variable.isArray() || offset >= variable.array()->count()) {
+            raise(ErrorNumber::OutOfRange);
+        }
+        writableArray(variable).elements()[offset] = std::move(value);
+        return;
+    }
+    if (!variable.isObject()) {
+        raise(ErrorNumber::TypeMismatch);
+    }
+    if (variable.object() == nullptr) {
+        raise(ErrorNumber::ObjectNotSet);
+    }
+    const Value keep = Value::ofObject(variable.object());
+    const Access access = store == Store::Set ? Access::Set : Access::Let;
+    if (indexes.size() == 1 && keep.object()->role == Object::Role::Native) {
+        std::array<Value, 2> arguments{indexes[0]->deref(), std::move(value)};
+        keep.object()->invoke(*this, Object::defaultMember, access, arguments);
+        return;
+    }
+    std::vector<Value> arguments = copied(indexes);
+    arguments.push_back(std::move(value));
+    const int member = keep.object()->role == Object::Role::Instance
+                           ? static_cast<Instance*>(keep.object())->cls().defaultMember
+                           : Object::defaultMember;
+    keep.object()->invoke(*this, member, access, arguments);
+}
+
+void Vm::index(Instruction instruction) {
+    const Operand c = operandC(instruction);
+    Value* const at0[] = {&at(c)};
+    Value result;
+    getIndex(result, at(operandB(instruction)), at0, storeOf(instruction));
+    consume(c);
+    at(operandA(instruction)) = std::move(result);
+}
+
+void Vm::index2(Instruction instruction, Operand second) {
+    const Operand c = operandC(instruction);
+    Value* const places[] = {&at(c), &at(second)};
+    Value result;
+    getIndex(result, at(operandB(instruction)), places, storeOf(instruction));
+    consume(c);
+    consume(second);
+    at(operandA(instruction)) = std::move(result);
+}
+
+void Vm::indexN(Instruction instruction) {
+    const Operand b = operandB(instruction);
+    const Row row(&at(operandC(instruction)), countOf(instruction));
+    Value result;
+    getIndex(result, at(b), row.span(), storeOf(instruction));
+    consume(b);
+    consumeRow(&at(operandC(instruction)), row.count);
+    if (storeOf(instruction) != Store::Discard) {
+        at(operandA(instruction)) = std::move(result);
+    }
+}
+
+void Vm::storeIndex(Instruction instruction) {
+    const Operand a = operandA(instruction);
+    const Operand b = operandB(instruction);
+    Value* const places[] = {&at(b)};
+    setIndex(at(a), places, taken(operandC(instruction)), storeOf(instruction));
+    consume(b);
+    consume(a);
+}
+
+void Vm::storeIndex2(Instruction instruction, Operand value) {
+    const Operand a = operandA(instruction);
+    const Operand b = operandB(instruction);
+    const Operand c = operandC(instruction);
+    Value* const places[] = {&at(b), &at(c)};
+    setIndex(at(a), places, taken(value), storeOf(instruction));
+    consume(b);
+    consume(c);
+    consume(a);
+}
+
+// With Store::Discard: the way home of an element that went by reference; only arrays take it back.
+void Vm::storeIndexN(Instruction instruction) {
+    const Operand a = operandA(instruction);
+    const Row row(&at(operandB(instruction)), countOf(instruction));
+    Value value = taken(operandC(instruction));
+    const bool wayHome = storeOf(instruction) == Store::Discard;
+    if (!wayHome) {
+        setIndex(at(a), row.span(), std::move(value), storeOf(instruction));
+    } else if (at(a).deref().isArray()) {
+        setIndex(at(a), row.span(), std::move(value), Store::Raw);
+    }
+    consumeRow(&at(operandB(instruction)), row.count);
+    consume(a);
+}
+
+// A reference to an element that is an array itself, for writing into it. Other elements are handed over as values.
+void Vm::elementReference(Instruction instruction) {
+    Value& base = at(operandB(instruction)).deref();
+    const Row row(&at(operandC(instruction)), countOf(instruction));
+    Value result;
+    if (base.isArray()) {
+        const std::size_t offset = elementOffset(*base.array(), row.span());
+        result.type = Type::Reference;
+        result.target = &writableArray(base).elements()[offset];
+    } else {
+        getIndex(result, base, row.span(), Store::Raw);
+    }
+    consumeRow(&at(operandC(instruction)), row.count);
+    at(operandA(instruction)) = std::move(result);
+}
+
+namespace {
+
+void requireUnlocked(const Value& variable) {
+    if (variable.isArray() && (variable.array()->locks > 0 || variable.array()->fixed())) {
+        raise(ErrorNumber::ArrayLocked);
+    }
+}
+
+} // namespace
+
+void Vm::redim(Instruction instruction, bool preserve) {
+    Value& variable = at(operandA(instruction)).deref();
+    Value* first = &at(operandB(instruction));
+    const std::size_t count = countOf(instruction);
+    std::array<std::int32_t, maxIndexes> sizes{};
+    for (std::size_t i = 0; i < count; ++i) {
+        const std::int32_t bound = toLong(*this, first[i]);
+        if (bound < -1) {
+            raise(ErrorNumber::OutOfRange);
+        }
+        if (bound == std::numeric_limits<std::int32_t>::max()) {
+            raise(ErrorNumber::OutOfMemory);
+        }
+        sizes[i] = bound + 1;
+    }
+    consumeRow(first, count);
+    requireUnlocked(variable);
+    const std::span<const std::int32_t> bounds(sizes.data(), count);
+    if (!preserve || !variable.isArray() || variable.array()->dimensions() == 0) {
+        variable = Value::ofArray(ArrayBlock::create(bounds));
+        return;
+    }
+    ArrayBlock& array = writableArray(variable);
+    if (static_cast<std::size_t>(array.dimensions()) != count) {
+        raise(ErrorNumber::OutOfRange);
+    }
+    for (std::size_t i = 0; i + 1 < count; ++i) {
+        if (array.size(static_cast<int>(i)) != sizes[i]) {
+            raise(ErrorNumber::OutOfRange);
+        }
+    }
+    array.resizeLast(sizes[count - 1]);
+}
+
+// Erase: a fixed array gets Empty elements, a dynamic one loses its dimensions.
+void Vm::erase(Operand o) {
+    Value& variable = at(o).deref();
+    if (!variable.isArray()) {
+        raise(ErrorNumber::TypeMismatch);
+    }
+    if (variable.array()->locks > 0) {
+        raise(ErrorNumber::ArrayLocked);
+    }
+    if (variable.array()->fixed()) {
+        ArrayBlock& array = writableArray(variable);
+        std::for_each(array.elements(), array.elements() + array.count(), [](Value& element) { element.clear(); });
+    } else {
+        variable = Value::ofArray(ArrayBlock::create(std::span<const std::int32_t>{}));
+    }
+    consume(o);
+}
+
+void Vm::makeArray(Instruction instruction) {
+    Value& variable = at(operandA(instruction));
+    const std::vector<std::int32_t>& shape = top().procedure->shapes[operandC(instruction)];
+    const bool keep = (instruction >> 56) == 1;
+    if (keep && variable.isArray()) {
+        const ArrayBlock& array = *variable.array();
+        const bool same = shape.empty() ? !array.fixed()
+                                        : array.fixed() && static_cast<std::size_t>(array.dimensions()) == shape.size();
+        bool equal = same;
+        for (std::size_t i = 0; equal && i < shape.size(); ++i) {
+            equal = array.size(static_cast<int>(i)) == shape[i];
+        }
+        if (equal) {
+            return;
+        }
+    }
+    variable = Value::ofArray(ArrayBlock::create(shape, !shape.empty()));
+}
+
+} // namespace vbs

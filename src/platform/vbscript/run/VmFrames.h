@@ -1,0 +1,80 @@
+// The short ways into procedures, intrinsics and host objects, in line for the dispatch loop.
+#pragma once
+
+#include "platform/vbscript/run/Instance.h"
+#include "platform/vbscript/run/Vm.h"
+#include "platform/vbscript/value/Library.h"
+
+#include <utility>
+
+namespace vbs {
+
+// Copied by its two words alone.
+inline bool isPlain(const Value& v) noexcept {
+    return v.type < Type::Undefined;
+}
+
+inline void put(Value& to, Type type, std::int64_t n) noexcept {
+    if (to.isCounted()) [[unlikely]] {
+        to.clear();
+    }
+    to.type = type;
+    to.n = n;
+}
+
+// `base` holds `count` arguments already. Raises 450 or 28.
+inline Vm::Frame* Vm::pushFrame(const Procedure* procedure, Value* base, std::size_t count, Instance* me, Value* result,
+                                Store store) {
+    if (count != procedure->parameters || procedure->anyByValue || m_depth == maxFrames ||
+        base + procedure->registers > m_stack + stackSize) [[unlikely]] {
+        checkFrame(procedure, base, count);
+    }
+    for (Value* local = base + count; local < base + procedure->firstTemporary; ++local) {
+        local->type = Type::Empty;
+    }
+    Frame* frame = &m_frames[m_depth++];
+    frame->procedure = procedure;
+    frame->pc = procedure->code.data();
+    frame->base = base;
+    frame->me = me;
+    frame->result = result;
+    frame->store = store;
+    frame->resumeNext = false;
+    frame->extra = nullptr;
+    frame->fields = nullptr;
+    if (me != nullptr) {
+        ++me->references;
+        frame->fields = me->fields();
+    }
+    return frame;
+}
+
+inline void Vm::runIntrinsic(const Builtin& intrinsic, Value& argument, Value& to, Store store) {
+    Value result = intrinsic.function(*this, {&argument, 1});
+    if (isPlain(result) && store <= Store::Let) [[likely]] {
+        put(to, result.type, result.n);
+    } else {
+        deliver(std::move(result), to, store);
+    }
+}
+
+// A member of a host object; the arguments are used up.
+inline void Vm::runNative(Object& target, int member, Arguments arguments, Value& to, Store store) {
+    for (Value& argument : arguments) {
+        if (argument.type == Type::Reference) {
+            argument = Value(*argument.target);
+        }
+    }
+    const Value keep = Value::ofObject(&target);
+    Value result = target.invoke(*this, member, store == Store::Discard ? Access::Call : Access::Get, arguments);
+    for (Value& argument : arguments) {
+        argument.clear();
+    }
+    if (!isPlain(result)) [[unlikely]] {
+        deliver(std::move(result), to, store);
+    } else if (store != Store::Discard) {
+        put(to, result.type, result.n);
+    }
+}
+
+} // namespace vbs

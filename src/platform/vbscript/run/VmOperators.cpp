@@ -1,0 +1,369 @@
+// Operators, assignments and loops beyond what the dispatch loop does on the spot.
+#include "platform/vbscript/run/Instance.h"
+#include "platform/vbscript/run/Vm.h"
+#include "platform/vbscript/value/Array.h"
+#include "platform/vbscript/value/Convert.h"
+#include "platform/vbscript/value/Operators.h"
+
+#include <array>
+#include <utility>
+
+namespace vbs {
+
+namespace {
+
+Operand operandA(Instruction i) noexcept {
+    return static_cast<Operand>(i >> 8);
+}
+Operand operandB(Instruction i) noexcept {
+    return static_cast<Operand>(i >> 24);
+}
+Operand operandC(Instruction i) noexcept {
+    return static_cast<Operand>(i >> 40);
+}
+Opcode opcode(Instruction i) noexcept {
+    return static_cast<Opcode>(i & 0xff);
+}
+
+// Whether a comparison holds for that order; an unordered pair is merely not equal.
+bool holds(Opcode op, Ordering o) noexcept {
+    switch (op) {
+    case Opcode::Equal:
+        return o == Ordering::Equal;
+    case Opcode::NotEqual:
+        return o != Ordering::Equal && o != Ordering::Null;
+    case Opcode::Less:
+        return o == Ordering::Less;
+    case Opcode::Greater:
+        return o == Ordering::Greater;
+    case Opcode::LessEqual:
+        return o == Ordering::Less || o == Ordering::Equal;
+    default:
+        return o == Ordering::Greater || o == Ordering::Equal;
+    }
+}
+
+Literals literalsOf(Operand a, Operand b) noexcept {
+    return static_cast<Literals>((placeOf(a) == Place::Constant ? 1 : 0) | (placeOf(b) == Place::Constant ? 2 : 0));
+}
+
+// Grows a text in place; the value has the text again whatever happens.
+void appendTo(Value& target, std::u16string_view tail) {
+    String text = String::adopt(target.stringBlock());
+    target.type = Type::Empty;
+    const struct PutBack {
+        Value& target;
+        String& text;
+        ~PutBack() { target = Value::ofString(std::move(text)); }
+    } putBack{target, text};
+    text.append(tail);
+}
+
+} // namespace
+
+Value& Vm::at(Operand o) noexcept {
+    switch (placeOf(o)) {
+    case Place::Frame:
+        return top().base[indexOf(o)];
+    case Place::Global:
+        return m_globals.values()[indexOf(o)];
+    case Place::Constant:
+        return const_cast<Value&>(top().procedure->constants[indexOf(o)]);
+    default:
+        return top().fields[indexOf(o)];
+    }
+}
+
+bool Vm::isTemporary(Operand o) noexcept {
+    return placeOf(o) == Place::Frame && indexOf(o) >= top().procedure->firstTemporary;
+}
+
+// Gives up what a temporary held once it was read.
+void Vm::consume(Operand o) noexcept {
+    if (isTemporary(o)) {
+        at(o).clear();
+    }
+}
+
+void Vm::consumeRow(Value* first, std::size_t count) noexcept {
+    for (std::size_t i = 0; i < count; ++i) {
+        first[i].clear();
+    }
+}
+
+// The value of an operand: moved out of a temporary, copied from anything else. An undefined name reads as Empty.
+Value Vm::taken(Operand o) {
+    Value& v = at(o);
+    if (v.type == Type::Reference) {
+        return *v.target;
+    }
+    if (v.type == Type::Undefined) {
+        return {};
+    }
+    if (v.type == Type::Procedure) {
+        raise(ErrorNumber::TypeMismatch);
+    }
+    return isTemporary(o) ? std::move(v) : v;
+}
+
+void Vm::deliver(Value value, Value& to, Store store) {
+    if (store == Store::Let && value.isObject()) {
+        to = defaultValue(value);
+        return;
+    }
+    if (store == Store::Set && !value.isObject()) {
+        raise(ErrorNumber::ObjectRequired);
+    }
+    if (store == Store::Let && value.isArray() && value.array()->fixed()) {
+        value = Value::ofArray(value.array()->clone()); // the copy of a fixed array is a dynamic one
+    }
+    if (store != Store::Discard) {
+        to = std::move(value);
+    }
+}
+
+void Vm::letInto(Value& target, Operand from) {
+    deliver(taken(from), target, Store::Let);
+}
+
+void Vm::setInto(Value& target, Operand from) {
+    deliver(taken(from), target, Store::Set);
+}
+
+void Vm::binary(Instruction instruction) {
+    const Operand b = operandB(instruction);
+    const Operand c = operandC(instruction);
+    const Value& x = at(b).deref();
+    const Value& y = at(c).deref();
+    Value result;
+    const Opcode op = opcode(instruction);
+    switch (op) {
+    case Opcode::Add:
+        result = add(*this, x, y);
+        break;
+    case Opcode::Subtract:
+        result = subtract(*this, x, y);
+        break;
+    case Opcode::Multiply:
+        result = multiply(*this, x, y);
+        break;
+    case Opcode::Divide:
+        result = divide(*this, x, y);
+        break;
+    case Opcode::IntegerDivide:
+        result = integerDivide(*this, x, y);
+        break;
+    case Opcode::Modulo:
+        result = modulo(*this, x, y);
+        break;
+    case Opcode::Power:
+        result = power(*this, x, y);
+        break;
+    case Opcode::And:
+        result = logicalAnd(*this, x, y);
+        break;
+    case Opcode::Or:
+        result = logicalOr(*this, x, y);
+        break;
+    case Opcode::Xor:
+        result = logicalXor(*this, x, y);
+        break;
+    case Opcode::Eqv:
+        result = logicalEqv(*this, x, y);
+        break;
+    case Opcode::Imp:
+        result = logicalImp(*this, x, y);
+        break;
+    case Opcode::Is:
+        result = Value::ofBoolean(isSameObject(x, y));
+        break;
+    default: {
+        const Ordering order = compare(*this, x, y, literalsOf(b, c));
+        result = order == Ordering::Null ? Value::null() : Value::ofBoolean(holds(op, order));
+    }
+    }
+    consume(b);
+    consume(c);
+    at(operandA(instruction)) = std::move(result);
+}
+
+void Vm::unary(Instruction instruction) {
+    const Operand b = operandB(instruction);
+    const Value& x = at(b).deref();
+    Value result = opcode(instruction) == Opcode::Negate ? negate(*this, x)
+                   : opcode(instruction) == Opcode::Not  ? logicalNot(*this, x)
+                                                         : toNumber(*this, x);
+    consume(b);
+    at(operandA(instruction)) = std::move(result);
+}
+
+// Whether the operand counts as true; Null does not.
+bool Vm::condition(Operand o) {
+    const Value v = withoutObject(*this, at(o));
+    consume(o);
+    return !v.isNull() && toBoolean(*this, v);
+}
+
+bool Vm::comparison(Opcode op, Operand a, Operand b) {
+    const Value& x = at(a).deref();
+    const Value& y = at(b).deref();
+    bool result = false;
+    if (x.isString() && y.isString()) {
+        const bool equality = op == Opcode::Equal || op == Opcode::NotEqual;
+        if (equality) {
+            result = (x.counted == y.counted || x.text() == y.text()) == (op == Opcode::Equal);
+        } else {
+            const int order = x.text().compare(y.text());
+            result = holds(op, order < 0 ? Ordering::Less : order > 0 ? Ordering::Greater : Ordering::Equal);
+        }
+    } else {
+        result = holds(op, compare(*this, x, y, literalsOf(a, b)));
+    }
+    consume(a);
+    consume(b);
+    return result;
+}
+
+void Vm::concatenateInto(Instruction instruction) {
+    const Operand a = operandA(instruction);
+    const Operand b = operandB(instruction);
+    const Operand c = operandC(instruction);
+    Value& x = at(b).deref();
+    const Value& y = at(c).deref();
+    if (a == b && x.isString() && x.counted != nullptr && !x.hasOddByte() && !y.hasOddByte()) {
+        if (y.isString()) {
+            appendTo(x, y.text());
+        } else {
+            const Value tail = withoutObject(*this, y);
+            const String text = tail.isNull() ? String() : toString(*this, tail);
+            if (!x.isString()) {
+                x = concatenate(*this, x, Value::ofString(text)); // the default member changed the variable
+            } else {
+                appendTo(x, text.view());
+            }
+        }
+        consume(c);
+        return;
+    }
+    Value result = concatenate(*this, x, y);
+    consume(b);
+    consume(c);
+    at(a) = std::move(result);
+}
+
+// A row of texts made one; with `append` it goes onto the variable that takes the result.
+void Vm::join(Instruction instruction, bool append) {
+    Value* parts = &at(operandB(instruction));
+    const std::size_t count = (instruction >> 56) & 63;
+    bool allNull = true;
+    bool odd = false;
+    std::size_t length = 0;
+    for (std::size_t i = 0; i < count; ++i) {
+        odd = odd || parts[i].hasOddByte();
+        if (!parts[i].isString()) {
+            const Value plain = withoutObject(*this, parts[i]);
+            allNull = allNull && plain.isNull();
+            parts[i] = Value::ofString(plain.isNull() ? String() : toString(*this, plain));
+        } else {
+            allNull = false;
+        }
+        length += parts[i].text().size();
+    }
+    Value& target = at(operandA(instruction));
+    if (odd || (append && target.hasOddByte())) {
+        Value bytes = append ? target : Value::ofString(String());
+        for (std::size_t i = 0; i < count; ++i) {
+            bytes = concatenate(*this, bytes, parts[i]);
+        }
+        consumeRow(parts, count);
+        target = std::move(bytes);
+        return;
+    }
+    if (append) {
+        const Value plain = withoutObject(*this, target);
+        if (!(plain.isNull() && allNull)) {
+            if (!target.isString()) {
+                target = Value::ofString(plain.isNull() ? String() : toString(*this, plain));
+            }
+        }
+    }
+    Value result;
+    if (append && target.isString()) {
+        for (std::size_t i = 0; i < count; ++i) {
+            // While another name shares the text, `plain` is gone by now and only true shares count.
+            appendTo(target, parts[i].text());
+        }
+        consumeRow(parts, count);
+        return;
+    }
+    if (allNull) {
+        result = Value::null();
+    } else {
+        String text = String::uninitialized(length);
+        char16_t* out = length > 0 ? text.mutableData() : nullptr;
+        for (std::size_t i = 0; i < count; ++i) {
+            const std::u16string_view part = parts[i].text();
+            std::char_traits<char16_t>::copy(out, part.data(), part.size());
+            out += part.size();
+        }
+        result = Value::ofString(std::move(text));
+    }
+    consumeRow(parts, count);
+    target = std::move(result);
+}
+
+// Readies a For loop: numbers all, and whether its body runs at all.
+bool Vm::forPrepare(Value& variable, Value* limits) {
+    const auto numeric = [this](Value& v) {
+        v = toNumber(*this, v);
+        if (v.isNull()) {
+            raise(ErrorNumber::InvalidNull);
+        }
+    };
+    numeric(variable);
+    numeric(limits[0]);
+    numeric(limits[1]);
+    const bool upward = compare(*this, limits[1], Value::ofInteger(0)) != Ordering::Less;
+    const Ordering order = compare(*this, variable, limits[0]);
+    return order == Ordering::Equal || order == (upward ? Ordering::Less : Ordering::Greater);
+}
+
+bool Vm::forStep(Value& variable, Value* limits) {
+    if (limits[1].isEmpty()) {
+        raise(ErrorNumber::ForNotInitialized);
+    }
+    variable = add(*this, variable, limits[1]);
+    const bool upward = compare(*this, limits[1], Value::ofInteger(0)) != Ordering::Less;
+    const Ordering order = compare(*this, variable, limits[0]);
+    return order == Ordering::Equal || order == (upward ? Ordering::Less : Ordering::Greater);
+}
+
+void Vm::eachPrepare(Instruction instruction) {
+    const Value collection = taken(operandB(instruction));
+    Value iterator;
+    if (collection.isArray()) {
+        iterator = makeObject<Iterator>(collection).value();
+    } else if (collection.isObject()) {
+        if (collection.object() == nullptr) {
+            raise(ErrorNumber::ObjectNotSet);
+        }
+        iterator = makeObject<Iterator>(collection.object()->enumerate(*this)).value();
+    } else {
+        raise(ErrorNumber::NotACollection);
+    }
+    at(operandA(instruction)) = std::move(iterator);
+}
+
+bool Vm::eachNext(Value& variable, Value& iterator) {
+    if (!iterator.isObject()) {
+        raise(ErrorNumber::ForNotInitialized);
+    }
+    Value element;
+    if (!static_cast<Iterator*>(iterator.object())->next(*this, element)) {
+        return false;
+    }
+    variable = std::move(element);
+    return true;
+}
+
+} // namespace vbs

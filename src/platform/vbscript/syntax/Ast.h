@@ -1,0 +1,247 @@
+// The tree that the parser builds and the compiler reads. Nodes live in the Ast that owns them.
+#pragma once
+
+#include "platform/vbscript/value/Errors.h"
+#include "platform/vbscript/value/Memory.h"
+#include "platform/vbscript/value/Value.h"
+
+#include <cstdint>
+#include <deque>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <unordered_set>
+#include <vector>
+
+namespace vbs {
+
+// A name as number; equal for names that differ in case only.
+using Symbol = std::uint32_t;
+inline constexpr Symbol noSymbol = 0xffffffff;
+
+class SymbolTable {
+public:
+    Symbol intern(std::u16string_view name);
+    const std::u16string& name(Symbol s) const { return *m_spelling[s]; } // as first written
+    const std::u16string& folded(Symbol s) const { return *m_folded[s]; } // in small letters
+    // A number that was never given before.
+    std::uintptr_t nextSerial() noexcept { return ++m_serial; }
+
+private:
+    std::unordered_map<std::u16string, Symbol> m_index;
+    std::vector<const std::u16string*> m_folded;
+    std::vector<std::unique_ptr<std::u16string>> m_spelling;
+    std::uintptr_t m_serial = 0;
+};
+
+struct Position {
+    std::uint32_t line = 0; // from 1; 0 is nowhere
+    std::uint32_t column = 0;
+};
+
+// A compile error, thrown by parser and compiler.
+struct CompileError {
+    ErrorNumber number;
+    Position position;
+};
+
+enum class BinaryOp : std::uint8_t {
+    Add,
+    Subtract,
+    Multiply,
+    Divide,
+    IntegerDivide,
+    Modulo,
+    Power,
+    Concatenate,
+    Equal,
+    NotEqual,
+    Less,
+    Greater,
+    LessEqual,
+    GreaterEqual,
+    Is,
+    And,
+    Or,
+    Xor,
+    Eqv,
+    Imp,
+};
+
+struct Expr {
+    enum class Kind : std::uint8_t {
+        Literal, // value
+        Name,    // symbol
+        Me,
+        Member,      // a.symbol; a is null for the With object
+        Call,        // a(args): index, call or default member
+        New,         // symbol
+        Negate,      // a
+        Plus,        // a
+        Not,         // a
+        Binary,      // a op b
+        Parentheses, // (a): by value
+        Missing,     // an argument that was left out
+    };
+
+    Kind kind = Kind::Literal;
+    BinaryOp op = BinaryOp::Add;
+    bool calls = false;       // evaluating it may run code of the user
+    std::uint16_t height = 1; // of the tree
+    Symbol symbol = noSymbol;
+    Position at;
+    Expr* a = nullptr;
+    Expr* b = nullptr;
+    std::vector<Expr*> args;
+    Value value;
+};
+
+struct Stmt;
+using Block = std::vector<Stmt*>;
+
+struct Variable {
+    Symbol name = noSymbol;
+    Position at;
+    bool array = false;              // written with parentheses
+    std::vector<std::int32_t> sizes; // of a fixed array
+    bool isPrivate = false;          // class members
+};
+
+struct CaseBranch {
+    Position at;
+    std::vector<Expr*> values;
+    Block body;
+};
+
+struct IfBranch {
+    Position at;
+    Expr* condition = nullptr;
+    Block body;
+};
+
+enum class LoopTest : std::uint8_t { None, WhileBefore, UntilBefore, WhileAfter, UntilAfter };
+enum class ExitKind : std::uint8_t { Do, For, Sub, Function, Property };
+
+struct Stmt {
+    enum class Kind : std::uint8_t {
+        Assign,  // target = value
+        Set,     // Set target = value
+        Call,    // target: the call as expression
+        If,      // branches, otherwise
+        Select,  // value, cases, otherwise
+        For,     // target = value To limit Step step, body
+        ForEach, // target In value, body
+        While,   // value, body
+        Do,      // test, value, body
+        With,    // value, body
+        Exit,    // exit
+        ReDim,   // targets as Call expressions, preserve
+        Erase,   // targets
+        Const,   // constants (kept for the line table only)
+        OnErrorResumeNext,
+        OnErrorGoTo0,
+        Dim, // sets no more than a line mark
+    };
+
+    Kind kind = Kind::Call;
+    Position at;
+    Expr* target = nullptr;
+    Expr* value = nullptr;
+    Expr* limit = nullptr;
+    Expr* step = nullptr;
+    LoopTest test = LoopTest::None;
+    ExitKind exit = ExitKind::Do;
+    bool preserve = false;
+    Position closing; // of Next, Loop, Wend
+    std::vector<Expr*> targets;
+    std::vector<IfBranch> branches;
+    std::vector<CaseBranch> cases;
+    bool hasOtherwise = false;
+    Block body;
+    Block otherwise;
+};
+
+struct Parameter {
+    Symbol name = noSymbol;
+    bool byValue = false;
+};
+
+struct ConstDecl {
+    Symbol name = noSymbol;
+    Expr* value = nullptr;
+    Position at;
+};
+
+// A name handed to a call as argument number `index`; `callee` is noSymbol when the procedure is not named alone.
+struct Passed {
+    Symbol name;
+    Symbol callee;
+    std::size_t index;
+};
+
+struct ProcedureDecl {
+    enum class Kind : std::uint8_t { Sub, Function, PropertyGet, PropertyLet, PropertySet, Main };
+    Kind kind = Kind::Sub;
+    Symbol name = noSymbol;
+    Position at{1, 1}; // of the main text: its start
+    bool isPrivate = false;
+    bool isDefault = false;
+    std::vector<Parameter> parameters;
+    std::vector<Variable> variables;
+    std::vector<ConstDecl> constants;
+    std::unordered_set<Symbol> declared; // names of variables and constants
+    std::vector<Symbol> assigned;        // names assigned without regard to where they are declared
+    std::vector<Symbol> redimmed;        // names that a ReDim would declare
+    std::vector<Symbol> changed;         // names whose elements are assigned, or that ReDim and Erase act on
+    std::vector<Passed> passed;          // names that stand alone as arguments
+    std::vector<Symbol> mentioned;       // every name
+    std::vector<Symbol> called;          // names that are called or indexed
+    bool resumesNext = false;            // contains On Error Resume Next
+    std::uint32_t hiddenSlots = 0;       // deepest nesting of statements, in slots for their bookkeeping
+    bool dynamicScope = false;           // uses Execute or Eval: names may come from text at run time
+    Block body;
+};
+
+struct ClassDecl {
+    Symbol name = noSymbol;
+    Position at;
+    std::vector<Variable> fields;
+    std::vector<ProcedureDecl*> members;
+    std::unordered_set<Symbol> fieldNames;
+    std::unordered_multimap<Symbol, const ProcedureDecl*> memberNames; // Get, Let and Set share one
+    bool hasDefault = false;
+};
+
+// One parsed text.
+struct Ast {
+    Ast() = default;
+    ~Ast() { releaseMemory(m_charged); }
+    Ast(const Ast&) = delete;
+    Ast& operator=(const Ast&) = delete;
+
+    bool optionExplicit = false;
+    ProcedureDecl main;
+    std::vector<ProcedureDecl*> procedures;
+    std::vector<ClassDecl*> classes;
+
+    Expr* expr(Expr::Kind kind, Position at);
+    Stmt* stmt(Stmt::Kind kind, Position at);
+    ProcedureDecl* procedure();
+    ClassDecl* classDecl();
+
+private:
+    // Trees count as memory of the script: error 7 when the ceiling is passed.
+    void charge(std::size_t bytes) {
+        chargeMemory(bytes);
+        m_charged += bytes;
+    }
+
+    std::size_t m_charged = 0;
+    std::deque<Expr> m_exprs;
+    std::deque<Stmt> m_stmts;
+    std::deque<ProcedureDecl> m_procedures;
+    std::deque<ClassDecl> m_classes;
+};
+
+} // namespace vbs

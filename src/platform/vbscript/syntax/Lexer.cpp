@@ -1,0 +1,432 @@
+#include "platform/vbscript/syntax/Lexer.h"
+
+#include "platform/vbscript/value/Dates.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <cstdlib>
+#include <string>
+
+namespace vbs {
+
+namespace {
+
+struct WordEntry {
+    std::u16string_view name;
+    Word word;
+};
+
+// Ascending by name.
+constexpr WordEntry words[] = {
+    {u"and", Word::And},
+    {u"byref", Word::ByRef},
+    {u"byval", Word::ByVal},
+    {u"call", Word::Call},
+    {u"case", Word::Case},
+    {u"class", Word::Class},
+    {u"const", Word::Const},
+    {u"default", Word::Default},
+    {u"dim", Word::Dim},
+    {u"do", Word::Do},
+    {u"each", Word::Each},
+    {u"else", Word::Else},
+    {u"elseif", Word::ElseIf},
+    {u"empty", Word::Empty},
+    {u"end", Word::End},
+    {u"eqv", Word::Eqv},
+    {u"erase", Word::Erase},
+    {u"error", Word::Error},
+    {u"exit", Word::Exit},
+    {u"explicit", Word::Explicit},
+    {u"false", Word::False},
+    {u"for", Word::For},
+    {u"function", Word::Function},
+    {u"get", Word::Get},
+    {u"goto", Word::GoTo},
+    {u"if", Word::If},
+    {u"imp", Word::Imp},
+    {u"in", Word::In},
+    {u"is", Word::Is},
+    {u"let", Word::Let},
+    {u"loop", Word::Loop},
+    {u"me", Word::Me},
+    {u"mod", Word::Mod},
+    {u"new", Word::New},
+    {u"next", Word::Next},
+    {u"not", Word::Not},
+    {u"nothing", Word::Nothing},
+    {u"null", Word::Null},
+    {u"on", Word::On},
+    {u"option", Word::Option},
+    {u"or", Word::Or},
+    {u"preserve", Word::Preserve},
+    {u"private", Word::Private},
+    {u"property", Word::Property},
+    {u"public", Word::Public},
+    {u"redim", Word::Redim},
+    {u"resume", Word::Resume},
+    {u"select", Word::Select},
+    {u"set", Word::Set},
+    {u"step", Word::Step},
+    {u"stop", Word::Stop},
+    {u"sub", Word::Sub},
+    {u"then", Word::Then},
+    {u"to", Word::To},
+    {u"true", Word::True},
+    {u"until", Word::Until},
+    {u"wend", Word::Wend},
+    {u"while", Word::While},
+    {u"with", Word::With},
+    {u"xor", Word::Xor},
+};
+
+constexpr std::size_t longestWord = 8;
+constexpr std::size_t longestName = 255;
+
+bool isDigit(char16_t c) noexcept {
+    return c >= u'0' && c <= u'9';
+}
+
+bool isBlank(char16_t c) noexcept {
+    return c == u' ' || c == u'\t' || c == u'\v' || c == u'\f' || c == 0xA0 || c == 0xFEFF;
+}
+
+bool isLineEnd(char16_t c) noexcept {
+    return c == u'\r' || c == u'\n';
+}
+
+int digitOf(char16_t c) noexcept {
+    return isDigit(c) ? c - u'0' : c >= u'a' && c <= u'f' ? c - u'a' + 10 : c >= u'A' && c <= u'F' ? c - u'A' + 10 : 99;
+}
+
+} // namespace
+
+bool isNameStart(char16_t c) noexcept {
+    return (c >= u'a' && c <= u'z') || (c >= u'A' && c <= u'Z') || (c >= 0x80 && toLower(c) != toUpper(c)) ||
+           c == 0xAA || c == 0xBA || c == 0xDF;
+}
+
+bool isNamePart(char16_t c) noexcept {
+    return isNameStart(c) || isDigit(c) || c == u'_';
+}
+
+Word wordOf(std::u16string_view name) noexcept {
+    if (name.size() > longestWord) {
+        return Word::None;
+    }
+    std::array<char16_t, longestWord> buffer{};
+    std::transform(name.begin(), name.end(), buffer.begin(), toLower);
+    const std::u16string_view low(buffer.data(), name.size());
+    const auto* found = std::lower_bound(std::begin(words), std::end(words), low,
+                                         [](const WordEntry& e, std::u16string_view n) { return e.name < n; });
+    return found != std::end(words) && found->name == low ? found->word : Word::None;
+}
+
+Token Lexer::next() {
+    Token token;
+    token.spaceBefore = skipBlanks();
+    token.offset = static_cast<std::uint32_t>(m_position);
+    token.line = m_line;
+    token.column = static_cast<std::uint32_t>(m_position - m_lineStart + 1);
+    if (atEnd()) {
+        return token;
+    }
+    scan(token);
+    token.length = static_cast<std::uint32_t>(m_position - token.offset);
+    token.spaceAfter = atEnd() || isBlank(at(0)) || isLineEnd(at(0));
+    m_afterDot = token.sign == Token::Sign::Dot;
+    m_afterOperand = token.kind == Token::Kind::Identifier || token.kind == Token::Kind::Number ||
+                     token.kind == Token::Kind::Text || token.kind == Token::Kind::Date ||
+                     token.sign == Token::Sign::Close;
+    return token;
+}
+
+bool Lexer::skipBlanks() {
+    const std::size_t start = m_position;
+    while (!atEnd() && (isBlank(at(0)) || skipContinuation())) {
+        if (isBlank(at(0))) {
+            ++m_position;
+        }
+    }
+    return m_position != start;
+}
+
+// An underscore, blanks and the end of the line: the statement goes on.
+bool Lexer::skipContinuation() {
+    if (at(0) != u'_') {
+        return false;
+    }
+    std::size_t ahead = 1;
+    while (isBlank(at(ahead))) {
+        ++ahead;
+    }
+    if (m_position + ahead < m_text.size() && !isLineEnd(at(ahead))) {
+        return false;
+    }
+    m_position += ahead;
+    if (!atEnd()) {
+        newLine();
+    }
+    return true;
+}
+
+void Lexer::newLine() {
+    m_position += at(0) == u'\r' && at(1) == u'\n' ? 2 : 1;
+    ++m_line;
+    m_lineStart = m_position;
+}
+
+void Lexer::bad(Token& token, ErrorNumber error) {
+    token.kind = Token::Kind::Bad;
+    token.error = error;
+}
+
+void Lexer::scan(Token& token) {
+    const char16_t c = at(0);
+    if (isLineEnd(c)) {
+        token.kind = Token::Kind::NewLine;
+        newLine();
+    } else if (c == u'\'') {
+        scanComment(token);
+    } else if (isNameStart(c)) {
+        scanName(token);
+    } else if (c == u'[') {
+        scanBracketed(token);
+    } else if (isDigit(c) || (c == u'.' && isDigit(at(1)))) {
+        scanDecimal(token);
+    } else if (c == u'"') {
+        scanText(token);
+    } else if (c == u'#') {
+        scanDate(token);
+    } else if (c != u'&' || !scanRadix(token)) {
+        scanOperator(token);
+    }
+}
+
+void Lexer::scanComment(Token& token) {
+    token.kind = Token::Kind::Comment;
+    while (!atEnd() && !isLineEnd(at(0))) {
+        ++m_position;
+    }
+}
+
+void Lexer::scanName(Token& token) {
+    const std::size_t start = m_position;
+    while (!atEnd() && isNamePart(at(0))) {
+        ++m_position;
+    }
+    token.text = m_text.substr(start, m_position - start);
+    token.kind = Token::Kind::Identifier;
+    if (token.text.size() > longestName) {
+        bad(token, ErrorNumber::IdentifierTooLong);
+    } else if (!m_afterDot) {
+        token.word = wordOf(token.text);
+        if (token.word != Word::None) {
+            token.kind = Token::Kind::Keyword;
+        } else if (equalNoCase(token.text, u"rem")) {
+            scanComment(token);
+        }
+    }
+}
+
+void Lexer::scanBracketed(Token& token) {
+    const std::size_t start = ++m_position;
+    while (!atEnd() && at(0) != u']' && !isLineEnd(at(0))) {
+        ++m_position;
+    }
+    token.text = m_text.substr(start, m_position - start);
+    token.kind = Token::Kind::Identifier;
+    if (at(0) != u']' || atEnd()) {
+        bad(token, ErrorNumber::ExpectedRightBracket);
+        return;
+    }
+    ++m_position;
+    if (token.text.size() > longestName) {
+        bad(token, ErrorNumber::IdentifierTooLong);
+    }
+}
+
+void Lexer::scanDecimal(Token& token) {
+    const std::size_t start = m_position;
+    bool whole = true;
+    while (isDigit(at(0))) {
+        ++m_position;
+    }
+    if (at(0) == u'.') {
+        whole = false;
+        ++m_position;
+        while (isDigit(at(0))) {
+            ++m_position;
+        }
+    }
+    if (at(0) == u'e' || at(0) == u'E') {
+        const std::size_t sign = at(1) == u'+' || at(1) == u'-' ? 1 : 0;
+        if (isDigit(at(1 + sign))) {
+            whole = false;
+            m_position += 1 + sign;
+            while (isDigit(at(0))) {
+                ++m_position;
+            }
+        }
+    }
+    const std::u16string_view written = m_text.substr(start, m_position - start);
+    const double number = std::strtod(std::string(written.begin(), written.end()).c_str(), nullptr);
+    token.kind = Token::Kind::Number;
+    token.value =
+        whole && number <= 2147483647.0 ? Value::ofWhole(static_cast<std::int64_t>(number)) : Value::ofDouble(number);
+    if (std::isinf(number)) {
+        bad(token, ErrorNumber::InvalidNumber);
+    }
+}
+
+// &Hff, &O77, &77 and the same with a closing & that makes the literal a Long. False if the & is an operator.
+bool Lexer::scanRadix(Token& token) {
+    const char16_t letter = toUpper(at(1));
+    const bool hex = letter == u'H' && digitOf(at(2)) < 16;
+    const bool lettered = hex || (letter == u'O' && digitOf(at(2)) < 8);
+    if (!lettered && (m_afterOperand || digitOf(at(1)) >= 8)) {
+        return false;
+    }
+    const std::size_t first = lettered ? 2 : 1;
+    const int radix = hex ? 16 : 8;
+    std::size_t ahead = first;
+    std::uint64_t bits = 0;
+    bool fits = true;
+    for (; digitOf(at(ahead)) < radix; ++ahead) {
+        bits = bits * static_cast<std::uint64_t>(radix) + static_cast<std::uint64_t>(digitOf(at(ahead)));
+        fits = fits && bits <= 0xFFFFFFFFU;
+        bits &= 0xFFFFFFFFFFU;
+    }
+    if (m_afterOperand && isNamePart(at(ahead))) {
+        return false; // text &hello
+    }
+    const bool longMark = at(ahead) == u'&';
+    m_position += ahead + (longMark ? 1 : 0);
+    token.kind = Token::Kind::Number;
+    if (!fits) {
+        bad(token, ErrorNumber::InvalidNumber);
+    } else if (longMark || bits > 0xFFFF) {
+        token.value = Value::ofLong(static_cast<std::int32_t>(static_cast<std::uint32_t>(bits)));
+    } else if (bits == 0x8000) {
+        token.value = Value::ofLong(-32768); // its magnitude does not fit an Integer
+    } else {
+        token.value = Value::ofInteger(static_cast<std::int16_t>(bits));
+    }
+    return true;
+}
+
+void Lexer::scanText(Token& token) {
+    token.kind = Token::Kind::Text;
+    const std::size_t start = ++m_position;
+    bool doubled = false;
+    while (true) {
+        if (atEnd() || isLineEnd(at(0))) {
+            bad(token, ErrorNumber::UnterminatedString);
+            return;
+        }
+        if (at(0) == u'"') {
+            if (at(1) != u'"') {
+                break;
+            }
+            doubled = true;
+            ++m_position;
+        }
+        ++m_position;
+    }
+    const std::u16string_view raw = m_text.substr(start, m_position - start);
+    ++m_position;
+    if (!doubled) {
+        token.value = Value::ofString(raw);
+        return;
+    }
+    std::u16string text;
+    for (std::size_t i = 0; i < raw.size(); ++i) {
+        text.push_back(raw[i]);
+        i += raw[i] == u'"' ? 1 : 0;
+    }
+    token.value = Value::ofString(std::u16string_view(text));
+}
+
+void Lexer::scanDate(Token& token) {
+    const std::size_t start = ++m_position;
+    while (!atEnd() && at(0) != u'#' && !isLineEnd(at(0))) {
+        ++m_position;
+    }
+    const std::u16string_view written = m_text.substr(start, m_position - start);
+    if (at(0) != u'#') {
+        bad(token, ErrorNumber::SyntaxError);
+        return;
+    }
+    ++m_position;
+    token.kind = Token::Kind::Date;
+    const auto date = parseDate(written, *builtinLocale(1033)); // literals are month/day/year everywhere
+    if (date) {
+        token.value = Value::ofDate(*date);
+    } else {
+        bad(token, ErrorNumber::SyntaxError);
+    }
+}
+
+void Lexer::scanOperator(Token& token) {
+    using enum Token::Sign;
+    const char16_t c = at(0);
+    const char16_t d = at(1);
+    token.kind = Token::Kind::Operator;
+    std::size_t length = 1;
+    switch (c) {
+    case u'=':
+        token.sign = d == u'<' ? LessEqual : d == u'>' ? GreaterEqual : Equal;
+        length = token.sign == Equal ? 1 : 2;
+        break;
+    case u'<':
+        token.sign = d == u'=' ? LessEqual : d == u'>' ? NotEqual : Less;
+        length = token.sign == Less ? 1 : 2;
+        break;
+    case u'>':
+        token.sign = d == u'=' ? GreaterEqual : d == u'<' ? NotEqual : Greater;
+        length = token.sign == Greater ? 1 : 2;
+        break;
+    case u'+':
+        token.sign = Plus;
+        break;
+    case u'-':
+        token.sign = Minus;
+        break;
+    case u'*':
+        token.sign = Times;
+        break;
+    case u'/':
+        token.sign = Slash;
+        break;
+    case u'\\':
+        token.sign = Backslash;
+        break;
+    case u'^':
+        token.sign = Caret;
+        break;
+    case u'&':
+        token.sign = Ampersand;
+        break;
+    case u'(':
+        token.sign = Open;
+        break;
+    case u')':
+        token.sign = Close;
+        break;
+    case u',':
+        token.sign = Comma;
+        break;
+    case u'.':
+        token.sign = Dot;
+        break;
+    case u':':
+        token.kind = Token::Kind::Colon;
+        break;
+    default:
+        bad(token, ErrorNumber::InvalidCharacter);
+    }
+    m_position += length;
+}
+
+} // namespace vbs

@@ -1,0 +1,170 @@
+// Cuts a script into tokens, one a call. Never fails: what is no token comes out as Kind::Bad with the number of the
+// compile error. The parser uses it, and so may an editor that colours text:
+//
+//   Lexer lexer(text);
+//   for (Token t = lexer.next(); t.kind != Token::Kind::End; t = lexer.next()) paint(t.offset, t.length, t.kind);
+#pragma once
+
+#include "platform/vbscript/value/Errors.h"
+#include "platform/vbscript/value/Value.h"
+
+#include <cstdint>
+#include <string_view>
+
+namespace vbs {
+
+// Reserved words. The ones from ByRef on are words only where the grammar asks for them, and names elsewhere.
+enum class Word : std::uint8_t {
+    None,
+    And,
+    Call,
+    Case,
+    Class,
+    Const,
+    Dim,
+    Do,
+    Each,
+    Else,
+    ElseIf,
+    Empty,
+    End,
+    Eqv,
+    Exit,
+    False,
+    For,
+    Function,
+    Get,
+    GoTo,
+    If,
+    Imp,
+    In,
+    Is,
+    Let,
+    Loop,
+    Me,
+    Mod,
+    New,
+    Next,
+    Not,
+    Nothing,
+    Null,
+    On,
+    Option,
+    Or,
+    Preserve,
+    Private,
+    Public,
+    Redim,
+    Resume,
+    Select,
+    Set,
+    Stop,
+    Sub,
+    Then,
+    To,
+    True,
+    Until,
+    Wend,
+    While,
+    With,
+    Xor,
+    ByRef,
+    ByVal,
+    Default,
+    Erase,
+    Error,
+    Explicit,
+    Property,
+    Step,
+};
+
+struct Token {
+    enum class Kind : std::uint8_t {
+        End, // of the text
+        NewLine,
+        Colon,
+        Comment,    // from ' or Rem to the end of the line
+        Identifier, // a name; [brackets] removed in `text`
+        Keyword,    // `word` tells which
+        Number,     // `value`
+        Text,       // `value`
+        Date,       // `value`
+        Operator,   // `sign` tells which
+        Bad,        // `error`
+    };
+    enum class Sign : std::uint8_t {
+        None,
+        Equal,
+        Less,
+        Greater,
+        LessEqual,
+        GreaterEqual,
+        NotEqual,
+        Plus,
+        Minus,
+        Times,
+        Slash,
+        Backslash,
+        Caret,
+        Ampersand,
+        Open,
+        Close,
+        Comma,
+        Dot,
+    };
+
+    Kind kind = Kind::End;
+    Word word = Word::None;
+    Sign sign = Sign::None;
+    bool spaceBefore = false;
+    bool spaceAfter = false;
+    ErrorNumber error = ErrorNumber::None;
+    std::uint32_t offset = 0; // code units from the start of the text
+    std::uint32_t length = 0;
+    std::uint32_t line = 1;   // from 1
+    std::uint32_t column = 1; // from 1
+    std::u16string_view text; // the name of an Identifier or Keyword as written
+    Value value;              // of literals
+};
+
+class Lexer {
+public:
+    // The text must outlive the lexer.
+    explicit Lexer(std::u16string_view text) noexcept : m_text(text) {}
+
+    Token next();
+
+private:
+    char16_t at(std::size_t ahead) const noexcept {
+        return m_position + ahead < m_text.size() ? m_text[m_position + ahead] : u'\0';
+    }
+    bool atEnd() const noexcept { return m_position >= m_text.size(); }
+    bool skipBlanks();
+    bool skipContinuation();
+    void newLine();
+    void scan(Token& token);
+    void scanComment(Token& token);
+    void scanName(Token& token);
+    void scanBracketed(Token& token);
+    void scanDecimal(Token& token);
+    bool scanRadix(Token& token);
+    void scanText(Token& token);
+    void scanDate(Token& token);
+    void scanOperator(Token& token);
+    static void bad(Token& token, ErrorNumber error);
+
+    std::u16string_view m_text;
+    std::size_t m_position = 0;
+    std::size_t m_lineStart = 0;
+    std::uint32_t m_line = 1;
+    bool m_afterDot = false;     // a keyword after a dot is a name
+    bool m_afterOperand = false; // an & after an operand joins texts
+};
+
+// The reserved word, or None.
+Word wordOf(std::u16string_view name) noexcept;
+
+bool isNameStart(char16_t c) noexcept;
+bool isNamePart(char16_t c) noexcept;
+
+} // namespace vbs

@@ -1,0 +1,326 @@
+// Declarations: variables, constants, procedures and classes.
+#include "platform/vbscript/syntax/Parser.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace vbs {
+
+namespace {
+
+constexpr std::size_t maxParameters = 60;
+
+} // namespace
+
+// text: { Option Explicit | declaration | statement }
+void Parser::parseTopLevel() {
+    skipSeparators();
+    while (is(Word::Option)) {
+        advance();
+        expect(Word::Explicit, ErrorNumber::SyntaxError);
+        m_ast->optionExplicit = true;
+        endStatement();
+        skipSeparators();
+    }
+    for (; m_token.kind != Kind::End; skipSeparators()) {
+        if (startsBlockEnd()) {
+            fail(is(Word::Loop)   ? ErrorNumber::LoopWithoutDo
+                 : is(Word::Next) ? ErrorNumber::UnexpectedNext
+                                  : ErrorNumber::ExpectedStatement);
+        }
+        if (parseDeclaration()) {
+            continue; // `End Sub x = 1` needs no separator either
+        }
+        if (Stmt* statement = parseStatement(); statement != nullptr) {
+            m_ast->main.body.push_back(statement);
+        }
+        endStatement();
+    }
+}
+
+bool Parser::parseDeclaration() {
+    if (is(Word::Sub) || is(Word::Function)) {
+        m_ast->procedures.push_back(parseProcedure(false, false, false));
+    } else if (is(Word::Class)) {
+        parseClass();
+    } else if (is(Word::Public) || is(Word::Private)) {
+        parseModified();
+    } else if (is(Word::Property) && m_token.kind == Kind::Keyword) {
+        const Lexer lexer = m_lexer;
+        const Token token = m_token;
+        advance();
+        const bool procedure = is(Word::Get) || is(Word::Let) || is(Word::Set);
+        m_lexer = lexer;
+        m_token = token;
+        if (procedure) {
+            fail(ErrorNumber::DefinedInsideClass);
+        }
+        return false;
+    } else {
+        return false;
+    }
+    return true;
+}
+
+// Public|Private (Sub ... | Function ... | Const ... | variables)
+void Parser::parseModified() {
+    const bool isPrivate = is(Word::Private);
+    advance();
+    const bool isDefault = is(Word::Default);
+    if (isDefault) {
+        fail(ErrorNumber::DefinedInsideClass);
+    }
+    if (is(Word::Sub) || is(Word::Function)) {
+        m_ast->procedures.push_back(parseProcedure(isPrivate, false, false));
+        return;
+    }
+    m_ast->main.body.push_back(accept(Word::Const) ? parseConst() : parseDim(isPrivate));
+    endStatement();
+}
+
+void Parser::declare(Symbol name, Position at) {
+    const auto named = [name](const Parameter& parameter) { return parameter.name == name; };
+    const bool parameter = std::any_of(m_procedure->parameters.begin(), m_procedure->parameters.end(), named);
+    if (parameter || !m_procedure->declared.insert(name).second) {
+        fail(ErrorNumber::NameRedefined, at);
+    }
+}
+
+// name [( [integer {, integer}] )]
+Variable Parser::parseVariable(bool isPrivate) {
+    Variable variable;
+    variable.at = here();
+    variable.isPrivate = isPrivate;
+    variable.name = takeName();
+    if (!accept(Sign::Open)) {
+        return variable;
+    }
+    variable.array = true;
+    if (accept(Sign::Close)) {
+        return variable;
+    }
+    do {
+        const bool whole = m_token.kind == Kind::Number && m_token.value.isWhole();
+        if (!whole || m_token.value.n < 0) {
+            fail(ErrorNumber::ExpectedInteger);
+        }
+        if (m_token.value.n == 0x7fffffff || variable.sizes.size() == 60) {
+            fail(ErrorNumber::OutOfMemoryCompiling);
+        }
+        variable.sizes.push_back(static_cast<std::int32_t>(m_token.value.n) + 1);
+        advance();
+    } while (accept(Sign::Comma));
+    expect(Sign::Close, ErrorNumber::ExpectedRightParenthesis);
+    return variable;
+}
+
+void Parser::parseVariables(std::vector<Variable>& into, bool isPrivate) {
+    do {
+        into.push_back(parseVariable(isPrivate));
+    } while (accept(Sign::Comma));
+}
+
+// Dim variable {, variable}; hoisted to the procedure around
+Stmt* Parser::parseDim(bool isPrivate) {
+    Stmt* statement = m_ast->stmt(Stmt::Kind::Dim, here());
+    do {
+        const Variable variable = parseVariable(isPrivate);
+        declare(variable.name, variable.at);
+        m_procedure->variables.push_back(variable);
+    } while (accept(Sign::Comma));
+    return statement;
+}
+
+// Const name = expr {, name = expr}; hoisted
+Stmt* Parser::parseConst() {
+    Stmt* statement = m_ast->stmt(Stmt::Kind::Const, here());
+    do {
+        ConstDecl decl;
+        decl.at = here();
+        decl.name = takeName();
+        expect(Sign::Equal, ErrorNumber::ExpectedEqual);
+        decl.value = parseExpr();
+        declare(decl.name, decl.at);
+        m_procedure->constants.push_back(decl);
+    } while (accept(Sign::Comma));
+    return statement;
+}
+
+// Sub|Function|Property Get|Let|Set name [( parameters )] block End Sub|Function|Property
+ProcedureDecl* Parser::parseProcedure(bool isPrivate, bool isDefault, bool inClass) {
+    ProcedureDecl* procedure = m_ast->procedure();
+    procedure->isPrivate = isPrivate;
+    procedure->isDefault = isDefault;
+    const Word ending = m_token.word;
+    advance();
+    if (ending == Word::Property) {
+        procedure->kind = is(Word::Get)   ? ProcedureDecl::Kind::PropertyGet
+                          : is(Word::Let) ? ProcedureDecl::Kind::PropertyLet
+                                          : ProcedureDecl::Kind::PropertySet;
+        if (!is(Word::Get) && !is(Word::Let) && !is(Word::Set)) {
+            fail(ErrorNumber::ExpectedLetSetGet);
+        }
+        advance();
+    } else {
+        procedure->kind = ending == Word::Sub ? ProcedureDecl::Kind::Sub : ProcedureDecl::Kind::Function;
+    }
+    procedure->at = here();
+    procedure->name = takeName();
+    parseParameters(*procedure);
+    const bool assigns =
+        procedure->kind == ProcedureDecl::Kind::PropertyLet || procedure->kind == ProcedureDecl::Kind::PropertySet;
+    if (assigns && procedure->parameters.empty()) {
+        fail(ErrorNumber::PropertyArguments, procedure->at);
+    }
+    const bool outer = std::exchange(m_inClass, inClass);
+    parseProcedureBody(*procedure, ending);
+    m_inClass = outer;
+    return procedure;
+}
+
+// ( [ByVal|ByRef] name [()] {, ...} )
+void Parser::parseParameters(ProcedureDecl& procedure) {
+    if (!accept(Sign::Open) || accept(Sign::Close)) {
+        return;
+    }
+    do {
+        Parameter parameter;
+        parameter.byValue = is(Word::ByVal);
+        if (is(Word::ByVal) || is(Word::ByRef)) {
+            advance();
+        }
+        const Position at = here();
+        parameter.name = takeName();
+        if (accept(Sign::Open)) {
+            expect(Sign::Close, ErrorNumber::ExpectedRightParenthesis);
+        }
+        for (const Parameter& other : procedure.parameters) {
+            if (other.name == parameter.name) {
+                fail(ErrorNumber::NameRedefined, at);
+            }
+        }
+        procedure.parameters.push_back(parameter);
+        if (procedure.parameters.size() > maxParameters) {
+            fail(ErrorNumber::OutOfMemoryCompiling);
+        }
+    } while (accept(Sign::Comma));
+    expect(Sign::Close, ErrorNumber::ExpectedRightParenthesis);
+}
+
+void Parser::parseProcedureBody(ProcedureDecl& procedure, Word ending) {
+    ProcedureDecl* outer = std::exchange(m_procedure, &procedure);
+    const std::uint32_t hidden = std::exchange(m_hidden, 0);
+    const int doLoops = std::exchange(m_doLoops, 0);
+    const int forLoops = std::exchange(m_forLoops, 0);
+    const int withs = std::exchange(m_withs, 0);
+    auto counters = std::exchange(m_counters, {});
+    parseBlock(procedure.body);
+    if (!is(Word::End)) {
+        fail(is(Word::Loop)   ? ErrorNumber::LoopWithoutDo
+             : is(Word::Next) ? ErrorNumber::UnexpectedNext
+                              : ErrorNumber::ExpectedEnd);
+    }
+    advance();
+    expect(ending, ending == Word::Sub        ? ErrorNumber::ExpectedSub
+                   : ending == Word::Function ? ErrorNumber::ExpectedFunction
+                                              : ErrorNumber::ExpectedProperty);
+    m_procedure = outer;
+    m_hidden = hidden;
+    m_doLoops = doLoops;
+    m_forLoops = forLoops;
+    m_withs = withs;
+    m_counters = std::move(counters);
+}
+
+// Class name { member } End Class
+void Parser::parseClass() {
+    ClassDecl* decl = m_ast->classDecl();
+    advance();
+    decl->at = here();
+    decl->name = takeName();
+    endStatement();
+    for (skipSeparators(); !is(Word::End); skipSeparators()) {
+        if (m_token.kind == Kind::End) {
+            fail(ErrorNumber::ExpectedEnd);
+        }
+        parseClassMember(*decl);
+    }
+    advance();
+    expect(Word::Class, ErrorNumber::ExpectedClass);
+    m_ast->classes.push_back(decl);
+}
+
+// [Public|Private] [Default] (Sub|Function|Property ... | variables)   or   Dim variables
+void Parser::parseClassMember(ClassDecl& decl) {
+    const bool isPrivate = is(Word::Private);
+    const bool modified = isPrivate || is(Word::Public);
+    if (modified) {
+        advance();
+    }
+    bool isDefault = false;
+    if (is(Word::Default)) {
+        if (!modified || isPrivate) {
+            fail(ErrorNumber::DefaultMustBePublic);
+        }
+        isDefault = true;
+        advance();
+    }
+    if (is(Word::Sub) || is(Word::Function) || is(Word::Property)) {
+        ProcedureDecl* procedure = parseProcedure(isPrivate, isDefault, true);
+        checkClassMember(decl, *procedure);
+        decl.members.push_back(procedure);
+        decl.memberNames.emplace(procedure->name, procedure);
+        decl.hasDefault = decl.hasDefault || isDefault;
+        return;
+    }
+    if (isDefault) {
+        fail(ErrorNumber::SyntaxError);
+    }
+    if (!modified && !accept(Word::Dim)) {
+        fail(ErrorNumber::ExpectedEnd);
+    }
+    const std::size_t known = decl.fields.size();
+    parseVariables(decl.fields, isPrivate);
+    for (std::size_t i = known; i < decl.fields.size(); ++i) {
+        const Symbol name = decl.fields[i].name;
+        if (!decl.fieldNames.insert(name).second || decl.memberNames.contains(name)) {
+            fail(ErrorNumber::NameRedefined, decl.fields[i].at);
+        }
+    }
+    endStatement();
+}
+
+void Parser::checkClassMember(const ClassDecl& decl, const ProcedureDecl& procedure) const {
+    using PK = ProcedureDecl::Kind;
+    if (procedure.isDefault && (procedure.kind == PK::PropertyLet || procedure.kind == PK::PropertySet)) {
+        fail(ErrorNumber::DefaultOnlyOnGet, procedure.at);
+    }
+    const std::u16string& name = m_symbols.folded(procedure.name);
+    if ((name == u"class_initialize" || name == u"class_terminate") && !procedure.parameters.empty()) {
+        fail(ErrorNumber::ClassEventArguments, procedure.at);
+    }
+    const auto isProperty = [](PK kind) {
+        return kind == PK::PropertyGet || kind == PK::PropertyLet || kind == PK::PropertySet;
+    };
+    if (procedure.isDefault && decl.hasDefault) {
+        fail(ErrorNumber::MultipleDefaults, procedure.at);
+    }
+    const auto [first, last] = decl.memberNames.equal_range(procedure.name);
+    for (auto it = first; it != last; ++it) {
+        const ProcedureDecl* other = it->second;
+        if (!isProperty(other->kind) || !isProperty(procedure.kind) || other->kind == procedure.kind) {
+            fail(ErrorNumber::NameRedefined, procedure.at);
+        }
+        const auto indexes = [](const ProcedureDecl& p) {
+            return p.parameters.size() - (p.kind == PK::PropertyGet ? 0 : 1);
+        };
+        if (indexes(*other) != indexes(procedure)) {
+            fail(ErrorNumber::InconsistentArguments, procedure.at);
+        }
+    }
+    if (decl.fieldNames.contains(procedure.name)) {
+        fail(ErrorNumber::NameRedefined, procedure.at);
+    }
+}
+
+} // namespace vbs

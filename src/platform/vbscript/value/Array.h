@@ -1,0 +1,68 @@
+// The block behind an array value: bounds and elements. Lower bounds are 0. Elements lie with the first index running
+// fastest, so that ReDim Preserve of the last dimension only lengthens or shortens the block.
+#pragma once
+
+#include "platform/vbscript/value/Value.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <span>
+
+namespace vbs {
+
+class ArrayBlock : public Counted {
+public:
+    static constexpr int maxDimensions = 60;
+
+    // `sizes`: elements of each dimension (upper bound + 1, so 0 for an upper bound of -1). An empty span makes an
+    // array that has no dimensions yet. Elements are Empty. Raises error 7 for what does not fit.
+    static ArrayBlock* create(std::span<const std::int32_t> sizes, bool fixed = false);
+    static ArrayBlock* create(std::size_t elements); // one dimension
+    ArrayBlock* clone() const;                       // a copy, not fixed, one reference
+    static void destroy(ArrayBlock* array) noexcept;
+
+    int dimensions() const noexcept { return m_dimensions; }
+    std::int32_t size(int dimension) const noexcept { return m_sizes[dimension]; } // dimension from 0
+    std::size_t count() const noexcept { return m_count; }                         // elements in all
+    bool fixed() const noexcept { return m_fixed; }
+    Value* elements() noexcept { return m_elements; }
+    const Value* elements() const noexcept { return m_elements; }
+
+    // Place of an element; raises error 9 if an index is outside or their number is wrong.
+    std::size_t offset(std::span<const std::int32_t> indexes) const;
+
+    // New upper bound of the last dimension, contents kept; the caller holds the only reference.
+    void resizeLast(std::int32_t size);
+
+    // While a For Each runs over the array it holds a lock and a reference: writes still go in place, but ReDim and
+    // Erase raise error 10.
+    int locks = 0;
+
+private:
+    static void bury(ArrayBlock* array) noexcept;
+
+    ArrayBlock() noexcept = default;
+
+    std::size_t m_count = 0;
+    Value* m_elements = nullptr;
+    std::size_t m_capacity = 0;
+    std::int32_t* m_sizes = nullptr;
+    std::uint8_t m_dimensions = 0;
+    bool m_fixed = false;
+};
+
+inline ArrayBlock* Value::array() const noexcept {
+    return static_cast<ArrayBlock*>(counted);
+}
+
+inline Value Value::ofArray(ArrayBlock* array) noexcept {
+    Value v;
+    v.type = Type::Array;
+    v.counted = array;
+    return v;
+}
+
+// The block of an array value, made unique first so that its elements may be written.
+ArrayBlock& writableArray(Value& array);
+
+} // namespace vbs

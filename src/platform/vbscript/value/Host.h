@@ -1,0 +1,37 @@
+// What the engine asks of the program around it: dialogs, the clock and the facts of a locale. Every operation has a
+// default that works without a screen, so tests and tools may use Host as it is.
+#pragma once
+
+#include "platform/vbscript/value/Locale.h"
+
+#include <string>
+#include <string_view>
+
+namespace vbs {
+
+struct LocalTime {
+    int year = 1900, month = 1, day = 1; // month and day from 1
+    int hour = 0, minute = 0, second = 0;
+    int millisecond = 0;
+};
+
+class Host {
+public:
+    virtual ~Host() = default;
+
+    // Shows a message; answers the button pressed (1 OK, 2 Cancel ... 7 No). Default: answers 1 and shows nothing.
+    virtual int messageBox(std::u16string_view text, int buttons, std::u16string_view title);
+    // Asks for a line of text; the empty text stands for Cancel. Default: answers `defaultText`.
+    virtual std::u16string inputBox(std::u16string_view prompt, std::u16string_view title,
+                                    std::u16string_view defaultText);
+
+    // Local date and time; the default reads the system's clock.
+    virtual LocalTime now();
+    // A clock that only runs forward, in milliseconds; time-outs are measured with it.
+    virtual double monotonicMilliseconds();
+
+    // Facts of a locale number (0: the user's own), or null if it is not known. Must outlive the engine.
+    virtual const Locale* locale(int id);
+};
+
+} // namespace vbs

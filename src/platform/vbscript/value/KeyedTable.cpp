@@ -1,0 +1,278 @@
+#include "platform/vbscript/value/KeyedTable.h"
+
+#include "platform/vbscript/value/Errors.h"
+#include "platform/vbscript/value/Memory.h"
+
+#include <algorithm>
+#include <bit>
+#include <cmath>
+#include <cstring>
+
+namespace vbs {
+
+namespace {
+
+constexpr std::uint64_t multiplier = 0x9E3779B97F4A7C15; // 2^64 by the golden ratio
+
+std::uint64_t mixed(std::uint64_t h, std::uint64_t word) noexcept {
+    h = (h ^ word) * multiplier;
+    return h ^ (h >> 29);
+}
+
+std::uint32_t folded(std::uint64_t h) noexcept {
+    return static_cast<std::uint32_t>(h ^ (h >> 32));
+}
+
+constexpr std::size_t unitsPerWord = sizeof(std::uint64_t) / sizeof(char16_t);
+
+std::uint64_t wordAt(const char16_t* units) noexcept {
+    std::uint64_t word = 0;
+    std::memcpy(&word, units, sizeof word);
+    return word;
+}
+
+// Eight bytes at a time; the last eight may overlap those before them. Fewer than four units make one word.
+std::uint64_t hashOfText(std::u16string_view text) noexcept {
+    const std::size_t size = text.size();
+    if (size < unitsPerWord) {
+        std::uint64_t word = size;
+        for (const char16_t c : text) {
+            word = word << 16 | c;
+        }
+        return mixed(0, word);
+    }
+    std::uint64_t h = size;
+    for (std::size_t i = 0; i + unitsPerWord < size; i += unitsPerWord) {
+        h = mixed(h, wordAt(text.data() + i));
+    }
+    return mixed(h, wordAt(text.data() + size - unitsPerWord));
+}
+
+std::uint64_t hashIgnoringCase(std::u16string_view text) noexcept {
+    std::uint64_t h = text.size();
+    for (const char16_t c : text) {
+        h = mixed(h, toLower(c));
+    }
+    return h;
+}
+
+bool sameUnits(std::u16string_view a, std::u16string_view b) noexcept {
+    const std::size_t size = a.size();
+    if (size != b.size()) {
+        return false;
+    }
+    if (size < unitsPerWord) {
+        return std::equal(a.begin(), a.end(), b.begin());
+    }
+    for (std::size_t i = 0; i + unitsPerWord < size; i += unitsPerWord) {
+        if (wordAt(a.data() + i) != wordAt(b.data() + i)) {
+            return false;
+        }
+    }
+    return wordAt(a.data() + size - unitsPerWord) == wordAt(b.data() + size - unitsPerWord);
+}
+
+bool isNumber(const Value& v) noexcept {
+    return v.type <= Type::Byte;
+}
+
+bool holdsReal(const Value& v) noexcept {
+    return v.type == Type::Double || v.type == Type::Single || v.type == Type::Date;
+}
+
+double numberOf(const Value& v) noexcept {
+    return holdsReal(v)               ? v.d
+           : v.type == Type::Currency ? static_cast<double>(v.n) / 10000.0
+                                      : static_cast<double>(v.n);
+}
+
+// Equal numbers have equal hashes, so a whole real counts as integer.
+std::uint64_t hashOfNumber(const Value& v) noexcept {
+    if (!holdsReal(v) && v.type != Type::Currency) {
+        return mixed(1, static_cast<std::uint64_t>(v.n));
+    }
+    const double x = numberOf(v);
+    const bool whole = std::fabs(x) < 9e15 && x == std::trunc(x);
+    return mixed(1, whole ? static_cast<std::uint64_t>(static_cast<std::int64_t>(x)) : std::bit_cast<std::uint64_t>(x));
+}
+
+Type kindOf(const Value& v) noexcept {
+    return isNumber(v) ? Type::Double : v.type == Type::Undefined ? Type::Empty : v.type;
+}
+
+} // namespace
+
+KeyedTable::~KeyedTable() {
+    releaseMemory(m_charged);
+}
+
+void KeyedTable::setIgnoresCase(bool ignoresCase) noexcept {
+    m_ignoresCase = ignoresCase;
+    m_recent = {};
+}
+
+std::uint32_t KeyedTable::hashOf(const Value& key) const {
+    if (key.isString()) {
+        return folded(m_ignoresCase ? hashIgnoringCase(key.text()) : hashOfText(key.text()));
+    }
+    if (isNumber(key)) {
+        return folded(hashOfNumber(key));
+    }
+    switch (kindOf(key)) {
+    case Type::Object:
+        return folded(mixed(2, std::bit_cast<std::uint64_t>(key.counted)));
+    case Type::Empty:
+    case Type::Null:
+        return static_cast<std::uint32_t>(key.type);
+    default:
+        raise(ErrorNumber::InvalidCall);
+    }
+}
+
+bool KeyedTable::same(const Value& a, const Value& b) const noexcept {
+    if (a.isString() && b.isString()) {
+        return a.counted == b.counted ||
+               (m_ignoresCase ? equalNoCase(a.text(), b.text()) : sameUnits(a.text(), b.text()));
+    }
+    if (a.isWhole() && b.isWhole()) {
+        return a.n == b.n;
+    }
+    if (kindOf(a) != kindOf(b)) {
+        return false;
+    }
+    return isNumber(a) ? numberOf(a) == numberOf(b) : !a.isObject() || a.counted == b.counted;
+}
+
+KeyedTable::Entry* KeyedTable::probe(const Value& key, std::uint32_t hash) noexcept {
+    if (m_slots.empty()) {
+        return nullptr;
+    }
+    const std::size_t mask = m_slots.size() - 1;
+    for (std::size_t i = hash & mask; m_slots[i].entry != 0; i = (i + 1) & mask) {
+        if (m_slots[i].hash == hash) {
+            Entry& entry = m_entries[m_slots[i].entry - 1];
+            if (entry.alive && entry.hash == hash && same(entry.key, key)) {
+                return &entry;
+            }
+        }
+    }
+    return nullptr;
+}
+
+KeyedTable::Entry* KeyedTable::locate(const Value& key, std::uint32_t& hash) {
+    if (!key.isString() || key.counted == nullptr) {
+        hash = hashOf(key);
+        return probe(key, hash);
+    }
+    if (m_recent.key.counted == key.counted && m_recent.key.isString()) {
+        hash = m_recent.hash;
+        if (m_recent.entry != 0) {
+            return &m_entries[m_recent.entry - 1];
+        }
+        return probe(key, hash);
+    }
+    hash = hashOf(key);
+    Entry* entry = probe(key, hash);
+    m_recent = {key, hash, entry != nullptr ? static_cast<std::uint32_t>(entry - m_entries.data()) + 1 : 0};
+    return entry;
+}
+
+Value* KeyedTable::find(const Value& key) {
+    std::uint32_t hash = 0;
+    Entry* entry = locate(key, hash);
+    return entry != nullptr ? &entry->item : nullptr;
+}
+
+Value& KeyedTable::findOrAdd(const Value& key) {
+    std::uint32_t hash = 0;
+    Entry* entry = locate(key, hash);
+    return entry != nullptr ? entry->item : append(key, hash);
+}
+
+bool KeyedTable::add(const Value& key, const Value& item) {
+    std::uint32_t hash = 0;
+    if (locate(key, hash) != nullptr) {
+        return false;
+    }
+    append(key, hash) = item;
+    return true;
+}
+
+bool KeyedTable::remove(const Value& key) {
+    std::uint32_t hash = 0;
+    Entry* entry = locate(key, hash);
+    if (entry == nullptr) {
+        return false;
+    }
+    m_recent.entry = 0;
+    entry->alive = false;
+    --m_count;
+    const Value oldKey = std::move(entry->key); // these two end last: they may run script code
+    const Value oldItem = std::move(entry->item);
+    return true;
+}
+
+void KeyedTable::rename(const Value& key, const Value& newKey) {
+    const std::uint32_t hash = hashOf(newKey);
+    makeRoom(); // the slot of the old key stays behind until the table is built anew
+    Entry* entry = probe(key, hashOf(key));
+    m_recent.entry = 0;
+    const Value oldKey = std::exchange(entry->key, newKey);
+    entry->hash = hash;
+    place(static_cast<std::uint32_t>(entry - m_entries.data()) + 1, hash);
+}
+
+void KeyedTable::clear() noexcept {
+    const std::vector<Entry> old = std::exchange(m_entries, {});
+    m_slots = {};
+    m_recent = {};
+    m_usedSlots = 0;
+    m_count = 0;
+    releaseMemory(std::exchange(m_charged, 0));
+}
+
+Value& KeyedTable::append(const Value& key, std::uint32_t hash) {
+    makeRoom();
+    m_entries.push_back({key, {}, hash, true});
+    place(static_cast<std::uint32_t>(m_entries.size()), hash);
+    ++m_count;
+    return m_entries.back().item;
+}
+
+void KeyedTable::place(std::uint32_t number, std::uint32_t hash) noexcept {
+    const std::size_t mask = m_slots.size() - 1;
+    std::size_t i = hash & mask;
+    while (m_slots[i].entry != 0) {
+        i = (i + 1) & mask;
+    }
+    m_slots[i] = {number, hash};
+    ++m_usedSlots;
+}
+
+void KeyedTable::makeRoom() {
+    if (m_usedSlots * 2 >= m_slots.size()) {
+        rebuild();
+    }
+}
+
+// Drops removed entries and makes room for twice those that are left.
+void KeyedTable::rebuild() {
+    const std::size_t capacity = std::bit_ceil(std::max<std::size_t>(m_count * 2, 8));
+    const std::size_t bytes = capacity * sizeof(Entry) + 2 * capacity * sizeof(Slot);
+    chargeMemory(bytes);
+    std::vector<Entry> entries;
+    entries.reserve(capacity);
+    std::vector<Slot> slots(2 * capacity);
+    std::copy_if(std::make_move_iterator(m_entries.begin()), std::make_move_iterator(m_entries.end()),
+                 std::back_inserter(entries), [](const Entry& entry) { return entry.alive; });
+    m_entries = std::move(entries);
+    m_slots = std::move(slots);
+    m_recent.entry = 0;
+    m_usedSlots = 0;
+    releaseMemory(std::exchange(m_charged, bytes));
+    for (std::size_t i = 0; i < m_entries.size(); ++i) {
+        place(static_cast<std::uint32_t>(i) + 1, m_entries[i].hash);
+    }
+}
+
+} // namespace vbs

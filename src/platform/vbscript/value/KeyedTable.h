@@ -1,0 +1,81 @@
+// A hash table from script values to script values that keeps the order of insertion; what a Dictionary is made of.
+//
+// Numbers are one key whatever their type (1 and 1.0), a text is never a number, objects are keys by identity; Empty
+// and Null are keys of their own. Arrays are no keys: hashing one raises error 5. Replacing or removing a value may run
+// script code (Class_Terminate), which may use this very table: every operation leaves the table whole before that.
+#pragma once
+
+#include "platform/vbscript/value/Value.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+namespace vbs {
+
+class KeyedTable {
+public:
+    struct Entry {
+        Value key;
+        Value item;
+        std::uint32_t hash = 0;
+        bool alive = false; // a removed entry keeps its place until the table is built anew
+    };
+
+    KeyedTable() noexcept = default;
+    ~KeyedTable();
+    KeyedTable(const KeyedTable&) = delete;
+    KeyedTable& operator=(const KeyedTable&) = delete;
+
+    std::size_t count() const noexcept { return m_count; }
+    // In order of insertion; skip those that are not alive.
+    const std::vector<Entry>& entries() const noexcept { return m_entries; }
+
+    bool ignoresCase() const noexcept { return m_ignoresCase; }
+    void setIgnoresCase(bool ignoresCase) noexcept; // only while empty
+
+    // The item under a key, or null. The pointer holds until the table changes.
+    Value* find(const Value& key);
+    // The item under a key, which is added with an Empty item if it is missing.
+    Value& findOrAdd(const Value& key);
+    // False, and nothing done, if the key is there already.
+    bool add(const Value& key, const Value& item);
+    // False if the key is not there.
+    bool remove(const Value& key);
+    // Gives an entry another key and leaves it in its place; the new key must not be there.
+    void rename(const Value& key, const Value& newKey);
+    void clear() noexcept;
+
+private:
+    struct Slot {
+        std::uint32_t entry = 0; // number of the entry from 1; 0 is free
+        std::uint32_t hash = 0;
+    };
+
+    // The text looked for last. Scripts ask for one key several times in a row (Exists, read, write), and while its
+    // block is held here nobody can change it, so the same block is the same key.
+    struct Recent {
+        Value key;
+        std::uint32_t hash = 0;
+        std::uint32_t entry = 0; // number of its entry from 1; 0 if there was none or it moved
+    };
+
+    std::uint32_t hashOf(const Value& key) const;
+    bool same(const Value& a, const Value& b) const noexcept;
+    Entry* locate(const Value& key, std::uint32_t& hash); // gives the hash too
+    Entry* probe(const Value& key, std::uint32_t hash) noexcept;
+    Value& append(const Value& key, std::uint32_t hash);
+    void place(std::uint32_t number, std::uint32_t hash) noexcept;
+    void makeRoom(); // for one more slot
+    void rebuild();
+
+    std::vector<Entry> m_entries;
+    std::vector<Slot> m_slots;   // a power of two, at most half in use
+    std::size_t m_usedSlots = 0; // those of removed entries and former keys included
+    std::size_t m_count = 0;
+    std::size_t m_charged = 0; // bytes
+    Recent m_recent;
+    bool m_ignoresCase = false;
+};
+
+} // namespace vbs
