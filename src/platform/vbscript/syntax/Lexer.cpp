@@ -2,91 +2,13 @@
 
 #include "platform/vbscript/value/Dates.h"
 
-#include <algorithm>
-#include <array>
-#include <cmath>
-#include <cstdlib>
 #include <string>
 
 namespace vbs {
 
 namespace {
 
-struct WordEntry {
-    std::u16string_view name;
-    Word word;
-};
-
-// Ascending by name.
-constexpr WordEntry words[] = {
-    {u"and", Word::And},
-    {u"byref", Word::ByRef},
-    {u"byval", Word::ByVal},
-    {u"call", Word::Call},
-    {u"case", Word::Case},
-    {u"class", Word::Class},
-    {u"const", Word::Const},
-    {u"default", Word::Default},
-    {u"dim", Word::Dim},
-    {u"do", Word::Do},
-    {u"each", Word::Each},
-    {u"else", Word::Else},
-    {u"elseif", Word::ElseIf},
-    {u"empty", Word::Empty},
-    {u"end", Word::End},
-    {u"eqv", Word::Eqv},
-    {u"erase", Word::Erase},
-    {u"error", Word::Error},
-    {u"exit", Word::Exit},
-    {u"explicit", Word::Explicit},
-    {u"false", Word::False},
-    {u"for", Word::For},
-    {u"function", Word::Function},
-    {u"get", Word::Get},
-    {u"goto", Word::GoTo},
-    {u"if", Word::If},
-    {u"imp", Word::Imp},
-    {u"in", Word::In},
-    {u"is", Word::Is},
-    {u"let", Word::Let},
-    {u"loop", Word::Loop},
-    {u"me", Word::Me},
-    {u"mod", Word::Mod},
-    {u"new", Word::New},
-    {u"next", Word::Next},
-    {u"not", Word::Not},
-    {u"nothing", Word::Nothing},
-    {u"null", Word::Null},
-    {u"on", Word::On},
-    {u"option", Word::Option},
-    {u"or", Word::Or},
-    {u"preserve", Word::Preserve},
-    {u"private", Word::Private},
-    {u"property", Word::Property},
-    {u"public", Word::Public},
-    {u"redim", Word::Redim},
-    {u"resume", Word::Resume},
-    {u"select", Word::Select},
-    {u"set", Word::Set},
-    {u"step", Word::Step},
-    {u"stop", Word::Stop},
-    {u"sub", Word::Sub},
-    {u"then", Word::Then},
-    {u"to", Word::To},
-    {u"true", Word::True},
-    {u"until", Word::Until},
-    {u"wend", Word::Wend},
-    {u"while", Word::While},
-    {u"with", Word::With},
-    {u"xor", Word::Xor},
-};
-
-constexpr std::size_t longestWord = 8;
 constexpr std::size_t longestName = 255;
-
-bool isDigit(char16_t c) noexcept {
-    return c >= u'0' && c <= u'9';
-}
 
 bool isBlank(char16_t c) noexcept {
     return c == u' ' || c == u'\t' || c == u'\v' || c == u'\f' || c == 0xA0 || c == 0xFEFF;
@@ -94,10 +16,6 @@ bool isBlank(char16_t c) noexcept {
 
 bool isLineEnd(char16_t c) noexcept {
     return c == u'\r' || c == u'\n';
-}
-
-int digitOf(char16_t c) noexcept {
-    return isDigit(c) ? c - u'0' : c >= u'a' && c <= u'f' ? c - u'a' + 10 : c >= u'A' && c <= u'F' ? c - u'A' + 10 : 99;
 }
 
 } // namespace
@@ -109,18 +27,6 @@ bool isNameStart(char16_t c) noexcept {
 
 bool isNamePart(char16_t c) noexcept {
     return isNameStart(c) || isDigit(c) || c == u'_';
-}
-
-Word wordOf(std::u16string_view name) noexcept {
-    if (name.size() > longestWord) {
-        return Word::None;
-    }
-    std::array<char16_t, longestWord> buffer{};
-    std::transform(name.begin(), name.end(), buffer.begin(), toLower);
-    const std::u16string_view low(buffer.data(), name.size());
-    const auto* found = std::lower_bound(std::begin(words), std::end(words), low,
-                                         [](const WordEntry& e, std::u16string_view n) { return e.name < n; });
-    return found != std::end(words) && found->name == low ? found->word : Word::None;
 }
 
 Token Lexer::next() {
@@ -245,75 +151,6 @@ void Lexer::scanBracketed(Token& token) {
     if (token.text.size() > longestName) {
         bad(token, ErrorNumber::IdentifierTooLong);
     }
-}
-
-void Lexer::scanDecimal(Token& token) {
-    const std::size_t start = m_position;
-    bool whole = true;
-    while (isDigit(at(0))) {
-        ++m_position;
-    }
-    if (at(0) == u'.') {
-        whole = false;
-        ++m_position;
-        while (isDigit(at(0))) {
-            ++m_position;
-        }
-    }
-    if (at(0) == u'e' || at(0) == u'E') {
-        const std::size_t sign = at(1) == u'+' || at(1) == u'-' ? 1 : 0;
-        if (isDigit(at(1 + sign))) {
-            whole = false;
-            m_position += 1 + sign;
-            while (isDigit(at(0))) {
-                ++m_position;
-            }
-        }
-    }
-    const std::u16string_view written = m_text.substr(start, m_position - start);
-    const double number = std::strtod(std::string(written.begin(), written.end()).c_str(), nullptr);
-    token.kind = Token::Kind::Number;
-    token.value =
-        whole && number <= 2147483647.0 ? Value::ofWhole(static_cast<std::int64_t>(number)) : Value::ofDouble(number);
-    if (std::isinf(number)) {
-        bad(token, ErrorNumber::InvalidNumber);
-    }
-}
-
-// &Hff, &O77, &77 and the same with a closing & that makes the literal a Long. False if the & is an operator.
-bool Lexer::scanRadix(Token& token) {
-    const char16_t letter = toUpper(at(1));
-    const bool hex = letter == u'H' && digitOf(at(2)) < 16;
-    const bool lettered = hex || (letter == u'O' && digitOf(at(2)) < 8);
-    if (!lettered && (m_afterOperand || digitOf(at(1)) >= 8)) {
-        return false;
-    }
-    const std::size_t first = lettered ? 2 : 1;
-    const int radix = hex ? 16 : 8;
-    std::size_t ahead = first;
-    std::uint64_t bits = 0;
-    bool fits = true;
-    for (; digitOf(at(ahead)) < radix; ++ahead) {
-        bits = bits * static_cast<std::uint64_t>(radix) + static_cast<std::uint64_t>(digitOf(at(ahead)));
-        fits = fits && bits <= 0xFFFFFFFFU;
-        bits &= 0xFFFFFFFFFFU;
-    }
-    if (m_afterOperand && isNamePart(at(ahead))) {
-        return false; // text &hello
-    }
-    const bool longMark = at(ahead) == u'&';
-    m_position += ahead + (longMark ? 1 : 0);
-    token.kind = Token::Kind::Number;
-    if (!fits) {
-        bad(token, ErrorNumber::InvalidNumber);
-    } else if (longMark || bits > 0xFFFF) {
-        token.value = Value::ofLong(static_cast<std::int32_t>(static_cast<std::uint32_t>(bits)));
-    } else if (bits == 0x8000) {
-        token.value = Value::ofLong(-32768); // its magnitude does not fit an Integer
-    } else {
-        token.value = Value::ofInteger(static_cast<std::int16_t>(bits));
-    }
-    return true;
 }
 
 void Lexer::scanText(Token& token) {

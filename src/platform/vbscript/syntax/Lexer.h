@@ -164,6 +164,9 @@ private:
 // The reserved word, or None.
 Word wordOf(std::u16string_view name) noexcept;
 
+constexpr bool isDigit(char16_t c) noexcept {
+    return c >= u'0' && c <= u'9';
+}
 bool isNameStart(char16_t c) noexcept;
 bool isNamePart(char16_t c) noexcept;
 

@@ -1,0 +1,234 @@
+// Statements with blocks: If, Select, With and the loops.
+#include "platform/vbscript/syntax/Parser.h"
+
+namespace vbs {
+
+namespace {
+
+// Raises a counter while a construct is open.
+class Within {
+public:
+    explicit Within(int& counter) noexcept : m_counter(counter) { ++m_counter; }
+    ~Within() { --m_counter; }
+    Within(const Within&) = delete;
+    Within& operator=(const Within&) = delete;
+
+private:
+    int& m_counter;
+};
+
+} // namespace
+
+// If expr Then (line | block)
+Stmt* Parser::parseIf() {
+    Stmt* statement = m_ast->stmt(Stmt::Kind::If, here());
+    advance();
+    IfBranch& branch = statement->branches.emplace_back();
+    branch.at = statement->at;
+    branch.condition = parseExpr();
+    expect(Word::Then, ErrorNumber::ExpectedThen);
+    while (m_token.kind == Kind::Colon) {
+        advance();
+    }
+    if (isEndOfLine()) {
+        parseIfBlock(*statement);
+    } else {
+        parseIfLine(*statement);
+    }
+    return statement;
+}
+
+// block { ElseIf expr Then block } [Else block] End If
+void Parser::parseIfBlock(Stmt& statement) {
+    parseBlock(statement.branches.back().body);
+    while (is(Word::ElseIf)) {
+        IfBranch& branch = statement.branches.emplace_back();
+        branch.at = here();
+        advance();
+        branch.condition = parseExpr();
+        expect(Word::Then, ErrorNumber::ExpectedThen);
+        parseBlock(statement.branches.back().body);
+    }
+    if (accept(Word::Else)) {
+        statement.hasOtherwise = true;
+        parseBlock(statement.otherwise);
+    }
+    expect(Word::End, ErrorNumber::ExpectedEnd);
+    expect(Word::If, ErrorNumber::ExpectedIf);
+}
+
+// statements { ElseIf expr Then statements } [Else statements] [End If], all on one line
+void Parser::parseIfLine(Stmt& statement) {
+    parseLineStatements(statement.branches.back().body);
+    while (is(Word::ElseIf)) {
+        IfBranch& branch = statement.branches.emplace_back();
+        branch.at = here();
+        advance();
+        branch.condition = parseExpr();
+        expect(Word::Then, ErrorNumber::ExpectedThen);
+        parseLineStatements(statement.branches.back().body);
+    }
+    if (accept(Word::Else)) {
+        statement.hasOtherwise = true;
+        parseLineStatements(statement.otherwise);
+    }
+    if (is(Word::End)) {
+        const Lexer lexer = m_lexer;
+        const Token token = m_token;
+        advance();
+        if (!accept(Word::If)) {
+            m_lexer = lexer;
+            m_token = token;
+        }
+    }
+}
+
+void Parser::parseLineStatements(Block& block) {
+    while (true) {
+        while (m_token.kind == Kind::Colon) {
+            advance();
+        }
+        if (isEndOfLine() || startsBlockEnd()) {
+            return;
+        }
+        if (Stmt* statement = parseStatement(); statement != nullptr) {
+            block.push_back(statement);
+        }
+        if (!isEndOfStatement()) {
+            fail(ErrorNumber::ExpectedEndOfStatement);
+        }
+    }
+}
+
+// Select Case expr { Case expr {, expr} block } [Case Else block] End Select
+Stmt* Parser::parseSelect() {
+    Stmt* statement = m_ast->stmt(Stmt::Kind::Select, here());
+    advance();
+    expect(Word::Case, ErrorNumber::ExpectedCase);
+    statement->value = parseExpr();
+    endStatement();
+    skipSeparators();
+    const Hidden hidden(*this, 1);
+    while (is(Word::Case)) {
+        const Position at = here();
+        advance();
+        if (accept(Word::Else)) {
+            statement->hasOtherwise = true;
+            parseBlock(statement->otherwise);
+            break;
+        }
+        CaseBranch& branch = statement->cases.emplace_back();
+        branch.at = at;
+        do {
+            branch.values.push_back(parseExpr());
+        } while (accept(Sign::Comma));
+        parseBlock(branch.body);
+    }
+    expect(Word::End, is(Word::Case) ? ErrorNumber::SyntaxError : ErrorNumber::ExpectedEnd);
+    expect(Word::Select, ErrorNumber::ExpectedSelect);
+    return statement;
+}
+
+// For name = expr To expr [Step expr] block Next
+Stmt* Parser::parseFor() {
+    const Position at = here();
+    advance();
+    if (accept(Word::Each)) {
+        return parseForEach(at);
+    }
+    Stmt* statement = m_ast->stmt(Stmt::Kind::For, at);
+    statement->target = m_ast->expr(Expr::Kind::Name, here());
+    statement->target->symbol = takeName();
+    if (is(Sign::Dot) || is(Sign::Open)) {
+        fail(ErrorNumber::InvalidForVariable);
+    }
+    const Counter counter(*this, *statement->target);
+    noteAssigned(statement->target);
+    expect(Sign::Equal, ErrorNumber::ExpectedEqual);
+    statement->value = parseExpr();
+    expect(Word::To, ErrorNumber::ExpectedTo);
+    statement->limit = parseExpr();
+    if (accept(Word::Step)) {
+        statement->step = parseExpr();
+    }
+    endStatement();
+    const Hidden hidden(*this, 2);
+    const Within loop(m_forLoops);
+    parseBlock(statement->body);
+    statement->closing = here();
+    expect(Word::Next, ErrorNumber::ExpectedNext);
+    return statement;
+}
+
+// For Each name In expr block Next
+Stmt* Parser::parseForEach(Position at) {
+    Stmt* statement = m_ast->stmt(Stmt::Kind::ForEach, at);
+    statement->target = m_ast->expr(Expr::Kind::Name, here());
+    statement->target->symbol = takeName();
+    const Counter counter(*this, *statement->target);
+    noteAssigned(statement->target);
+    expect(Word::In, ErrorNumber::ExpectedIn);
+    statement->value = parseExpr();
+    endStatement();
+    const Hidden hidden(*this, 1);
+    const Within loop(m_forLoops);
+    parseBlock(statement->body);
+    statement->closing = here();
+    expect(Word::Next, ErrorNumber::ExpectedNext);
+    return statement;
+}
+
+// While expr block Wend
+Stmt* Parser::parseWhile() {
+    Stmt* statement = m_ast->stmt(Stmt::Kind::While, here());
+    advance();
+    statement->value = parseExpr();
+    endStatement();
+    parseBlock(statement->body);
+    statement->closing = here();
+    expect(Word::Wend, ErrorNumber::ExpectedWend);
+    return statement;
+}
+
+// Do [While|Until expr] block Loop [While|Until expr]
+Stmt* Parser::parseDo() {
+    Stmt* statement = m_ast->stmt(Stmt::Kind::Do, here());
+    advance();
+    if (is(Word::While) || is(Word::Until)) {
+        statement->test = is(Word::While) ? LoopTest::WhileBefore : LoopTest::UntilBefore;
+        advance();
+        statement->value = parseExpr();
+    }
+    if (!isEndOfStatement()) {
+        fail(statement->value != nullptr ? ErrorNumber::ExpectedEndOfStatement : ErrorNumber::ExpectedWhileUntilOrEnd);
+    }
+    const Within loop(m_doLoops);
+    parseBlock(statement->body);
+    statement->closing = here();
+    expect(Word::Loop, ErrorNumber::ExpectedLoop);
+    if (is(Word::While) || is(Word::Until)) {
+        if (statement->test != LoopTest::None) {
+            fail(ErrorNumber::ExpectedEndOfStatement);
+        }
+        statement->test = is(Word::While) ? LoopTest::WhileAfter : LoopTest::UntilAfter;
+        advance();
+        statement->value = parseExpr();
+    }
+    return statement;
+}
+
+// With expr block End With
+Stmt* Parser::parseWith() {
+    Stmt* statement = m_ast->stmt(Stmt::Kind::With, here());
+    advance();
+    statement->value = parseExpr();
+    endStatement();
+    const Hidden hidden(*this, 1);
+    const Within with(m_withs);
+    parseBlock(statement->body);
+    expect(Word::End, ErrorNumber::ExpectedEnd);
+    expect(Word::With, ErrorNumber::ExpectedWith);
+    return statement;
+}
+
+} // namespace vbs
