@@ -142,7 +142,7 @@ private:
     void runIntrinsic(const Builtin& intrinsic, Value& argument, Value& to, Store store);
     void runNative(Object& target, int member, Arguments arguments, Value& to, Store store);
     void callIntrinsic1(Instruction instruction);
-    void callIntrinsic(Instruction instruction);
+    void runIntrinsicRow(const Builtin& intrinsic, Value* first, std::size_t count, Value& to, Store store);
     void getMember(Instruction instruction);
     void callMember(Instruction instruction, Operand first);
     void setMember(Instruction instruction);

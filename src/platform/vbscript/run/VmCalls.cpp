@@ -71,14 +71,6 @@ void Vm::callIntrinsic1(Instruction instruction) {
     deliver(std::move(result), at(operandA(instruction)), storeOf(instruction));
 }
 
-void Vm::callIntrinsic(Instruction instruction) {
-    Value* first = &at(operandB(instruction));
-    const std::size_t count = countOf(instruction);
-    Value result = m_library.builtins[operandC(instruction)].function(*this, {first, count});
-    consumeRow(first, count);
-    deliver(std::move(result), at(operandA(instruction)), storeOf(instruction));
-}
-
 // A call of something that is no procedure: an array, an object, or a mistake.
 void Vm::callOther(Instruction instruction) {
     const Operand c = operandC(instruction);

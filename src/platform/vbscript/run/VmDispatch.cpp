@@ -45,6 +45,44 @@ inline bool goesAsItIs(Type type, Store store) noexcept {
                                 : type == Type::Object && (store == Store::Set || store == Store::Raw);
 }
 
+inline bool isReference(const Value& v) noexcept {
+    return v.type == Type::Reference;
+}
+
+// Whether overwriting the value ends nothing but a text: it holds no last share of an object or array.
+inline bool dropsQuietly(const Value& v) noexcept {
+    return v.type <= Type::String || v.counted == nullptr || v.counted->references > 1;
+}
+
+// A text or object from one register to another; a temporary hands it on.
+inline void carry(Value& to, Value& from, bool temporary) noexcept {
+    if (temporary) {
+        to = std::move(from);
+    } else {
+        to = from;
+    }
+}
+
+inline bool bothTexts(const Value& a, const Value& b) noexcept {
+    return a.type == Type::String && b.type == Type::String;
+}
+
+// Two texts compared by their code units.
+template <Opcode op>
+inline bool textsHold(const Value& a, const Value& b) noexcept {
+    const std::u16string_view x = a.text();
+    const std::u16string_view y = b.text();
+    if constexpr (op == Opcode::Equal || op == Opcode::NotEqual) {
+        return (a.counted == b.counted || x == y) == (op == Opcode::Equal);
+    } else {
+        const int order = x.size() == 1 && y.size() == 1 ? int{x[0]} - int{y[0]} : x.compare(y);
+        return op == Opcode::Less        ? order < 0
+               : op == Opcode::Greater   ? order > 0
+               : op == Opcode::LessEqual ? order <= 0
+                                         : order >= 0;
+    }
+}
+
 inline void putDouble(Value& to, double d) noexcept {
     if (to.isCounted()) [[unlikely]] {
         to.clear();
@@ -91,6 +129,12 @@ void Vm::dispatch(std::size_t floor) {
 #define X static_cast<unsigned>(i >> 56)
 #define J (static_cast<std::int64_t>(i) >> 40)
 #define R(o) valueAt(places, o)
+#define TEMPORARY(o) (((o)&3) == 0 && ((o) >> 2) >= frame->procedure->firstTemporary)
+// An instruction is done with a text or with an object that has other owners: it goes from a temporary.
+#define USED_UP(o)                                                                                                     \
+    if (TEMPORARY(o)) {                                                                                                \
+        R(o).clear();                                                                                                  \
+    }
 #define SAVE frame->pc = pc
 #define ENTER                                                                                                          \
     pc = frame->pc;                                                                                                    \
@@ -122,6 +166,10 @@ labelMove : {
         put(R(A), b.type, b.n);
         NEXT;
     }
+    if ((b.type == Type::String || b.type == Type::Object) && dropsQuietly(R(A))) [[likely]] {
+        carry(R(A), R(B), TEMPORARY(B));
+        NEXT;
+    }
     SLOW(R(A) = taken(B));
 }
 
@@ -134,10 +182,18 @@ labelLet : {
         put(R(A), b.type, b.n);
         NEXT;
     }
+    if (b.type == Type::String && dropsQuietly(R(A))) [[likely]] {
+        carry(R(A), R(B), TEMPORARY(B));
+        NEXT;
+    }
     SLOW(letInto(R(A), B));
 }
 
 labelSetObject:
+    if (R(B).type == Type::Object && dropsQuietly(R(A))) [[likely]] {
+        carry(R(A), R(B), TEMPORARY(B));
+        NEXT;
+    }
     SLOW(setInto(R(A), B));
 
 labelStoreLet : {
@@ -145,6 +201,10 @@ labelStoreLet : {
     const Value& b = R(B);
     if (isPlain(b)) [[likely]] {
         put(a, b.type, b.n);
+        NEXT;
+    }
+    if (b.type == Type::String && dropsQuietly(a)) [[likely]] {
+        carry(a, R(B), TEMPORARY(B));
         NEXT;
     }
     SLOW(letInto(a, B));
@@ -176,21 +236,31 @@ labelClear:
     R(A).clear();
     NEXT;
 
+// A by-reference argument is looked through, and the common cases are tried again on what it stands for.
+#define LOOK_THROUGH(b, c, again)                                                                                      \
+    if (isReference(*(b)) || isReference(*(c))) {                                                                      \
+        (b) = &(b)->deref();                                                                                           \
+        (c) = &(c)->deref();                                                                                           \
+        goto again;                                                                                                    \
+    }
+
 #define ARITHMETIC(name, symbol)                                                                                       \
     label##name : {                                                                                                    \
-        const Value& b = R(B);                                                                                         \
-        const Value& c = R(C);                                                                                         \
-        if (bothWhole(b, c)) [[likely]] {                                                                              \
-            putWhole(R(A), static_cast<std::uint64_t>(b.type) | static_cast<std::uint64_t>(c.type), b.n symbol c.n);   \
+        const Value* b = &R(B);                                                                                        \
+        const Value* c = &R(C);                                                                                        \
+        again##name : if (bothWhole(*b, *c)) [[likely]] {                                                              \
+            putWhole(R(A), static_cast<std::uint64_t>(b->type) | static_cast<std::uint64_t>(c->type),                  \
+                     b->n symbol c->n);                                                                                \
             NEXT;                                                                                                      \
         }                                                                                                              \
-        if (isReal(b) && isReal(c)) {                                                                                  \
-            const double result = real(b) symbol real(c);                                                              \
+        if (isReal(*b) && isReal(*c)) {                                                                                \
+            const double result = real(*b) symbol real(*c);                                                            \
             if (std::fabs(result) <= DBL_MAX) [[likely]] {                                                             \
                 putDouble(R(A), result);                                                                               \
                 NEXT;                                                                                                  \
             }                                                                                                          \
         }                                                                                                              \
+        LOOK_THROUGH(b, c, again##name)                                                                                \
         SLOW(binary(i));                                                                                               \
     }
     ARITHMETIC(Add, +)
@@ -198,41 +268,48 @@ labelClear:
     ARITHMETIC(Multiply, *)
 
 labelDivide : {
-    const Value& b = R(B);
-    const Value& c = R(C);
-    if (isReal(b) && isReal(c)) {
-        const double divisor = real(c);
-        const double result = real(b) / divisor;
+    const Value* b = &R(B);
+    const Value* c = &R(C);
+againDivide:
+    if (isReal(*b) && isReal(*c)) {
+        const double divisor = real(*c);
+        const double result = real(*b) / divisor;
         if (divisor != 0.0 && std::fabs(result) <= DBL_MAX) [[likely]] {
             putDouble(R(A), result);
             NEXT;
         }
     }
+    LOOK_THROUGH(b, c, againDivide)
     SLOW(binary(i));
 }
 
 labelIntegerDivide : {
-    const Value& b = R(B);
-    const Value& c = R(C);
-    if (bothWhole(b, c) && c.n > 0) [[likely]] {
-        const auto quotient = static_cast<std::int32_t>(b.n) / static_cast<std::int32_t>(c.n);
-        put(R(A), static_cast<Type>(static_cast<std::uint64_t>(b.type) | static_cast<std::uint64_t>(c.type)), quotient);
+    const Value* b = &R(B);
+    const Value* c = &R(C);
+againIntegerDivide:
+    if (bothWhole(*b, *c) && c->n > 0) [[likely]] {
+        const auto quotient = static_cast<std::int32_t>(b->n) / static_cast<std::int32_t>(c->n);
+        put(R(A), static_cast<Type>(static_cast<std::uint64_t>(b->type) | static_cast<std::uint64_t>(c->type)),
+            quotient);
         NEXT;
     }
+    LOOK_THROUGH(b, c, againIntegerDivide)
     SLOW(binary(i));
 }
 
 labelModulo : {
-    const Value& b = R(B);
-    const Value& c = R(C);
-    if (bothWhole(b, c) && c.n > 0) [[likely]] {
-        const auto n = static_cast<std::int32_t>(b.n);
-        const auto divisor = static_cast<std::int32_t>(c.n);
+    const Value* b = &R(B);
+    const Value* c = &R(C);
+againModulo:
+    if (bothWhole(*b, *c) && c->n > 0) [[likely]] {
+        const auto n = static_cast<std::int32_t>(b->n);
+        const auto divisor = static_cast<std::int32_t>(c->n);
         const bool masks = n >= 0 && (divisor & (divisor - 1)) == 0; // a division costs more than a test
         const std::int32_t rest = masks ? n & (divisor - 1) : n % divisor;
-        put(R(A), static_cast<Type>(static_cast<std::uint64_t>(b.type) | static_cast<std::uint64_t>(c.type)), rest);
+        put(R(A), static_cast<Type>(static_cast<std::uint64_t>(b->type) | static_cast<std::uint64_t>(c->type)), rest);
         NEXT;
     }
+    LOOK_THROUGH(b, c, againModulo)
     SLOW(binary(i));
 }
 
@@ -241,13 +318,14 @@ labelConcatenate:
 
 #define LOGIC(name, symbol)                                                                                            \
     label##name : {                                                                                                    \
-        const Value& b = R(B);                                                                                         \
-        const Value& c = R(C);                                                                                         \
-        if ((b.type == Type::Boolean && c.type == Type::Boolean) || bothWhole(b, c)) [[likely]] {                      \
-            put(R(A), static_cast<Type>(static_cast<std::uint64_t>(b.type) | static_cast<std::uint64_t>(c.type)),      \
-                b.n symbol c.n);                                                                                       \
+        const Value* b = &R(B);                                                                                        \
+        const Value* c = &R(C);                                                                                        \
+        again##name : if ((b->type == Type::Boolean && c->type == Type::Boolean) || bothWhole(*b, *c)) [[likely]] {    \
+            put(R(A), static_cast<Type>(static_cast<std::uint64_t>(b->type) | static_cast<std::uint64_t>(c->type)),    \
+                b->n symbol c->n);                                                                                     \
             NEXT;                                                                                                      \
         }                                                                                                              \
+        LOOK_THROUGH(b, c, again##name)                                                                                \
         SLOW(binary(i));                                                                                               \
     }
     LOGIC(And, &)
@@ -257,21 +335,41 @@ labelConcatenate:
 labelPower:
 labelEqv:
 labelImp:
-labelIs:
     SLOW(binary(i));
+
+labelIs : {
+    const Value& b = R(B).deref();
+    const Value& c = R(C).deref();
+    if (b.type == Type::Object && c.type == Type::Object && dropsQuietly(b) && dropsQuietly(c)) [[likely]] {
+        const bool same = b.counted == c.counted;
+        USED_UP(B)
+        USED_UP(C)
+        put(R(A), Type::Boolean, same ? -1 : 0);
+        NEXT;
+    }
+    SLOW(binary(i));
+}
 
 #define COMPARE(name, symbol)                                                                                          \
     label##name : {                                                                                                    \
-        const Value& b = R(B);                                                                                         \
-        const Value& c = R(C);                                                                                         \
-        if (bothWhole(b, c)) [[likely]] {                                                                              \
-            put(R(A), Type::Boolean, b.n symbol c.n ? -1 : 0);                                                         \
+        const Value* b = &R(B);                                                                                        \
+        const Value* c = &R(C);                                                                                        \
+        again##name : if (bothWhole(*b, *c)) [[likely]] {                                                              \
+            put(R(A), Type::Boolean, b->n symbol c->n ? -1 : 0);                                                       \
             NEXT;                                                                                                      \
         }                                                                                                              \
-        if (isReal(b) && isReal(c)) {                                                                                  \
-            put(R(A), Type::Boolean, real(b) symbol real(c) ? -1 : 0);                                                 \
+        if (isReal(*b) && isReal(*c)) {                                                                                \
+            put(R(A), Type::Boolean, real(*b) symbol real(*c) ? -1 : 0);                                               \
             NEXT;                                                                                                      \
         }                                                                                                              \
+        if (bothTexts(*b, *c)) {                                                                                       \
+            const bool holds = textsHold<Opcode::name>(*b, *c);                                                        \
+            USED_UP(B)                                                                                                 \
+            USED_UP(C)                                                                                                 \
+            put(R(A), Type::Boolean, holds ? -1 : 0);                                                                  \
+            NEXT;                                                                                                      \
+        }                                                                                                              \
+        LOOK_THROUGH(b, c, again##name)                                                                                \
         SLOW(binary(i));                                                                                               \
     }
     COMPARE(Equal, ==)
@@ -352,14 +450,22 @@ labelJumpUnless : {
 
 #define JUMP_ON(name, opcode, symbol, wanted)                                                                          \
     label##name : {                                                                                                    \
-        const Value& a = R(A);                                                                                         \
-        const Value& b = R(B);                                                                                         \
+        const Value* a = &R(A);                                                                                        \
+        const Value* b = &R(B);                                                                                        \
         bool holds;                                                                                                    \
-        if (bothWhole(a, b)) [[likely]] {                                                                              \
-            holds = a.n symbol b.n;                                                                                    \
-        } else if (isReal(a) && isReal(b)) {                                                                           \
-            holds = real(a) symbol real(b);                                                                            \
-        } else {                                                                                                       \
+        again##name : if (bothWhole(*a, *b)) [[likely]] {                                                              \
+            holds = a->n symbol b->n;                                                                                  \
+        }                                                                                                              \
+        else if (isReal(*a) && isReal(*b)) {                                                                           \
+            holds = real(*a) symbol real(*b);                                                                          \
+        }                                                                                                              \
+        else if (bothTexts(*a, *b)) {                                                                                  \
+            holds = textsHold<Opcode::opcode>(*a, *b);                                                                 \
+            USED_UP(A)                                                                                                 \
+            USED_UP(B)                                                                                                 \
+        }                                                                                                              \
+        else {                                                                                                         \
+            LOOK_THROUGH(a, b, again##name)                                                                            \
             SAVE;                                                                                                      \
             holds = comparison(Opcode::opcode, A, B);                                                                  \
         }                                                                                                              \
@@ -437,7 +543,7 @@ labelEachNext:
 
 labelIndex : {
     const Value& base = R(B).deref();
-    const Value& at = R(C);
+    const Value& at = R(C).deref();
     if (base.type == Type::Array && at.isWhole()) [[likely]] {
         const ArrayBlock& array = *base.array();
         if (array.dimensions() == 1 && static_cast<std::uint64_t>(at.n) < array.count()) [[likely]] {
@@ -458,8 +564,8 @@ labelIndex : {
 labelIndex2 : {
     const auto second = static_cast<Operand>(*pc++);
     const Value& base = R(B).deref();
-    const Value& c = R(C);
-    const Value& d = R(second);
+    const Value& c = R(C).deref();
+    const Value& d = R(second).deref();
     if (base.type == Type::Array && bothWhole(c, d)) [[likely]] {
         const ArrayBlock& array = *base.array();
         if (array.dimensions() == 2 && static_cast<std::uint64_t>(c.n) < static_cast<std::uint64_t>(array.size(0)) &&
@@ -479,8 +585,8 @@ labelIndexN:
 
 labelSetIndex : {
     Value& base = R(A).deref();
-    const Value& at = R(B);
-    const Value& value = R(C);
+    const Value& at = R(B).deref();
+    const Value& value = R(C).deref();
     if (base.type == Type::Array && at.isWhole() && isPlain(value) && (X >> 6) == static_cast<unsigned>(Store::Let))
         [[likely]] {
         ArrayBlock& array = *base.array();
@@ -496,9 +602,9 @@ labelSetIndex : {
 labelSetIndex2 : {
     const auto from = static_cast<Operand>(*pc++);
     Value& base = R(A).deref();
-    const Value& b = R(B);
-    const Value& c = R(C);
-    const Value& value = R(from);
+    const Value& b = R(B).deref();
+    const Value& c = R(C).deref();
+    const Value& value = R(from).deref();
     if (base.type == Type::Array && bothWhole(b, c) && isPlain(value) && (X >> 6) == static_cast<unsigned>(Store::Let))
         [[likely]] {
         ArrayBlock& array = *base.array();
@@ -554,17 +660,27 @@ labelCallIntrinsic1 : {
 }
 
 labelCallIntrinsic:
-    SLOW(callIntrinsic(i));
+    SLOW(runIntrinsicRow(intrinsics[C], &R(B), X & 63, R(A), static_cast<Store>(X >> 6)));
 
 labelGetMember : {
     const Value& object = R(B).deref();
-    if (object.type == Type::Object && object.counted != nullptr && (X & 1) == 0) [[likely]] {
+    const bool temporary = (X & 1) != 0;
+    if (object.type == Type::Object && object.counted != nullptr && (!temporary || object.counted->references > 1))
+        [[likely]] {
         const MemberSite& site = frame->procedure->sites[C];
         Object* target = object.object();
         if (target->shape == site.shape && site.field >= 0) [[likely]] {
             const Value& field = static_cast<Instance*>(target)->fields()[site.field];
-            if (!field.isCounted()) [[likely]] {
-                put(R(A), field.type, field.n);
+            const bool counted = field.isCounted();
+            if (!counted || (goesAsItIs(field.type, static_cast<Store>(X >> 6)) && dropsQuietly(R(A)))) [[likely]] {
+                if (counted) {
+                    R(A) = Value(field);
+                } else {
+                    put(R(A), field.type, field.n);
+                }
+                if (temporary && A != B) {
+                    R(B).clear();
+                }
                 NEXT;
             }
         }

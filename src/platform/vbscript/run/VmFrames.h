@@ -53,6 +53,25 @@ inline void Vm::runIntrinsic(const Builtin& intrinsic, Value& argument, Value& t
     Value result = intrinsic.function(*this, {&argument, 1});
     if (isPlain(result) && store <= Store::Let) [[likely]] {
         put(to, result.type, result.n);
+    } else if (result.isString() && store <= Store::Let) {
+        to = std::move(result);
+    } else {
+        deliver(std::move(result), to, store);
+    }
+}
+
+// The same with a row of arguments, which are used up.
+inline void Vm::runIntrinsicRow(const Builtin& intrinsic, Value* first, std::size_t count, Value& to, Store store) {
+    Value result = intrinsic.function(*this, {first, count});
+    for (std::size_t k = 0; k < count; ++k) {
+        if (first[k].isCounted()) {
+            first[k].clear();
+        }
+    }
+    if (isPlain(result) && store <= Store::Let) [[likely]] {
+        put(to, result.type, result.n);
+    } else if (result.isString() && store <= Store::Let) {
+        to = std::move(result);
     } else {
         deliver(std::move(result), to, store);
     }
