@@ -123,11 +123,52 @@ enum class Store : std::uint8_t { Raw = 0, Let = 1, Set = 2, Discard = 3 };
     OP(Raise) /* error number C, detail constant B if X = 1 */                                                         \
     OP(Return)
 
+// The commonest operands have forms of their own, which specialize() picks when a procedure is complete. Local: every
+// operand is a register of the frame. Small: the last operand is a whole constant of -128 to 127, the others are
+// registers of the frame; the number also stands in X, or, where the instruction jumps, in the low 8 bits of J (which
+// then has 16 bits above them). The operands stay as they are, so the long roads need not know.
+#define VBS_LOCAL_FORMS(OP)                                                                                            \
+    OP(Move)                                                                                                           \
+    OP(Let) OP(Add) OP(Subtract) OP(Multiply) OP(Divide) OP(IntegerDivide) OP(Modulo) OP(And) OP(Or) OP(Xor) OP(Equal) \
+        OP(NotEqual) OP(Less) OP(Greater) OP(LessEqual) OP(GreaterEqual) OP(Index) OP(Index2) OP(SetIndex)             \
+            OP(SetIndex2) OP(JumpIf) OP(JumpUnless) OP(ForLoop) VBS_JUMPS_ON(OP)
+#define VBS_SMALL_FORMS(OP) OP(Add) OP(Subtract) OP(Multiply) OP(IntegerDivide) OP(Modulo) OP(And) VBS_JUMPS_ON(OP)
+#define VBS_JUMPS_ON(OP)                                                                                               \
+    OP(JumpEqual)                                                                                                      \
+    OP(JumpNotEqual) OP(JumpLess) OP(JumpGreater) OP(JumpLessEqual) OP(JumpGreaterEqual) OP(UnlessEqual)               \
+        OP(UnlessNotEqual) OP(UnlessLess) OP(UnlessGreater) OP(UnlessLessEqual) OP(UnlessGreaterEqual)
+
 enum class Opcode : std::uint8_t {
 #define VBS_OPCODE(name) name,
-    VBS_OPCODES(VBS_OPCODE)
+#define VBS_LOCAL(name) name##Local,
+#define VBS_SMALL(name) name##Small,
+    VBS_OPCODES(VBS_OPCODE) VBS_LOCAL_FORMS(VBS_LOCAL) VBS_SMALL_FORMS(VBS_SMALL)
 #undef VBS_OPCODE
+#undef VBS_LOCAL
+#undef VBS_SMALL
 };
+
+// The opcode that a form was picked for.
+constexpr Opcode generalForm(Opcode op) noexcept {
+    switch (op) {
+#define VBS_LOCAL(name)                                                                                                \
+    case Opcode::name##Local:                                                                                          \
+        return Opcode::name;
+#define VBS_SMALL(name)                                                                                                \
+    case Opcode::name##Small:                                                                                          \
+        return Opcode::name;
+        VBS_LOCAL_FORMS(VBS_LOCAL)
+        VBS_SMALL_FORMS(VBS_SMALL)
+#undef VBS_LOCAL
+#undef VBS_SMALL
+    default:
+        return op;
+    }
+}
+
+constexpr bool hasSecondWord(Opcode op) noexcept {
+    return op == Opcode::Index2 || op == Opcode::SetIndex2 || op == Opcode::CallMember;
+}
 
 constexpr Instruction encode(Opcode op, Operand a = 0, Operand b = 0, Operand c = 0, std::uint8_t x = 0) noexcept {
     return static_cast<Instruction>(op) | (static_cast<Instruction>(a) << 8) | (static_cast<Instruction>(b) << 24) |

@@ -2,6 +2,7 @@
 #include "platform/vbscript/compile/CodeGen.h"
 
 #include "platform/vbscript/compile/ConstantFolding.h"
+#include "platform/vbscript/compile/Specialize.h"
 
 #include <algorithm>
 
@@ -33,6 +34,7 @@ void CodeGen::generate() {
     block(m_decl.body);
     bind(m_exit);
     emit(encode(Opcode::Return));
+    specialize(m_procedure.code, m_procedure.constants);
     m_procedure.firstTemporary = static_cast<std::uint16_t>(m_hiddenEnd);
     m_procedure.registers = static_cast<std::uint16_t>(m_highest);
     if (m_decl.dynamicScope) {

@@ -8,29 +8,12 @@
 
 #include "platform/vbscript/run/Instance.h"
 #include "platform/vbscript/run/Vm.h"
-#include "platform/vbscript/run/VmFrames.h"
-#include "platform/vbscript/value/Array.h"
+#include "platform/vbscript/run/VmShort.h"
 #include "platform/vbscript/value/Library.h"
-
-#include <cfloat>
-#include <cmath>
 
 namespace vbs {
 
 namespace {
-
-inline bool bothWhole(const Value& a, const Value& b) noexcept {
-    return (static_cast<std::uint64_t>(a.type) | static_cast<std::uint64_t>(b.type)) <= 1;
-}
-
-inline bool isReal(const Value& v) noexcept {
-    return static_cast<std::uint64_t>(v.type) <= 2;
-}
-
-// Integer, Long and Double as double.
-inline double real(const Value& v) noexcept {
-    return v.type == Type::Double ? v.d : static_cast<double>(v.n);
-}
 
 // The value that an operand names. The index stands two bits up in an operand, so its distance in bytes is four times
 // that.
@@ -39,67 +22,9 @@ inline Value& valueAt(Value* const* places, unsigned o) noexcept {
                                      std::size_t{o & 0xfffcU} * (sizeof(Value) / 4));
 }
 
-// Whether an element of this type reaches its place as it is.
-inline bool goesAsItIs(Type type, Store store) noexcept {
-    return type == Type::String ? store == Store::Let || store == Store::Raw
-                                : type == Type::Object && (store == Store::Set || store == Store::Raw);
-}
-
-inline bool isReference(const Value& v) noexcept {
-    return v.type == Type::Reference;
-}
-
-// Whether overwriting the value ends nothing but a text: it holds no last share of an object or array.
-inline bool dropsQuietly(const Value& v) noexcept {
-    return v.type <= Type::String || v.counted == nullptr || v.counted->references > 1;
-}
-
-// A text or object from one register to another; a temporary hands it on.
-inline void carry(Value& to, Value& from, bool temporary) noexcept {
-    if (temporary) {
-        to = std::move(from);
-    } else {
-        to = from;
-    }
-}
-
-inline bool bothTexts(const Value& a, const Value& b) noexcept {
-    return a.type == Type::String && b.type == Type::String;
-}
-
-// Two texts compared by their code units.
-template <Opcode op>
-inline bool textsHold(const Value& a, const Value& b) noexcept {
-    const std::u16string_view x = a.text();
-    const std::u16string_view y = b.text();
-    if constexpr (op == Opcode::Equal || op == Opcode::NotEqual) {
-        return (a.counted == b.counted || x == y) == (op == Opcode::Equal);
-    } else {
-        const int order = x.size() == 1 && y.size() == 1 ? int{x[0]} - int{y[0]} : x.compare(y);
-        return op == Opcode::Less        ? order < 0
-               : op == Opcode::Greater   ? order > 0
-               : op == Opcode::LessEqual ? order <= 0
-                                         : order >= 0;
-    }
-}
-
-inline void putDouble(Value& to, double d) noexcept {
-    if (to.isCounted()) [[unlikely]] {
-        to.clear();
-    }
-    to.type = Type::Double;
-    to.d = d;
-}
-
-// The result of whole arithmetic: `type` is Long if an operand was.
-inline void putWhole(Value& to, std::uint64_t type, std::int64_t n) noexcept {
-    if (n == static_cast<std::int16_t>(n)) [[likely]] {
-        put(to, static_cast<Type>(type), n);
-    } else if (n == static_cast<std::int32_t>(n)) {
-        put(to, Type::Long, n);
-    } else {
-        putDouble(to, static_cast<double>(n));
-    }
+// The same for an operand that is known to be a register of the frame.
+inline Value& registerAt(Value* base, unsigned o) noexcept {
+    return *reinterpret_cast<Value*>(reinterpret_cast<char*>(base) + std::size_t{o} * (sizeof(Value) / 4));
 }
 
 } // namespace
@@ -108,15 +33,20 @@ inline void putWhole(Value& to, std::uint64_t type, std::int64_t n) noexcept {
 void Vm::dispatch(std::size_t floor) {
     static const void* const labels[] = {
 #define VBS_LABEL(name) &&label##name,
-        VBS_OPCODES(VBS_LABEL)
+#define VBS_LOCAL(name) &&label##name##Local,
+#define VBS_SMALL(name) &&label##name##Small,
+        VBS_OPCODES(VBS_LABEL) VBS_LOCAL_FORMS(VBS_LOCAL) VBS_SMALL_FORMS(VBS_SMALL)
 #undef VBS_LABEL
+#undef VBS_LOCAL
+#undef VBS_SMALL
     };
 
     Frame* frame = &top();
     const Instruction* pc = frame->pc;
     Instruction i = 0;
     const Builtin* const intrinsics = m_library.builtins.data();
-    Value* places[4] = {frame->base, m_globals.values(), const_cast<Value*>(frame->procedure->constants.data()),
+    Value* base = frame->base;
+    Value* places[4] = {base, m_globals.values(), const_cast<Value*>(frame->procedure->constants.data()),
                         frame->fields};
 
 // No object with a destructor may be alive here: a computed jump does not run it.
@@ -129,6 +59,11 @@ void Vm::dispatch(std::size_t floor) {
 #define X static_cast<unsigned>(i >> 56)
 #define J (static_cast<std::int64_t>(i) >> 40)
 #define R(o) valueAt(places, o)
+#define L(o) registerAt(base, o)
+// The number of a small form, and the jump of one that jumps.
+#define SMALL static_cast<std::int8_t>(i >> 56)
+#define SMALL_BESIDE_JUMP static_cast<std::int8_t>(i >> 40)
+#define SHORT_JUMP (static_cast<std::int64_t>(i) >> 48)
 #define TEMPORARY(o) (((o)&3) == 0 && ((o) >> 2) >= frame->procedure->firstTemporary)
 // An instruction is done with a text or with an object that has other owners: it goes from a temporary.
 #define USED_UP(o)                                                                                                     \
@@ -138,7 +73,8 @@ void Vm::dispatch(std::size_t floor) {
 #define SAVE frame->pc = pc
 #define ENTER                                                                                                          \
     pc = frame->pc;                                                                                                    \
-    places[0] = frame->base;                                                                                           \
+    base = frame->base;                                                                                                \
+    places[0] = base;                                                                                                  \
     places[2] = const_cast<Value*>(frame->procedure->constants.data());                                                \
     places[3] = frame->fields
 #define LOAD                                                                                                           \
@@ -148,46 +84,39 @@ void Vm::dispatch(std::size_t floor) {
     SAVE;                                                                                                              \
     statement;                                                                                                         \
     NEXT
-#define TAKE_JUMP                                                                                                      \
+#define GO(by)                                                                                                         \
     {                                                                                                                  \
-        const std::int64_t jump = J;                                                                                   \
+        const std::int64_t jump = by;                                                                                  \
         pc += jump;                                                                                                    \
         if (jump < 0 && --m_budget < 0) [[unlikely]] {                                                                 \
             SAVE;                                                                                                      \
             pollSlow();                                                                                                \
         }                                                                                                              \
     }
+#define TAKE_JUMP GO(J)
 
     NEXT;
 
-labelMove : {
-    const Value& b = R(B);
-    if (isPlain(b)) [[likely]] {
-        put(R(A), b.type, b.n);
-        NEXT;
+#define MOVE(label, a, b, mayCarry, slow)                                                                              \
+    label : {                                                                                                          \
+        Value& from = b;                                                                                               \
+        if (isPlain(from)) [[likely]] {                                                                                \
+            put(a, from.type, from.n);                                                                                 \
+            NEXT;                                                                                                      \
+        }                                                                                                              \
+        if ((mayCarry) && dropsQuietly(a)) [[likely]] {                                                                \
+            carry(a, from, TEMPORARY(B));                                                                              \
+            NEXT;                                                                                                      \
+        }                                                                                                              \
+        SLOW(slow);                                                                                                    \
     }
-    if ((b.type == Type::String || b.type == Type::Object) && dropsQuietly(R(A))) [[likely]] {
-        carry(R(A), R(B), TEMPORARY(B));
-        NEXT;
-    }
-    SLOW(R(A) = taken(B));
-}
+    MOVE(labelMove, R(A), R(B), from.isString() || from.isObject(), R(A) = taken(B))
+    MOVE(labelMoveLocal, L(A), L(B), from.isString() || from.isObject(), R(A) = taken(B))
+    MOVE(labelLet, R(A), R(B), from.isString(), letInto(R(A), B))
+    MOVE(labelLetLocal, L(A), L(B), from.isString(), letInto(R(A), B))
 
 labelCopy:
     SLOW(R(A) = Value(R(B).deref()));
-
-labelLet : {
-    const Value& b = R(B);
-    if (isPlain(b)) [[likely]] {
-        put(R(A), b.type, b.n);
-        NEXT;
-    }
-    if (b.type == Type::String && dropsQuietly(R(A))) [[likely]] {
-        carry(R(A), R(B), TEMPORARY(B));
-        NEXT;
-    }
-    SLOW(letInto(R(A), B));
-}
 
 labelSetObject:
     if (R(B).type == Type::Object && dropsQuietly(R(A))) [[likely]] {
@@ -196,19 +125,7 @@ labelSetObject:
     }
     SLOW(setInto(R(A), B));
 
-labelStoreLet : {
-    Value& a = R(A).deref();
-    const Value& b = R(B);
-    if (isPlain(b)) [[likely]] {
-        put(a, b.type, b.n);
-        NEXT;
-    }
-    if (b.type == Type::String && dropsQuietly(a)) [[likely]] {
-        carry(a, R(B), TEMPORARY(B));
-        NEXT;
-    }
-    SLOW(letInto(a, B));
-}
+    MOVE(labelStoreLet, R(A).deref(), R(B), from.isString(), letInto(R(A).deref(), B))
 
 labelStoreSet:
     SLOW(setInto(R(A).deref(), B));
@@ -236,101 +153,52 @@ labelClear:
     R(A).clear();
     NEXT;
 
-// A by-reference argument is looked through, and the common cases are tried again on what it stands for.
-#define LOOK_THROUGH(b, c, again)                                                                                      \
-    if (isReference(*(b)) || isReference(*(c))) {                                                                      \
-        (b) = &(b)->deref();                                                                                           \
-        (c) = &(c)->deref();                                                                                           \
-        goto again;                                                                                                    \
-    }
-
-#define ARITHMETIC(name, symbol)                                                                                       \
-    label##name : {                                                                                                    \
-        const Value* b = &R(B);                                                                                        \
-        const Value* c = &R(C);                                                                                        \
-        again##name : if (bothWhole(*b, *c)) [[likely]] {                                                              \
-            putWhole(R(A), static_cast<std::uint64_t>(b->type) | static_cast<std::uint64_t>(c->type),                  \
-                     b->n symbol c->n);                                                                                \
+// An operator on two values: its short road, then the same with references looked through, then the long road.
+#define BINARY(label, road, a, b, c)                                                                                   \
+    label : {                                                                                                          \
+        const Value& x = b;                                                                                            \
+        const Value& y = c;                                                                                            \
+        if (road(a, x, y)) [[likely]] {                                                                                \
             NEXT;                                                                                                      \
         }                                                                                                              \
-        if (isReal(*b) && isReal(*c)) {                                                                                \
-            const double result = real(*b) symbol real(*c);                                                            \
-            if (std::fabs(result) <= DBL_MAX) [[likely]] {                                                             \
-                putDouble(R(A), result);                                                                               \
-                NEXT;                                                                                                  \
-            }                                                                                                          \
+        if ((isReference(x) || isReference(y)) && lookThrough<road>(a, x, y)) {                                        \
+            NEXT;                                                                                                      \
         }                                                                                                              \
-        LOOK_THROUGH(b, c, again##name)                                                                                \
         SLOW(binary(i));                                                                                               \
     }
-    ARITHMETIC(Add, +)
-    ARITHMETIC(Subtract, -)
-    ARITHMETIC(Multiply, *)
-
-labelDivide : {
-    const Value* b = &R(B);
-    const Value* c = &R(C);
-againDivide:
-    if (isReal(*b) && isReal(*c)) {
-        const double divisor = real(*c);
-        const double result = real(*b) / divisor;
-        if (divisor != 0.0 && std::fabs(result) <= DBL_MAX) [[likely]] {
-            putDouble(R(A), result);
-            NEXT;
-        }
+#define BINARY_FORMS(name, road)                                                                                       \
+    BINARY(label##name, road, R(A), R(B), R(C))                                                                        \
+    BINARY(label##name##Local, road, L(A), L(B), L(C))
+// The same with a small number for the last operand.
+#define BINARY_SMALL(name, road)                                                                                       \
+    label##name##Small : {                                                                                             \
+        if (road(L(A), L(B), SMALL)) [[likely]] {                                                                      \
+            NEXT;                                                                                                      \
+        }                                                                                                              \
+        if (isReference(L(B)) && lookThrough<road>(L(A), L(B), SMALL)) {                                               \
+            NEXT;                                                                                                      \
+        }                                                                                                              \
+        SLOW(binary(i));                                                                                               \
     }
-    LOOK_THROUGH(b, c, againDivide)
-    SLOW(binary(i));
-}
 
-labelIntegerDivide : {
-    const Value* b = &R(B);
-    const Value* c = &R(C);
-againIntegerDivide:
-    if (bothWhole(*b, *c) && c->n > 0) [[likely]] {
-        const auto quotient = static_cast<std::int32_t>(b->n) / static_cast<std::int32_t>(c->n);
-        put(R(A), static_cast<Type>(static_cast<std::uint64_t>(b->type) | static_cast<std::uint64_t>(c->type)),
-            quotient);
-        NEXT;
-    }
-    LOOK_THROUGH(b, c, againIntegerDivide)
-    SLOW(binary(i));
-}
-
-labelModulo : {
-    const Value* b = &R(B);
-    const Value* c = &R(C);
-againModulo:
-    if (bothWhole(*b, *c) && c->n > 0) [[likely]] {
-        const auto n = static_cast<std::int32_t>(b->n);
-        const auto divisor = static_cast<std::int32_t>(c->n);
-        const bool masks = n >= 0 && (divisor & (divisor - 1)) == 0; // a division costs more than a test
-        const std::int32_t rest = masks ? n & (divisor - 1) : n % divisor;
-        put(R(A), static_cast<Type>(static_cast<std::uint64_t>(b->type) | static_cast<std::uint64_t>(c->type)), rest);
-        NEXT;
-    }
-    LOOK_THROUGH(b, c, againModulo)
-    SLOW(binary(i));
-}
+    BINARY_FORMS(Add, arithmetic<Opcode::Add>)
+    BINARY_FORMS(Subtract, arithmetic<Opcode::Subtract>)
+    BINARY_FORMS(Multiply, arithmetic<Opcode::Multiply>)
+    BINARY_FORMS(Divide, quotient)
+    BINARY_FORMS(IntegerDivide, wholeQuotient)
+    BINARY_FORMS(Modulo, rest)
+    BINARY_FORMS(And, logic<Opcode::And>)
+    BINARY_FORMS(Or, logic<Opcode::Or>)
+    BINARY_FORMS(Xor, logic<Opcode::Xor>)
+    BINARY_SMALL(Add, arithmeticSmall<Opcode::Add>)
+    BINARY_SMALL(Subtract, arithmeticSmall<Opcode::Subtract>)
+    BINARY_SMALL(Multiply, arithmeticSmall<Opcode::Multiply>)
+    BINARY_SMALL(IntegerDivide, wholeQuotientSmall)
+    BINARY_SMALL(Modulo, restSmall)
+    BINARY_SMALL(And, andSmall)
 
 labelConcatenate:
     SLOW(concatenateInto(i));
-
-#define LOGIC(name, symbol)                                                                                            \
-    label##name : {                                                                                                    \
-        const Value* b = &R(B);                                                                                        \
-        const Value* c = &R(C);                                                                                        \
-        again##name : if ((b->type == Type::Boolean && c->type == Type::Boolean) || bothWhole(*b, *c)) [[likely]] {    \
-            put(R(A), static_cast<Type>(static_cast<std::uint64_t>(b->type) | static_cast<std::uint64_t>(c->type)),    \
-                b->n symbol c->n);                                                                                     \
-            NEXT;                                                                                                      \
-        }                                                                                                              \
-        LOOK_THROUGH(b, c, again##name)                                                                                \
-        SLOW(binary(i));                                                                                               \
-    }
-    LOGIC(And, &)
-    LOGIC(Or, |)
-    LOGIC(Xor, ^)
 
 labelPower:
 labelEqv:
@@ -350,34 +218,34 @@ labelIs : {
     SLOW(binary(i));
 }
 
-#define COMPARE(name, symbol)                                                                                          \
-    label##name : {                                                                                                    \
-        const Value* b = &R(B);                                                                                        \
-        const Value* c = &R(C);                                                                                        \
-        again##name : if (bothWhole(*b, *c)) [[likely]] {                                                              \
-            put(R(A), Type::Boolean, b->n symbol c->n ? -1 : 0);                                                       \
+#define COMPARE(label, op, a, b, c)                                                                                    \
+    label : {                                                                                                          \
+        const Value& x = b;                                                                                            \
+        const Value& y = c;                                                                                            \
+        if (relation<op>(a, x, y)) [[likely]] {                                                                        \
             NEXT;                                                                                                      \
         }                                                                                                              \
-        if (isReal(*b) && isReal(*c)) {                                                                                \
-            put(R(A), Type::Boolean, real(*b) symbol real(*c) ? -1 : 0);                                               \
-            NEXT;                                                                                                      \
-        }                                                                                                              \
-        if (bothTexts(*b, *c)) {                                                                                       \
-            const bool holds = textsHold<Opcode::name>(*b, *c);                                                        \
+        if (bothTexts(x, y)) {                                                                                         \
+            const bool holds = textsHold<op>(x, y);                                                                    \
             USED_UP(B)                                                                                                 \
             USED_UP(C)                                                                                                 \
-            put(R(A), Type::Boolean, holds ? -1 : 0);                                                                  \
+            putBoolean(a, holds);                                                                                      \
             NEXT;                                                                                                      \
         }                                                                                                              \
-        LOOK_THROUGH(b, c, again##name)                                                                                \
+        if ((isReference(x) || isReference(y)) && lookThrough<relation<op>>(a, x, y)) {                                \
+            NEXT;                                                                                                      \
+        }                                                                                                              \
         SLOW(binary(i));                                                                                               \
     }
-    COMPARE(Equal, ==)
-    COMPARE(NotEqual, !=)
-    COMPARE(Less, <)
-    COMPARE(Greater, >)
-    COMPARE(LessEqual, <=)
-    COMPARE(GreaterEqual, >=)
+#define COMPARE_FORMS(name)                                                                                            \
+    COMPARE(label##name, Opcode::name, R(A), R(B), R(C))                                                               \
+    COMPARE(label##name##Local, Opcode::name, L(A), L(B), L(C))
+    COMPARE_FORMS(Equal)
+    COMPARE_FORMS(NotEqual)
+    COMPARE_FORMS(Less)
+    COMPARE_FORMS(Greater)
+    COMPARE_FORMS(LessEqual)
+    COMPARE_FORMS(GreaterEqual)
 
 labelNegate : {
     const Value& b = R(B);
@@ -418,74 +286,74 @@ labelBack:
     TAKE_JUMP
     NEXT;
 
-labelJumpIf : {
-    const Value& a = R(A);
-    if (a.type == Type::Boolean) [[likely]] {
-        if (a.n != 0) {
-            TAKE_JUMP
-        }
-        NEXT;
+#define JUMP_ON_CONDITION(label, a, wanted)                                                                            \
+    label : {                                                                                                          \
+        const Value& x = a;                                                                                            \
+        if (x.type == Type::Boolean) [[likely]] {                                                                      \
+            if ((x.n != 0) == (wanted)) {                                                                              \
+                TAKE_JUMP                                                                                              \
+            }                                                                                                          \
+            NEXT;                                                                                                      \
+        }                                                                                                              \
+        SAVE;                                                                                                          \
+        if (condition(A) == (wanted)) {                                                                                \
+            TAKE_JUMP                                                                                                  \
+        }                                                                                                              \
+        NEXT;                                                                                                          \
     }
-    SAVE;
-    if (condition(A)) {
-        TAKE_JUMP
-    }
-    NEXT;
-}
+    JUMP_ON_CONDITION(labelJumpIf, R(A), true)
+    JUMP_ON_CONDITION(labelJumpIfLocal, L(A), true)
+    JUMP_ON_CONDITION(labelJumpUnless, R(A), false)
+    JUMP_ON_CONDITION(labelJumpUnlessLocal, L(A), false)
 
-labelJumpUnless : {
-    const Value& a = R(A);
-    if (a.type == Type::Boolean) [[likely]] {
-        if (a.n == 0) {
-            TAKE_JUMP
-        }
-        NEXT;
-    }
-    SAVE;
-    if (!condition(A)) {
-        TAKE_JUMP
-    }
-    NEXT;
-}
-
-#define JUMP_ON(name, opcode, symbol, wanted)                                                                          \
-    label##name : {                                                                                                    \
-        const Value* a = &R(A);                                                                                        \
-        const Value* b = &R(B);                                                                                        \
+#define JUMP_ON(label, op, a, b, wanted)                                                                               \
+    label : {                                                                                                          \
+        const Value& x = a;                                                                                            \
+        const Value& y = b;                                                                                            \
         bool holds;                                                                                                    \
-        again##name : if (bothWhole(*a, *b)) [[likely]] {                                                              \
-            holds = a->n symbol b->n;                                                                                  \
-        }                                                                                                              \
-        else if (isReal(*a) && isReal(*b)) {                                                                           \
-            holds = real(*a) symbol real(*b);                                                                          \
-        }                                                                                                              \
-        else if (bothTexts(*a, *b)) {                                                                                  \
-            holds = textsHold<Opcode::opcode>(*a, *b);                                                                 \
-            USED_UP(A)                                                                                                 \
-            USED_UP(B)                                                                                                 \
-        }                                                                                                              \
-        else {                                                                                                         \
-            LOOK_THROUGH(a, b, again##name)                                                                            \
-            SAVE;                                                                                                      \
-            holds = comparison(Opcode::opcode, A, B);                                                                  \
+        if (!compared<op>(holds, x, y)) [[unlikely]] {                                                                 \
+            if (bothTexts(x, y)) {                                                                                     \
+                holds = textsHold<op>(x, y);                                                                           \
+                USED_UP(A)                                                                                             \
+                USED_UP(B)                                                                                             \
+            } else if (!(isReference(x) || isReference(y)) || !lookThrough<compared<op>>(holds, x, y)) {               \
+                SAVE;                                                                                                  \
+                holds = comparison(op, A, B);                                                                          \
+            }                                                                                                          \
         }                                                                                                              \
         if (holds == (wanted)) {                                                                                       \
             TAKE_JUMP                                                                                                  \
         }                                                                                                              \
         NEXT;                                                                                                          \
     }
-    JUMP_ON(JumpEqual, Equal, ==, true)
-    JUMP_ON(JumpNotEqual, NotEqual, !=, true)
-    JUMP_ON(JumpLess, Less, <, true)
-    JUMP_ON(JumpGreater, Greater, >, true)
-    JUMP_ON(JumpLessEqual, LessEqual, <=, true)
-    JUMP_ON(JumpGreaterEqual, GreaterEqual, >=, true)
-    JUMP_ON(UnlessEqual, Equal, ==, false)
-    JUMP_ON(UnlessNotEqual, NotEqual, !=, false)
-    JUMP_ON(UnlessLess, Less, <, false)
-    JUMP_ON(UnlessGreater, Greater, >, false)
-    JUMP_ON(UnlessLessEqual, LessEqual, <=, false)
-    JUMP_ON(UnlessGreaterEqual, GreaterEqual, >=, false)
+#define JUMP_ON_SMALL(label, op, wanted)                                                                               \
+    label : {                                                                                                          \
+        const Value& x = L(A);                                                                                         \
+        bool holds;                                                                                                    \
+        if (!comparedSmall<op>(holds, x, SMALL_BESIDE_JUMP)) [[unlikely]] {                                            \
+            if (!isReference(x) || !comparedSmall<op>(holds, *x.target, SMALL_BESIDE_JUMP)) {                          \
+                SAVE;                                                                                                  \
+                holds = comparison(op, A, B);                                                                          \
+            }                                                                                                          \
+        }                                                                                                              \
+        if (holds == (wanted)) {                                                                                       \
+            GO(SHORT_JUMP)                                                                                             \
+        }                                                                                                              \
+        NEXT;                                                                                                          \
+    }
+#define JUMP_ON_FORMS(name, op)                                                                                        \
+    JUMP_ON(labelJump##name, op, R(A), R(B), true)                                                                     \
+    JUMP_ON(labelJump##name##Local, op, L(A), L(B), true)                                                              \
+    JUMP_ON_SMALL(labelJump##name##Small, op, true)                                                                    \
+    JUMP_ON(labelUnless##name, op, R(A), R(B), false)                                                                  \
+    JUMP_ON(labelUnless##name##Local, op, L(A), L(B), false)                                                           \
+    JUMP_ON_SMALL(labelUnless##name##Small, op, false)
+    JUMP_ON_FORMS(Equal, Opcode::Equal)
+    JUMP_ON_FORMS(NotEqual, Opcode::NotEqual)
+    JUMP_ON_FORMS(Less, Opcode::Less)
+    JUMP_ON_FORMS(Greater, Opcode::Greater)
+    JUMP_ON_FORMS(LessEqual, Opcode::LessEqual)
+    JUMP_ON_FORMS(GreaterEqual, Opcode::GreaterEqual)
 
 labelForPrepare : {
     const Value& variable = R(A);
@@ -503,33 +371,20 @@ labelForPrepare : {
     NEXT;
 }
 
-labelForLoop : {
-    Value& variable = R(A);
-    const Value* limits = &R(B);
-    if (bothWhole(variable, limits[0]) && limits[1].isWhole()) [[likely]] {
-        const std::int64_t step = limits[1].n;
-        const std::int64_t n = variable.n + step;
-        if (n == static_cast<std::int16_t>(n)) [[likely]] {
-            variable.n = n;
-            variable.type = static_cast<Type>(static_cast<std::uint64_t>(variable.type) |
-                                              static_cast<std::uint64_t>(limits[1].type));
-        } else if (n == static_cast<std::int32_t>(n)) {
-            variable.n = n;
-            variable.type = Type::Long;
-        } else {
-            putDouble(variable, static_cast<double>(n));
-        }
-        if (step >= 0 ? n <= limits[0].n : n >= limits[0].n) [[likely]] {
-            TAKE_JUMP
-        }
-        NEXT;
+#define FOR_LOOP(label, a, b)                                                                                          \
+    label : {                                                                                                          \
+        bool runs;                                                                                                     \
+        if (!countedOn(runs, a, &b)) [[unlikely]] {                                                                    \
+            SAVE;                                                                                                      \
+            runs = forStep(R(A).deref(), &R(B));                                                                       \
+        }                                                                                                              \
+        if (runs) [[likely]] {                                                                                         \
+            TAKE_JUMP                                                                                                  \
+        }                                                                                                              \
+        NEXT;                                                                                                          \
     }
-    SAVE;
-    if (forStep(variable.deref(), &R(B))) {
-        TAKE_JUMP
-    }
-    NEXT;
-}
+    FOR_LOOP(labelForLoop, R(A), R(B))
+    FOR_LOOP(labelForLoopLocal, L(A), L(B))
 
 labelEachPrepare:
     SLOW(eachPrepare(i));
@@ -541,82 +396,50 @@ labelEachNext:
     }
     NEXT;
 
-labelIndex : {
-    const Value& base = R(B).deref();
-    const Value& at = R(C).deref();
-    if (base.type == Type::Array && at.isWhole()) [[likely]] {
-        const ArrayBlock& array = *base.array();
-        if (array.dimensions() == 1 && static_cast<std::uint64_t>(at.n) < array.count()) [[likely]] {
-            const Value& element = array.elements()[at.n];
-            if (!element.isCounted()) [[likely]] {
-                put(R(A), element.type, element.n);
-                NEXT;
-            }
-            if (goesAsItIs(element.type, static_cast<Store>(X >> 6))) {
-                R(A) = Value(element);
-                NEXT;
-            }
-        }
+#define ELEMENT(label, a, b, c)                                                                                        \
+    label : {                                                                                                          \
+        if (element(a, b, c, static_cast<Store>(X >> 6))) [[likely]] {                                                 \
+            NEXT;                                                                                                      \
+        }                                                                                                              \
+        SLOW(index(i));                                                                                                \
     }
-    SLOW(index(i));
-}
+    ELEMENT(labelIndex, R(A), R(B), R(C))
+    ELEMENT(labelIndexLocal, L(A), L(B), L(C))
 
-labelIndex2 : {
-    const auto second = static_cast<Operand>(*pc++);
-    const Value& base = R(B).deref();
-    const Value& c = R(C).deref();
-    const Value& d = R(second).deref();
-    if (base.type == Type::Array && bothWhole(c, d)) [[likely]] {
-        const ArrayBlock& array = *base.array();
-        if (array.dimensions() == 2 && static_cast<std::uint64_t>(c.n) < static_cast<std::uint64_t>(array.size(0)) &&
-            static_cast<std::uint64_t>(d.n) < static_cast<std::uint64_t>(array.size(1))) [[likely]] {
-            const Value& element = array.elements()[c.n + d.n * array.size(0)];
-            if (!element.isCounted()) [[likely]] {
-                put(R(A), element.type, element.n);
-                NEXT;
-            }
-        }
+#define ELEMENT_2(label, a, b, c, d)                                                                                   \
+    label : {                                                                                                          \
+        const auto second = static_cast<Operand>(*pc++);                                                               \
+        if (element2(a, b, c, d)) [[likely]] {                                                                         \
+            NEXT;                                                                                                      \
+        }                                                                                                              \
+        SLOW(index2(i, second));                                                                                       \
     }
-    SLOW(index2(i, second));
-}
+    ELEMENT_2(labelIndex2, R(A), R(B), R(C), R(second))
+    ELEMENT_2(labelIndex2Local, L(A), L(B), L(C), L(second))
 
 labelIndexN:
     SLOW(indexN(i));
 
-labelSetIndex : {
-    Value& base = R(A).deref();
-    const Value& at = R(B).deref();
-    const Value& value = R(C).deref();
-    if (base.type == Type::Array && at.isWhole() && isPlain(value) && (X >> 6) == static_cast<unsigned>(Store::Let))
-        [[likely]] {
-        ArrayBlock& array = *base.array();
-        if (array.references == 1 && array.dimensions() == 1 && static_cast<std::uint64_t>(at.n) < array.count())
-            [[likely]] {
-            put(array.elements()[at.n], value.type, value.n);
-            NEXT;
-        }
+#define STORE_ELEMENT(label, a, b, c)                                                                                  \
+    label : {                                                                                                          \
+        if ((X >> 6) == static_cast<unsigned>(Store::Let) && storeElement(a, b, c)) [[likely]] {                       \
+            NEXT;                                                                                                      \
+        }                                                                                                              \
+        SLOW(storeIndex(i));                                                                                           \
     }
-    SLOW(storeIndex(i));
-}
+    STORE_ELEMENT(labelSetIndex, R(A), R(B), R(C))
+    STORE_ELEMENT(labelSetIndexLocal, L(A), L(B), L(C))
 
-labelSetIndex2 : {
-    const auto from = static_cast<Operand>(*pc++);
-    Value& base = R(A).deref();
-    const Value& b = R(B).deref();
-    const Value& c = R(C).deref();
-    const Value& value = R(from).deref();
-    if (base.type == Type::Array && bothWhole(b, c) && isPlain(value) && (X >> 6) == static_cast<unsigned>(Store::Let))
-        [[likely]] {
-        ArrayBlock& array = *base.array();
-        if (array.references == 1 && array.dimensions() == 2 &&
-            static_cast<std::uint64_t>(b.n) < static_cast<std::uint64_t>(array.size(0)) &&
-            static_cast<std::uint64_t>(c.n) < static_cast<std::uint64_t>(array.size(1))) [[likely]] {
-            put(array.elements()[b.n + c.n * array.size(0)], value.type, value.n);
-            NEXT;
-        }
+#define STORE_ELEMENT_2(label, a, b, c, d)                                                                             \
+    label : {                                                                                                          \
+        const auto from = static_cast<Operand>(*pc++);                                                                 \
+        if ((X >> 6) == static_cast<unsigned>(Store::Let) && storeElement2(a, b, c, d)) [[likely]] {                   \
+            NEXT;                                                                                                      \
+        }                                                                                                              \
+        SLOW(storeIndex2(i, from));                                                                                    \
     }
-    SLOW(storeIndex2(i, from));
-}
+    STORE_ELEMENT_2(labelSetIndex2, R(A), R(B), R(C), R(from))
+    STORE_ELEMENT_2(labelSetIndex2Local, L(A), L(B), L(C), L(from))
 
 labelSetIndexN:
     SLOW(storeIndexN(i));
@@ -790,7 +613,6 @@ labelRaise:
 
 labelReturn : {
     const Procedure& procedure = *frame->procedure;
-    Value* base = frame->base;
     if (frame->me == nullptr && frame->extra == nullptr) [[likely]] {
         Value* to = frame->result;
         const int slot = procedure.resultSlot;

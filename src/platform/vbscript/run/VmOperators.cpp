@@ -22,7 +22,7 @@ Operand operandC(Instruction i) noexcept {
     return static_cast<Operand>(i >> 40);
 }
 Opcode opcode(Instruction i) noexcept {
-    return static_cast<Opcode>(i & 0xff);
+    return generalForm(static_cast<Opcode>(i & 0xff));
 }
 
 // Whether a comparison holds for that order; an unordered pair is merely not equal.
