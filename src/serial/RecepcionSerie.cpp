@@ -1,29 +1,19 @@
 #include "serial/RecepcionSerie.h"
 
-#include <exception>
-
-void RecepcionSerie::alRecibir(const Entrada& Input) {
-    try {
-        recibir(Input);
-    } catch (const LecturaRechazada& rechazo) {
-        salida_.rechazar(rechazo.lectura(), rechazo.what());
-    } catch (const std::exception& fallo) {
-        salida_.rechazar({}, fallo.what());
-    }
-    instantanea_ = cortador_.version();
-}
-
-void RecepcionSerie::recibir(const Entrada& Input) {
+void RecepcionSerie::alRecibir() {
+    ventana_.vigilarSilencio(false);
     std::string trama;
-    std::string trozo = Input();
+    std::string trozo = ventana_.Input();
     do {
         cortador_.agregar(trozo);
-        salida_.agregarRecibido(trozo);
+        ventana_.agregarRecibido(trozo);
         cortador_.cortar(trama);
         if (!trama.empty())
-            salida_.agregarListado(interprete_.interpretarTrama(trama));
-        trozo = Input();
+            ventana_.interpretarTrama(trama);
+        trozo = ventana_.Input();
     } while (!trozo.empty());
+    instantanea_ = cortador_.version();
+    ventana_.vigilarSilencio(true);
 }
 
 void RecepcionSerie::alCallar() {

@@ -4,7 +4,6 @@
 
 #include "serial/EntornoSerie.h"
 
-#include <functional>
 #include <map>
 #include <stdexcept>
 #include <string>
@@ -31,8 +30,7 @@ class LogFalso final : public LogSerie {
 public:
     virtual ~LogFalso() = default;
 
-    std::vector<std::string> lineas;  // origin>message>detail>description
-    std::function<void()> alEscribir; // runs with each line, as the box of the debug switch does
+    std::vector<std::string> lineas; // origin>message>detail>description
 
     void escribirLog(std::string_view origen, std::string_view mensaje, std::string_view detalle,
                      std::string_view descripcionError) override {
@@ -40,8 +38,6 @@ public:
         linea.append(origen).append(">").append(mensaje).append(">").append(detalle).append(">").append(
             descripcionError);
         lineas.push_back(linea);
-        if (alEscribir)
-            alEscribir();
     }
 };
 

@@ -5,4 +5,5 @@ Class K
     Set Mas = Me
   End Function
 End Class
-WScript.Echo (New K).Mas(5).Mas(6).n '> 11
+x = (New K).Mas(5).Mas(6).n
+WScript.Echo x, (New K).Mas(1).n '> 11 1

@@ -3,4 +3,4 @@ Class K
     Doble = n * 2
   End Function
 End Class
-WScript.Echo (New K).Doble(4) '> 8
+WScript.Echo 0 + (New K).Doble(4) '> 8

@@ -167,17 +167,6 @@ TEST_F(BadInput, textsThatDoNotCompileLeaveNoNamesBehind) {
     EXPECT_TRUE(control.addCode(numbered("v# = #\n", 10000)));
 }
 
-// Each constant needs the one before twice: worked out naively this takes 2^200 steps.
-TEST_F(BadInput, constantsThatUseEachOtherAreWorkedOutOnce) {
-    std::string text = "Const c0 = 1\n";
-    for (int i = 1; i < 200; ++i) {
-        const std::string before = "c" + std::to_string(i - 1);
-        text += "Const c" + std::to_string(i) + " = " + before + " * " + before + "\n";
-    }
-    EXPECT_EQ(errorOf(text + "If c199 <> 1 Then Err.Raise 5"), 0);
-    EXPECT_EQ(errorOf("Sub s\n" + text + "If c199 <> 1 Then Err.Raise 5\nEnd Sub\ns"), 0);
-}
-
 TEST_F(BadInput, namesHaveAtMost255Characters) {
     EXPECT_EQ(errorOf(std::string(255, 'a') + " = 1"), 0);
     EXPECT_EQ(errorOf(std::string(256, 'a') + " = 1"), 1030);

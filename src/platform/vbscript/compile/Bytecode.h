@@ -68,7 +68,6 @@ enum class Store : std::uint8_t { Raw = 0, Let = 1, Set = 2, Discard = 3 };
     OP(GreaterEqual)                                                                                                   \
     OP(Is)                                                                                                             \
     OP(Negate) /* A = op B */                                                                                          \
-    OP(Plus)                                                                                                           \
     OP(Not)                                                                                                            \
     OP(Join)       /* A = texts B, B+1 ... (X of them) in a row */                                                     \
     OP(Append)     /* A = A & texts B, B+1 ... (X of them) */                                                          \

@@ -15,7 +15,7 @@ CodeGen::CodeGen(UnitScope& scope, const ProcedureDecl& decl, Procedure& procedu
     procedure.form = decl.kind;
     procedure.dynamicScope = decl.dynamicScope;
     for (const Parameter& parameter : decl.parameters) {
-        newLocal(parameter.name, !parameter.byValue, false);
+        newLocal(parameter.name, !parameter.byValue);
         procedure.byValue.push_back(parameter.byValue);
         procedure.anyByValue = procedure.anyByValue || parameter.byValue;
     }
@@ -23,7 +23,7 @@ CodeGen::CodeGen(UnitScope& scope, const ProcedureDecl& decl, Procedure& procedu
 }
 
 void CodeGen::addCaptured(Symbol name) {
-    newLocal(name, true, false);
+    newLocal(name, true);
     ++m_procedure.parameters;
     m_procedure.byValue.push_back(false);
 }
@@ -44,11 +44,11 @@ void CodeGen::generate() {
     }
 }
 
-std::size_t CodeGen::newLocal(Symbol symbol, bool mayRefer, bool constant) {
+std::size_t CodeGen::newLocal(Symbol symbol, bool mayRefer, const Expr* literal) {
     if (m_nextLocal >= maxIndex / 2) {
         throw CompileError{ErrorNumber::OutOfMemoryCompiling, m_decl.at};
     }
-    m_locals[symbol] = {operandOf(Place::Frame, m_nextLocal), mayRefer, constant};
+    m_locals[symbol] = {operandOf(Place::Frame, m_nextLocal), mayRefer, literal};
     m_localOrder.push_back(symbol);
     return m_nextLocal++;
 }
@@ -60,23 +60,19 @@ void CodeGen::layOut() {
     const bool answers =
         m_decl.kind == PK::Function || m_decl.kind == PK::PropertyGet || (isMain && m_decl.name != noSymbol);
     if (answers) {
-        m_procedure.resultSlot = static_cast<int>(newLocal(m_decl.name, false, false));
+        m_procedure.resultSlot = static_cast<int>(newLocal(m_decl.name, false));
     }
     if (!isMain || m_procedure.parameters > 0) {
         for (const Variable& variable : m_decl.variables) {
             if (!m_locals.contains(variable.name)) {
-                newLocal(variable.name, false, false);
+                newLocal(variable.name, false);
             }
         }
     }
     if (!isMain) {
-        std::unordered_map<Symbol, const Expr*> known;
         for (const ConstDecl& decl : m_decl.constants) {
-            known[decl.name] = decl.value;
-        }
-        for (const ConstDecl& decl : m_decl.constants) {
-            const std::size_t index = newLocal(decl.name, false, true);
-            m_localConstants.emplace_back(decl.name, operandOf(Place::Frame, index));
+            const std::size_t index = newLocal(decl.name, false, decl.value);
+            m_localConstants.emplace_back(decl.value, operandOf(Place::Frame, index));
         }
         addImplicitLocals();
     }
@@ -90,7 +86,7 @@ void CodeGen::addImplicitLocals() {
     const auto consider = [this](Symbol symbol) {
         if (!m_locals.contains(symbol) && !isMember(symbol) &&
             m_scope.resolve(symbol).kind == Resolved::Kind::Unknown) {
-            newLocal(symbol, false, false);
+            newLocal(symbol, false);
             m_scope.unit.assumedLocal.push_back(symbol);
         }
     };
@@ -121,8 +117,9 @@ bool CodeGen::isMember(Symbol symbol) const {
 Resolved CodeGen::resolve(Symbol symbol) {
     Resolved r;
     if (const auto local = m_locals.find(symbol); local != m_locals.end()) {
-        r.kind = local->second.constant ? Resolved::Kind::Constant : Resolved::Kind::Variable;
-        r.operand = local->second.operand;
+        r.literal = local->second.literal;
+        r.kind = r.literal != nullptr ? Resolved::Kind::Constant : Resolved::Kind::Variable;
+        r.operand = r.literal != nullptr ? constantOf(*r.literal) : local->second.operand;
         r.mayRefer = local->second.mayRefer;
         return r;
     }
@@ -138,7 +135,11 @@ Resolved CodeGen::resolve(Symbol symbol) {
             return r;
         }
     }
-    return m_scope.resolve(symbol);
+    r = m_scope.resolve(symbol);
+    if (r.literal != nullptr) {
+        r.operand = constantOf(*r.literal);
+    }
+    return r;
 }
 
 bool CodeGen::isOwnResult(Symbol symbol) const {
@@ -179,12 +180,18 @@ Operand CodeGen::newHidden() {
     return operandOf(Place::Frame, m_hidden++);
 }
 
-Operand CodeGen::constant(Value value) {
+Operand CodeGen::constantOf(const Expr& literal) {
+    return constant(foldConstant(literal), literal.kind != Expr::Kind::Literal);
+}
+
+// `computed`: the script does not write the value as one literal, which counts where it is compared with a text.
+Operand CodeGen::constant(Value value, bool computed) {
     const bool text = value.isString();
     const std::uint64_t key = (static_cast<std::uint64_t>(value.type) << 60) ^ static_cast<std::uint64_t>(value.n);
     const bool keyed = !text && (value.type <= Type::Long || value.type == Type::Double);
     // Doubles use their top bits; keep them apart from whole numbers by a key of their own.
     const std::uint64_t numberKey = value.type == Type::Double ? static_cast<std::uint64_t>(value.n) * 3 + 1 : key * 3;
+    auto& numbers = computed ? m_computedConstants : m_numberConstants;
     std::u16string textKey;
     if (text) {
         textKey = value.text();
@@ -192,8 +199,8 @@ Operand CodeGen::constant(Value value) {
             return found->second;
         }
     } else if (keyed) {
-        const auto found = m_numberConstants.find(numberKey);
-        if (found != m_numberConstants.end()) {
+        const auto found = numbers.find(numberKey);
+        if (found != numbers.end()) {
             const Value& known = m_procedure.constants[indexOf(found->second)];
             if (known.type == value.type && known.n == value.n) {
                 return found->second;
@@ -202,6 +209,10 @@ Operand CodeGen::constant(Value value) {
     }
     const std::size_t index = m_procedure.constants.size();
     m_procedure.constants.push_back(std::move(value));
+    if (computed) {
+        m_procedure.computed.resize(index + 1);
+        m_procedure.computed[index] = true;
+    }
     if (index > maxIndex) {
         if (index > static_cast<std::size_t>(maxJump)) {
             throw CompileError{ErrorNumber::OutOfMemoryCompiling, m_decl.at};
@@ -214,7 +225,7 @@ Operand CodeGen::constant(Value value) {
     if (text) {
         m_textConstants[textKey] = o;
     } else if (keyed) {
-        m_numberConstants[numberKey] = o;
+        numbers[numberKey] = o;
     }
     return o;
 }
@@ -290,9 +301,10 @@ void CodeGen::deliver(Operand from, Operand to, Store store) {
 }
 
 void CodeGen::prologue() {
-    ConstantTable constants(m_decl.constants);
-    for (const auto& [name, operand] : m_localConstants) {
-        emit(encode(Opcode::Move, operand, constant(constants.valueOf(name))));
+    for (const auto& [literal, operand] : m_localConstants) {
+        if (m_decl.dynamicScope) { // for Execute; code of this text holds the literal
+            emit(encode(Opcode::Move, operand, constantOf(*literal)));
+        }
     }
     for (const Variable& variable : m_decl.variables) {
         if (!variable.array) {

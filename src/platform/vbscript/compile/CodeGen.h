@@ -28,7 +28,8 @@ struct Resolved {
     };
     Kind kind = Kind::Unknown;
     Operand operand = 0;
-    bool mayRefer = false; // the register may hold a reference to a variable elsewhere
+    const Expr* literal = nullptr; // of a Constant of this text
+    bool mayRefer = false;         // the register may hold a reference to a variable elsewhere
     std::uint32_t slot = 0;
     const ProcedureDecl* procedure = nullptr; // of Callable, where it is declared in this text
     const ClassMember* member = nullptr;
@@ -58,7 +59,7 @@ private:
     std::unordered_map<Symbol, const ProcedureDecl*> m_procedures;
     std::unordered_set<Symbol> m_classes;
     std::unordered_set<Symbol> m_variables;
-    std::unordered_set<Symbol> m_constants;
+    std::unordered_map<Symbol, const Expr*> m_constants;
     std::unordered_set<Symbol> m_implicit;
 };
 
@@ -74,13 +75,13 @@ private:
     struct Local {
         Operand operand;
         bool mayRefer;
-        bool constant;
+        const Expr* literal; // of constants
     };
     using Label = std::vector<std::size_t>; // jumps that wait for their target
 
     // registers and names
     void layOut();
-    std::size_t newLocal(Symbol symbol, bool mayRefer, bool constant);
+    std::size_t newLocal(Symbol symbol, bool mayRefer, const Expr* literal = nullptr);
     bool isMember(Symbol symbol) const;
     void addImplicitLocals();
     Resolved resolve(Symbol symbol);
@@ -88,7 +89,8 @@ private:
     Operand newTemporary();
     Operand newHidden();
     bool isTemporary(Operand o) const noexcept { return placeOf(o) == Place::Frame && indexOf(o) >= m_hiddenEnd; }
-    Operand constant(Value value);
+    Operand constant(Value value, bool computed = false);
+    Operand constantOf(const Expr& literal);
     Operand textConstant(Symbol symbol);
     std::uint16_t site(Symbol symbol);
 
@@ -190,12 +192,13 @@ private:
     std::size_t m_highest = 0;
     std::unordered_map<std::u16string, Operand> m_textConstants;
     std::unordered_map<std::uint64_t, Operand> m_numberConstants;
+    std::unordered_map<std::uint64_t, Operand> m_computedConstants;
     std::unordered_map<Symbol, std::vector<std::uint16_t>> m_sites;
     std::vector<Operand> m_withs;
     std::vector<Label*> m_exitDo;
     std::vector<Label*> m_exitFor;
     Label m_exit;
-    std::vector<std::pair<Symbol, Operand>> m_localConstants;
+    std::vector<std::pair<const Expr*, Operand>> m_localConstants;
     bool m_markOpen = false;
 };
 

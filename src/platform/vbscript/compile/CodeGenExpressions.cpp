@@ -91,7 +91,7 @@ Operand CodeGen::expr(const Expr* e) {
         return constant(e->value);
     }
     if (e->kind == Expr::Kind::Negate && e->a->kind == Expr::Kind::Literal && e->a->value.type <= Type::Single) {
-        return constant(foldConstant(*e));
+        return constantOf(*e);
     }
     if (const auto variable = plainVariable(e)) {
         return *variable;
@@ -135,10 +135,7 @@ void CodeGen::exprTo(const Expr* e, Operand to, Store store) {
             binaryTo(e, to);
         } else {
             const Operand operand = expr(e->a);
-            const Opcode op = e->kind == Expr::Kind::Negate ? Opcode::Negate
-                              : e->kind == Expr::Kind::Plus ? Opcode::Plus
-                                                            : Opcode::Not;
-            emit(encode(op, to, operand));
+            emit(encode(e->kind == Expr::Kind::Negate ? Opcode::Negate : Opcode::Not, to, operand));
         }
     }
     m_temporary = mark;
@@ -165,6 +162,10 @@ void CodeGen::nameTo(const Expr* e, Operand to, Store store) {
 }
 
 Operand CodeGen::withObject() {
+    if (m_withs.empty()) {
+        raiseAtRun(ErrorNumber::InvalidReference, noSymbol);
+        return newTemporary();
+    }
     return m_withs.back();
 }
 
@@ -180,7 +181,7 @@ void CodeGen::memberTo(const Expr* e, Operand to, Store store) {
 void CodeGen::newTo(const Expr* e, Operand to, Store store) {
     const std::u16string& name = m_scope.symbols.folded(e->symbol);
     const Resolved r = m_scope.resolve(e->symbol);
-    if (r.kind == Resolved::Kind::Unknown && name == u"regexp") {
+    if (name == u"regexp") { // a class of that name in the script does not hide it
         emit(encode(Opcode::NewNamed, to, 0, textConstant(e->symbol), packed(0, store)));
     } else if (r.kind == Resolved::Kind::Callable || r.kind == Resolved::Kind::Unknown) {
         if (r.kind == Resolved::Kind::Unknown && m_scope.ast.optionExplicit) {

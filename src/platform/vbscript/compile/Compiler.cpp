@@ -21,7 +21,7 @@ UnitScope::UnitScope(const Ast& theAst, SymbolTable& theSymbols, Globals& theGlo
         m_variables.insert(variable.name);
     }
     for (const ConstDecl& constant : ast.main.constants) {
-        m_constants.insert(constant.name);
+        m_constants.emplace(constant.name, constant.value);
     }
 }
 
@@ -55,8 +55,9 @@ Resolved UnitScope::resolve(Symbol symbol) {
     r.procedure = procedure != m_procedures.end() ? procedure->second : nullptr;
     if (r.procedure != nullptr || m_classes.contains(symbol)) {
         r.kind = Resolved::Kind::Callable;
-    } else if (m_constants.contains(symbol)) {
+    } else if (const auto constant = m_constants.find(symbol); constant != m_constants.end()) {
         r.kind = Resolved::Kind::Constant;
+        r.literal = constant->second;
     } else if (own || kind != GlobalKind::Undefined) {
         r.kind = own || kind == GlobalKind::Variable ? Resolved::Kind::Variable
                  : kind == GlobalKind::Callable      ? Resolved::Kind::Callable
@@ -155,9 +156,8 @@ std::unique_ptr<ScriptClass> declareClass(const ClassDecl& decl, Unit& unit, Sym
 // What a unit defines among the globals.
 void declareGlobals(UnitScope& scope) {
     const ProcedureDecl& main = scope.ast.main;
-    ConstantTable constants(main.constants);
     for (const ConstDecl& decl : main.constants) {
-        scope.unit.constants.emplace_back(scope.globals.slotOf(decl.name), constants.valueOf(decl.name));
+        scope.unit.constants.emplace_back(scope.globals.slotOf(decl.name), foldConstant(*decl.value));
     }
     for (const Variable& variable : main.variables) {
         scope.unit.variables.push_back(scope.globals.slotOf(variable.name));

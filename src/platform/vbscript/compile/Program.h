@@ -47,6 +47,7 @@ struct Procedure : Callable {
     ProcedureDecl::Kind form = ProcedureDecl::Kind::Sub;
     std::vector<Instruction> code;
     std::vector<Value> constants;
+    std::vector<bool> computed;            // of constants: not written as a literal; what lies beyond is
     mutable std::vector<MemberSite> sites; // caches
     std::vector<const Procedure*> selfCalls;
     std::vector<std::vector<std::int32_t>> shapes; // of fixed arrays

@@ -8,6 +8,7 @@
 #include "platform/vbscript/compile/Program.h"
 #include "platform/vbscript/value/Context.h"
 #include "platform/vbscript/value/Library.h"
+#include "platform/vbscript/value/Operators.h"
 
 #include <array>
 #include <csignal>
@@ -69,6 +70,9 @@ public:
     // For Instance: running its event procedures and members.
     Value callProcedure(const Procedure& procedure, Instance* me, Arguments arguments);
     Value invokeInstance(Instance& instance, const ClassMember& member, Access access, Arguments arguments);
+    // For GlobalScope: the slot of a name that stands for something, or Globals::none; and its use as a member.
+    std::uint32_t definedGlobal(std::u16string_view name);
+    Value useGlobal(std::uint32_t slot, Access access, Arguments arguments);
     void terminateInstance(Instance& instance, const Procedure& terminate) noexcept;
     void retain(Unit* unit) noexcept { ++unit->references; }
     void release(Unit* unit) noexcept;
@@ -120,6 +124,7 @@ private:
     void unary(Instruction instruction);
     bool condition(Operand o);
     bool comparison(Opcode op, Operand a, Operand b);
+    Literals literalsOf(Operand a, Operand b) noexcept;
     void letInto(Value& target, Operand from);
     void setInto(Value& target, Operand from);
     void concatenateInto(Instruction instruction);
@@ -176,6 +181,7 @@ private:
     SymbolTable m_symbols;
     Globals m_globals;
     Compiler m_compiler;
+    Value m_globalScope; // what Me is outside classes, once it was asked for
     Value* m_stack;
     std::unique_ptr<Frame[]> m_frames;
     std::size_t m_depth = 0;

@@ -1,4 +1,5 @@
 // Calls of intrinsics, objects and members; New, GetRef, Execute and Eval.
+#include "platform/vbscript/run/GlobalScope.h"
 #include "platform/vbscript/run/Instance.h"
 #include "platform/vbscript/run/Vm.h"
 #include "platform/vbscript/run/VmFrames.h"
@@ -343,7 +344,51 @@ Value Vm::invokeInstance(Instance& instance, const ClassMember& member, Access a
 }
 
 void Vm::makeMe(Instruction instruction) {
-    deliver(Value::ofObject(top().me), at(operandA(instruction)), storeOf(instruction));
+    Value me = Value::ofObject(top().me);
+    if (top().me == nullptr) {
+        if (m_globalScope.isEmpty()) {
+            m_globalScope = makeObject<GlobalScope>(*this).value();
+        }
+        me = m_globalScope;
+    }
+    deliver(std::move(me), at(operandA(instruction)), storeOf(instruction));
+}
+
+std::uint32_t Vm::definedGlobal(std::u16string_view name) {
+    const std::uint32_t slot = m_globals.find(m_symbols.intern(name));
+    return slot == Globals::none || m_globals[slot].type == Type::Undefined ? Globals::none : slot;
+}
+
+Value Vm::useGlobal(std::uint32_t slot, Access access, Arguments arguments) {
+    const bool assigns = access == Access::Let || access == Access::Set;
+    const GlobalKind kind = m_globals.kind(slot);
+    if (kind == GlobalKind::Callable) {
+        const auto& callable = *static_cast<const Callable*>(m_globals[slot].pointer);
+        if (assigns || callable.kind != Callable::Kind::Procedure) {
+            raise(ErrorNumber::MemberNotFound);
+        }
+        return callProcedure(static_cast<const Procedure&>(callable), nullptr, arguments);
+    }
+    std::vector<Value*> indexes;
+    for (std::size_t i = 0; i + (assigns ? 1 : 0) < arguments.size(); ++i) {
+        indexes.push_back(&arguments[i]);
+    }
+    const Store store = access == Access::Set ? Store::Set : Store::Let;
+    Value result;
+    if (assigns && !indexes.empty()) {
+        setIndex(m_globals[slot], indexes, arguments.back(), store);
+    } else if (assigns && kind != GlobalKind::Variable) {
+        raise(ErrorNumber::IllegalAssignment);
+    } else if (assigns && m_globals[slot].isArray() && m_globals[slot].array()->fixed()) {
+        raise(ErrorNumber::TypeMismatch);
+    } else if (assigns) {
+        deliver(arguments[0], m_globals[slot], store);
+    } else if (indexes.empty()) {
+        result = m_globals[slot];
+    } else {
+        getIndex(result, m_globals[slot], indexes, Store::Raw);
+    }
+    return result;
 }
 
 // A name that may be a variable, a function, or nothing yet.

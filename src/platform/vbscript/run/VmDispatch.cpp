@@ -269,9 +269,6 @@ labelNot : {
     SLOW(unary(i));
 }
 
-labelPlus:
-    SLOW(unary(i));
-
 labelJoin:
     SLOW(join(i, false));
 

@@ -43,10 +43,6 @@ bool holds(Opcode op, Ordering o) noexcept {
     }
 }
 
-Literals literalsOf(Operand a, Operand b) noexcept {
-    return static_cast<Literals>((placeOf(a) == Place::Constant ? 1 : 0) | (placeOf(b) == Place::Constant ? 2 : 0));
-}
-
 // Grows a text in place; the value has the text again whatever happens.
 void appendTo(Value& target, std::u16string_view tail) {
     String text = String::adopt(target.stringBlock());
@@ -130,6 +126,14 @@ void Vm::setInto(Value& target, Operand from) {
     deliver(taken(from), target, Store::Set);
 }
 
+Literals Vm::literalsOf(Operand a, Operand b) noexcept {
+    const std::vector<bool>& computed = top().procedure->computed;
+    const auto written = [&computed](Operand o) {
+        return placeOf(o) == Place::Constant && (indexOf(o) >= computed.size() || !computed[indexOf(o)]);
+    };
+    return static_cast<Literals>((written(a) ? 1 : 0) | (written(b) ? 2 : 0));
+}
+
 void Vm::binary(Instruction instruction) {
     const Operand b = operandB(instruction);
     const Operand c = operandC(instruction);
@@ -190,9 +194,7 @@ void Vm::binary(Instruction instruction) {
 void Vm::unary(Instruction instruction) {
     const Operand b = operandB(instruction);
     const Value& x = at(b).deref();
-    Value result = opcode(instruction) == Opcode::Negate ? negate(*this, x)
-                   : opcode(instruction) == Opcode::Not  ? logicalNot(*this, x)
-                                                         : toNumber(*this, x);
+    Value result = opcode(instruction) == Opcode::Negate ? negate(*this, x) : logicalNot(*this, x);
     consume(b);
     at(operandA(instruction)) = std::move(result);
 }

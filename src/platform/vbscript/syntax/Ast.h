@@ -78,7 +78,6 @@ struct Expr {
         Call,        // a(args): index, call or default member
         New,         // symbol
         Negate,      // a
-        Plus,        // a
         Not,         // a
         Binary,      // a op b
         Parentheses, // (a): by value

@@ -48,7 +48,8 @@ void Lexer::scanDecimal(Token& token) {
     }
 }
 
-// &Hff, &O77, &77 and the same with a closing & that makes the literal a Long. False if the & is an operator.
+// &Hff, &O77, &77, of 16 bits where they are enough; with a closing & of 32 bits, and the value tells the type. False
+// if the & is an operator.
 bool Lexer::scanRadix(Token& token) {
     const char16_t letter = toUpper(at(1));
     const bool hex = letter == u'H' && digitOf(at(2)) < 16;
@@ -72,9 +73,13 @@ bool Lexer::scanRadix(Token& token) {
     const bool longMark = at(ahead) == u'&';
     m_position += ahead + (longMark ? 1 : 0);
     token.kind = Token::Kind::Number;
-    if (!fits) {
+    if (isDigit(at(0)) && !longMark) {
+        bad(token, ErrorNumber::SyntaxError); // &38
+    } else if (!fits) {
         bad(token, ErrorNumber::InvalidNumber);
-    } else if (longMark || bits > 0xFFFF) {
+    } else if (longMark) {
+        token.value = Value::ofWhole(static_cast<std::int32_t>(static_cast<std::uint32_t>(bits)));
+    } else if (bits > 0xFFFF) {
         token.value = Value::ofLong(static_cast<std::int32_t>(static_cast<std::uint32_t>(bits)));
     } else if (bits == 0x8000) {
         token.value = Value::ofLong(-32768); // its magnitude does not fit an Integer

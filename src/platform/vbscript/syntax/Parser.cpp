@@ -70,8 +70,22 @@ void Parser::fail(ErrorNumber error, Position at) {
 }
 
 // A few words are names wherever the grammar does not ask for them.
-bool Parser::isName() const noexcept {
-    return m_token.kind == Kind::Identifier || (m_token.kind == Kind::Keyword && m_token.word >= Word::Default);
+bool Parser::isName(const Token& token) noexcept {
+    return token.kind == Kind::Identifier || (token.kind == Kind::Keyword && token.word >= Word::Default);
+}
+
+// The token after this one.
+Token Parser::peek() const {
+    return Lexer(m_lexer).next();
+}
+
+bool Parser::nextIs(std::initializer_list<Word> words) const {
+    const Token token = peek();
+    return token.kind == Kind::Keyword && std::find(words.begin(), words.end(), token.word) != words.end();
+}
+
+bool Parser::nextIsName() const {
+    return isName(peek());
 }
 
 // The line's end, a colon, or a word that closes a block: `x = 1 End If` needs no separator.

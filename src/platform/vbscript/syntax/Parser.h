@@ -5,7 +5,9 @@
 #include "platform/vbscript/syntax/Ast.h"
 #include "platform/vbscript/syntax/Lexer.h"
 
+#include <initializer_list>
 #include <memory>
+#include <optional>
 #include <string_view>
 
 namespace vbs {
@@ -54,6 +56,13 @@ private:
         Parser& m_parser;
     };
 
+    // A place to read again from, and what was called there.
+    struct Bracket {
+        Lexer lexer;
+        Token token;
+        Expr* callee;
+    };
+
     // tokens
     void advance();
     [[noreturn]] void fail(ErrorNumber error) const;
@@ -61,11 +70,15 @@ private:
     Position here() const noexcept { return {m_token.line, m_token.column}; }
     bool is(Word word) const noexcept { return m_token.kind == Kind::Keyword && m_token.word == word; }
     bool is(Sign sign) const noexcept { return m_token.kind == Kind::Operator && m_token.sign == sign; }
-    bool isName() const noexcept;
+    bool isName() const noexcept { return isName(m_token); }
+    static bool isName(const Token& token) noexcept;
     bool isEndOfLine() const noexcept { return m_token.kind == Kind::NewLine || m_token.kind == Kind::End; }
     bool isEndOfStatement() const noexcept;
     bool accept(Word word);
     bool accept(Sign sign);
+    Token peek() const;
+    bool nextIs(std::initializer_list<Word> words) const;
+    bool nextIsName() const;
     void expect(Word word, ErrorNumber error);
     void expect(Sign sign, ErrorNumber error);
     Symbol takeName();
@@ -76,7 +89,7 @@ private:
     Expr* parseExpr() { return parseBinary(1); }
     Expr* parseBinary(int least);
     Expr* parseUnary();
-    Expr* parsePower();
+    Expr* parseSigned();
     Expr* parsePrimary();
     Expr* parseAtom();
     Expr* parsePostfix(Expr* e);
@@ -87,21 +100,25 @@ private:
     Expr* call(Expr* callee, std::vector<Expr*> arguments, Position at);
     Expr* member(Expr* object, Position at);
     Expr* nameExpr(Position at);
+    static Expr* grouped(Expr* e) noexcept;
     static void setHeight(Expr& e);
 
     // statements
     void parseBlock(Block& block);
+    void parseItem(Block& block);
     bool startsBlockEnd() const noexcept;
     Stmt* parseStatement();
     Stmt* parseKeywordStatement();
     Stmt* parseAssignOrCall();
     Expr* parseStatementHead(bool& complete);
+    bool startsOperand() const noexcept;
+    Expr* wholeCall(Expr* callee, std::vector<Expr*> arguments, Position at);
     Stmt* finishCall(Expr* callee, Position at);
     Stmt* parseSet();
     Stmt* parseCall();
     Stmt* parseIf();
-    void parseIfBlock(Stmt& statement);
-    void parseIfLine(Stmt& statement);
+    void parseCondition(Stmt& statement, Position at);
+    void parseBranches(Stmt& statement, void (Parser::*body)(Block&));
     void parseLineStatements(Block& block);
     Stmt* parseSelect();
     Stmt* parseFor();
@@ -117,18 +134,20 @@ private:
 
     // declarations
     void parseTopLevel();
-    bool parseDeclaration();
+    bool parseDeclaration(Block& block);
     Stmt* parseDim(bool isPrivate);
     Stmt* parseConst();
+    Expr* parseLiteral();
     void parseVariables(std::vector<Variable>& into, bool isPrivate);
     Variable parseVariable(bool isPrivate);
-    void parseModified();
-    ProcedureDecl* parseProcedure(bool isPrivate, bool isDefault, bool inClass);
+    void parseModified(Block& block);
+    ProcedureDecl* parseProcedure(bool isPrivate, bool isDefault);
     void parseParameters(ProcedureDecl& procedure);
     void parseProcedureBody(ProcedureDecl& procedure, Word ending);
     void parseClass();
     void parseClassMember(ClassDecl& decl);
     void checkClassMember(const ClassDecl& decl, const ProcedureDecl& procedure) const;
+    static void checkShared(const ProcedureDecl& one, const ProcedureDecl& other);
     void declare(Symbol name, Position at);
 
     Lexer m_lexer;
@@ -142,7 +161,6 @@ private:
     int m_forLoops = 0;
     int m_withs = 0;
     std::vector<Symbol> m_counters;
-    bool m_inClass = false;
     Symbol m_execute;
     Symbol m_eval;
 };

@@ -19,67 +19,44 @@ private:
 
 } // namespace
 
-// If expr Then (line | block)
+// If expr Then (line | block); `Then :` and nothing more is a line
 Stmt* Parser::parseIf() {
     Stmt* statement = m_ast->stmt(Stmt::Kind::If, here());
     advance();
-    IfBranch& branch = statement->branches.emplace_back();
-    branch.at = statement->at;
-    branch.condition = parseExpr();
-    expect(Word::Then, ErrorNumber::ExpectedThen);
-    while (m_token.kind == Kind::Colon) {
-        advance();
-    }
+    parseCondition(*statement, statement->at);
     if (isEndOfLine()) {
-        parseIfBlock(*statement);
+        parseBranches(*statement, &Parser::parseBlock);
+        expect(Word::End, ErrorNumber::ExpectedEnd);
+        expect(Word::If, ErrorNumber::ExpectedIf);
     } else {
-        parseIfLine(*statement);
+        parseBranches(*statement, &Parser::parseLineStatements);
+        if (nextIs({Word::If}) && is(Word::End)) {
+            advance();
+            advance();
+        }
     }
     return statement;
 }
 
-// block { ElseIf expr Then block } [Else block] End If
-void Parser::parseIfBlock(Stmt& statement) {
-    parseBlock(statement.branches.back().body);
-    while (is(Word::ElseIf)) {
-        IfBranch& branch = statement.branches.emplace_back();
-        branch.at = here();
-        advance();
-        branch.condition = parseExpr();
-        expect(Word::Then, ErrorNumber::ExpectedThen);
-        parseBlock(statement.branches.back().body);
-    }
-    if (accept(Word::Else)) {
-        statement.hasOtherwise = true;
-        parseBlock(statement.otherwise);
-    }
-    expect(Word::End, ErrorNumber::ExpectedEnd);
-    expect(Word::If, ErrorNumber::ExpectedIf);
+void Parser::parseCondition(Stmt& statement, Position at) {
+    IfBranch& branch = statement.branches.emplace_back();
+    branch.at = at;
+    branch.condition = parseExpr();
+    expect(Word::Then, ErrorNumber::ExpectedThen);
 }
 
-// statements { ElseIf expr Then statements } [Else statements] [End If], all on one line
-void Parser::parseIfLine(Stmt& statement) {
-    parseLineStatements(statement.branches.back().body);
+// body { ElseIf expr Then body } [Else body]
+void Parser::parseBranches(Stmt& statement, void (Parser::*body)(Block&)) {
+    (this->*body)(statement.branches.back().body);
     while (is(Word::ElseIf)) {
-        IfBranch& branch = statement.branches.emplace_back();
-        branch.at = here();
+        const Position at = here();
         advance();
-        branch.condition = parseExpr();
-        expect(Word::Then, ErrorNumber::ExpectedThen);
-        parseLineStatements(statement.branches.back().body);
+        parseCondition(statement, at);
+        (this->*body)(statement.branches.back().body);
     }
     if (accept(Word::Else)) {
         statement.hasOtherwise = true;
-        parseLineStatements(statement.otherwise);
-    }
-    if (is(Word::End)) {
-        const Lexer lexer = m_lexer;
-        const Token token = m_token;
-        advance();
-        if (!accept(Word::If)) {
-            m_lexer = lexer;
-            m_token = token;
-        }
+        (this->*body)(statement.otherwise);
     }
 }
 
@@ -91,12 +68,7 @@ void Parser::parseLineStatements(Block& block) {
         if (isEndOfLine() || startsBlockEnd()) {
             return;
         }
-        if (Stmt* statement = parseStatement(); statement != nullptr) {
-            block.push_back(statement);
-        }
-        if (!isEndOfStatement()) {
-            fail(ErrorNumber::ExpectedEndOfStatement);
-        }
+        parseItem(block);
     }
 }
 

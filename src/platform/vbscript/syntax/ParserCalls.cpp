@@ -38,50 +38,69 @@ Stmt* Parser::parseAssignOrCall() {
     return finishCall(head, at);
 }
 
-// The name, members and brackets at the start of a statement. `complete` is set when it is a whole call already.
+// The name, members and brackets at the start of a statement. `complete` is set when it is a whole call already. In a
+// row of brackets that no member and no `=` follows, the first with a blank before it, or else the last, opens an
+// argument: `S (2)*8, 7`.
 Expr* Parser::parseStatementHead(bool& complete) {
     Expr* e = parseAtom();
+    std::optional<Bracket> bracket; // where an argument would begin
     while (true) {
         const Position at = here();
         if (is(Sign::Dot)) {
             if (m_withs > 0 && m_token.spaceBefore && !m_token.spaceAfter) {
                 return e; // `p .x` inside With: .x is the first argument
             }
+            bracket.reset();
             advance();
             e = member(e, at);
         } else if (is(Sign::Open)) {
-            const Lexer lexer = m_lexer;
-            const Token token = m_token;
+            if (!bracket || !bracket->token.spaceBefore) {
+                bracket = Bracket{m_lexer, m_token, e};
+            }
             std::vector<Expr*> arguments = parseArguments();
-            if (isEndOfStatement()) {
-                if (arguments.size() > 1) {
-                    fail(ErrorNumber::ParenthesesInSub, at);
-                }
-                if (arguments.size() == 1 && arguments[0]->kind != Expr::Kind::Missing) {
-                    arguments[0] = unary(Expr::Kind::Parentheses, at, arguments[0]);
-                }
+            const bool inner = bracket->callee != e && bracket->token.spaceBefore;
+            if (isEndOfStatement() && !inner) {
                 complete = true;
-                return call(e, std::move(arguments), at);
+                return wholeCall(e, std::move(arguments), at);
+            }
+            if (startsOperand()) {
+                return call(e, std::move(arguments), at); // `a(0) 5`
             }
             if (!is(Sign::Equal) && !is(Sign::Dot) && !is(Sign::Open)) {
-                m_lexer = lexer; // the bracket opens the first argument: `S (2)*8, 7`
-                m_token = token;
-                return e;
-            }
-            if (is(Sign::Dot) && token.spaceBefore) {
-                Expr* chain = parsePostfix(call(e, std::move(arguments), at));
-                if (is(Sign::Equal)) {
-                    return chain;
-                }
-                m_lexer = lexer; // `S (New K).Total`
-                m_token = token;
-                return e;
+                m_lexer = bracket->lexer;
+                m_token = bracket->token;
+                return bracket->callee;
             }
             e = call(e, std::move(arguments), at);
         } else {
             return e;
         }
     }
+}
+
+// Whether the token can only begin an expression.
+bool Parser::startsOperand() const noexcept {
+    switch (m_token.kind) {
+    case Kind::Number:
+    case Kind::Text:
+    case Kind::Date:
+    case Kind::Identifier:
+        return true;
+    default:
+        return is(Word::New) || is(Word::Not) || is(Word::Me) || is(Word::Nothing) || is(Word::True) ||
+               is(Word::False) || is(Word::Empty) || is(Word::Null);
+    }
+}
+
+// `S (x)`: a statement that ends with its bracket passes a value.
+Expr* Parser::wholeCall(Expr* callee, std::vector<Expr*> arguments, Position at) {
+    if (arguments.size() > 1) {
+        fail(ErrorNumber::ParenthesesInSub, at);
+    }
+    if (arguments.size() == 1 && arguments[0]->kind != Expr::Kind::Missing) {
+        arguments[0] = unary(Expr::Kind::Parentheses, at, arguments[0]);
+    }
+    return call(callee, std::move(arguments), at);
 }
 
 Stmt* Parser::finishCall(Expr* callee, Position at) {
@@ -118,14 +137,14 @@ Stmt* Parser::parseSet() {
     return statement;
 }
 
-// Call target [( arguments )]
+// Call target [( arguments )]; the target may begin with an expression in parentheses
 Stmt* Parser::parseCall() {
     const Position at = here();
     advance();
-    if (!isName() && !is(Word::Me) && !is(Sign::Dot)) {
+    if (!isName() && !is(Word::Me) && !is(Sign::Dot) && !is(Sign::Open)) {
         fail(ErrorNumber::ExpectedIdentifier);
     }
-    Expr* target = parsePrimary();
+    Expr* target = grouped(parsePrimary());
     Stmt* statement = m_ast->stmt(Stmt::Kind::Call, at);
     statement->target = target->kind == Expr::Kind::Call ? target : call(target, {}, at);
     return statement;

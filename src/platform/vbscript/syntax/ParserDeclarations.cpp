@@ -28,34 +28,19 @@ void Parser::parseTopLevel() {
                  : is(Word::Next) ? ErrorNumber::UnexpectedNext
                                   : ErrorNumber::ExpectedStatement);
         }
-        if (parseDeclaration()) {
-            continue; // `End Sub x = 1` needs no separator either
-        }
-        if (Stmt* statement = parseStatement(); statement != nullptr) {
-            m_ast->main.body.push_back(statement);
-        }
-        endStatement();
+        parseItem(m_ast->main.body);
     }
 }
 
-bool Parser::parseDeclaration() {
+bool Parser::parseDeclaration(Block& block) {
     if (is(Word::Sub) || is(Word::Function)) {
-        m_ast->procedures.push_back(parseProcedure(false, false, false));
+        m_ast->procedures.push_back(parseProcedure(false, false));
     } else if (is(Word::Class)) {
         parseClass();
     } else if (is(Word::Public) || is(Word::Private)) {
-        parseModified();
-    } else if (is(Word::Property) && m_token.kind == Kind::Keyword) {
-        const Lexer lexer = m_lexer;
-        const Token token = m_token;
-        advance();
-        const bool procedure = is(Word::Get) || is(Word::Let) || is(Word::Set);
-        m_lexer = lexer;
-        m_token = token;
-        if (procedure) {
-            fail(ErrorNumber::DefinedInsideClass);
-        }
-        return false;
+        parseModified(block);
+    } else if (is(Word::Property) && nextIs({Word::Get, Word::Let, Word::Set})) {
+        fail(ErrorNumber::DefinedInsideClass);
     } else {
         return false;
     }
@@ -63,7 +48,7 @@ bool Parser::parseDeclaration() {
 }
 
 // Public|Private (Sub ... | Function ... | Const ... | variables)
-void Parser::parseModified() {
+void Parser::parseModified(Block& block) {
     const bool isPrivate = is(Word::Private);
     advance();
     const bool isDefault = is(Word::Default);
@@ -71,10 +56,10 @@ void Parser::parseModified() {
         fail(ErrorNumber::DefinedInsideClass);
     }
     if (is(Word::Sub) || is(Word::Function)) {
-        m_ast->procedures.push_back(parseProcedure(isPrivate, false, false));
+        m_ast->procedures.push_back(parseProcedure(isPrivate, false));
         return;
     }
-    m_ast->main.body.push_back(accept(Word::Const) ? parseConst() : parseDim(isPrivate));
+    block.push_back(accept(Word::Const) ? parseConst() : parseDim(isPrivate));
     endStatement();
 }
 
@@ -131,7 +116,7 @@ Stmt* Parser::parseDim(bool isPrivate) {
     return statement;
 }
 
-// Const name = expr {, name = expr}; hoisted
+// Const name = [sign] literal {, name = [sign] literal}; hoisted
 Stmt* Parser::parseConst() {
     Stmt* statement = m_ast->stmt(Stmt::Kind::Const, here());
     do {
@@ -139,15 +124,29 @@ Stmt* Parser::parseConst() {
         decl.at = here();
         decl.name = takeName();
         expect(Sign::Equal, ErrorNumber::ExpectedEqual);
-        decl.value = parseExpr();
+        decl.value = parseLiteral();
         declare(decl.name, decl.at);
         m_procedure->constants.push_back(decl);
     } while (accept(Sign::Comma));
     return statement;
 }
 
+// [-|+] literal
+Expr* Parser::parseLiteral() {
+    const Position at = here();
+    const bool negative = is(Sign::Minus);
+    if (negative || is(Sign::Plus)) {
+        advance();
+    }
+    Expr* value = parseAtom();
+    if (value->kind != Expr::Kind::Literal) {
+        fail(ErrorNumber::ExpectedLiteral, at);
+    }
+    return negative ? unary(Expr::Kind::Negate, at, value) : value;
+}
+
 // Sub|Function|Property Get|Let|Set name [( parameters )] block End Sub|Function|Property
-ProcedureDecl* Parser::parseProcedure(bool isPrivate, bool isDefault, bool inClass) {
+ProcedureDecl* Parser::parseProcedure(bool isPrivate, bool isDefault) {
     ProcedureDecl* procedure = m_ast->procedure();
     procedure->isPrivate = isPrivate;
     procedure->isDefault = isDefault;
@@ -167,14 +166,15 @@ ProcedureDecl* Parser::parseProcedure(bool isPrivate, bool isDefault, bool inCla
     procedure->at = here();
     procedure->name = takeName();
     parseParameters(*procedure);
+    if (m_token.kind == Kind::Identifier && equalNoCase(m_token.text, u"as") && nextIsName()) {
+        fail(ErrorNumber::ExpectedEndOfStatement); // no type is ever declared
+    }
     const bool assigns =
         procedure->kind == ProcedureDecl::Kind::PropertyLet || procedure->kind == ProcedureDecl::Kind::PropertySet;
     if (assigns && procedure->parameters.empty()) {
         fail(ErrorNumber::PropertyArguments, procedure->at);
     }
-    const bool outer = std::exchange(m_inClass, inClass);
     parseProcedureBody(*procedure, ending);
-    m_inClass = outer;
     return procedure;
 }
 
@@ -266,7 +266,7 @@ void Parser::parseClassMember(ClassDecl& decl) {
         advance();
     }
     if (is(Word::Sub) || is(Word::Function) || is(Word::Property)) {
-        ProcedureDecl* procedure = parseProcedure(isPrivate, isDefault, true);
+        ProcedureDecl* procedure = parseProcedure(isPrivate, isDefault);
         checkClassMember(decl, *procedure);
         decl.members.push_back(procedure);
         decl.memberNames.emplace(procedure->name, procedure);
@@ -290,6 +290,29 @@ void Parser::parseClassMember(ClassDecl& decl) {
     endStatement();
 }
 
+// Two members of one name: Get, Let and Set of a property, which agree on the indexes, or a Sub or Function that is
+// called beside a Let or Set that is assigned.
+void Parser::checkShared(const ProcedureDecl& one, const ProcedureDecl& other) {
+    using PK = ProcedureDecl::Kind;
+    const auto assigned = [](const ProcedureDecl& p) { return p.kind == PK::PropertyLet || p.kind == PK::PropertySet; };
+    const auto called = [](const ProcedureDecl& p) { return p.kind == PK::Sub || p.kind == PK::Function; };
+    if (called(one) || called(other)) {
+        if (!assigned(one) && !assigned(other)) {
+            fail(ErrorNumber::NameRedefined, other.at);
+        }
+        return;
+    }
+    if (one.kind == other.kind) {
+        fail(ErrorNumber::NameRedefined, other.at);
+    }
+    const auto indexes = [](const ProcedureDecl& p) {
+        return p.parameters.size() - (p.kind == PK::PropertyGet ? 0 : 1);
+    };
+    if (indexes(one) != indexes(other)) {
+        fail(ErrorNumber::InconsistentArguments, other.at);
+    }
+}
+
 void Parser::checkClassMember(const ClassDecl& decl, const ProcedureDecl& procedure) const {
     using PK = ProcedureDecl::Kind;
     if (procedure.isDefault && (procedure.kind == PK::PropertyLet || procedure.kind == PK::PropertySet)) {
@@ -299,24 +322,12 @@ void Parser::checkClassMember(const ClassDecl& decl, const ProcedureDecl& proced
     if ((name == u"class_initialize" || name == u"class_terminate") && !procedure.parameters.empty()) {
         fail(ErrorNumber::ClassEventArguments, procedure.at);
     }
-    const auto isProperty = [](PK kind) {
-        return kind == PK::PropertyGet || kind == PK::PropertyLet || kind == PK::PropertySet;
-    };
     if (procedure.isDefault && decl.hasDefault) {
         fail(ErrorNumber::MultipleDefaults, procedure.at);
     }
     const auto [first, last] = decl.memberNames.equal_range(procedure.name);
     for (auto it = first; it != last; ++it) {
-        const ProcedureDecl* other = it->second;
-        if (!isProperty(other->kind) || !isProperty(procedure.kind) || other->kind == procedure.kind) {
-            fail(ErrorNumber::NameRedefined, procedure.at);
-        }
-        const auto indexes = [](const ProcedureDecl& p) {
-            return p.parameters.size() - (p.kind == PK::PropertyGet ? 0 : 1);
-        };
-        if (indexes(*other) != indexes(procedure)) {
-            fail(ErrorNumber::InconsistentArguments, procedure.at);
-        }
+        checkShared(*it->second, procedure);
     }
     if (decl.fieldNames.contains(procedure.name)) {
         fail(ErrorNumber::NameRedefined, procedure.at);

@@ -1,4 +1,4 @@
-// Expressions, by precedence climbing. From tightest to loosest: ^, unary -, * and /, \, Mod, + and -, &, comparisons
+// Expressions, by precedence climbing. From tightest to loosest: unary -, ^, * and /, \, Mod, + and -, &, comparisons
 // and Is, Not, And, Or, Xor, Eqv, Imp.
 #include "platform/vbscript/syntax/Parser.h"
 
@@ -14,11 +14,13 @@ struct OperatorInfo {
 };
 
 constexpr int comparisonPrecedence = 7;
-constexpr int unaryMinusPrecedence = 13;
+constexpr int powerPrecedence = 13;
 
 OperatorInfo signOperator(Token::Sign sign) noexcept {
     using enum Token::Sign;
     switch (sign) {
+    case Caret:
+        return {powerPrecedence, BinaryOp::Power};
     case Times:
         return {12, BinaryOp::Multiply};
     case Slash:
@@ -91,32 +93,26 @@ Expr* Parser::parseBinary(int least) {
     }
 }
 
-// unary: Not comparison | - power | + power | power
+// unary: Not comparison | signed
 Expr* Parser::parseUnary() {
     const Nesting nesting(*this);
     const Position at = here();
     if (accept(Word::Not)) {
         return unary(Expr::Kind::Not, at, parseBinary(comparisonPrecedence));
     }
-    if (accept(Sign::Minus)) {
-        return unary(Expr::Kind::Negate, at, parseBinary(unaryMinusPrecedence));
-    }
-    if (accept(Sign::Plus)) {
-        return unary(Expr::Kind::Plus, at, parseBinary(unaryMinusPrecedence));
-    }
-    return parsePower();
+    return parseSigned();
 }
 
-// power: primary { ^ [-|+|Not] primary }
-Expr* Parser::parsePower() {
-    Expr* left = parsePrimary();
-    while (is(Sign::Caret)) {
-        const Position at = here();
+// signed: { - | + } primary; a plus is worth no more than parentheses
+Expr* Parser::parseSigned() {
+    const Position at = here();
+    if (is(Sign::Minus) || is(Sign::Plus)) {
+        const Nesting nesting(*this);
+        const Expr::Kind kind = is(Sign::Minus) ? Expr::Kind::Negate : Expr::Kind::Parentheses;
         advance();
-        const bool prefixed = is(Sign::Minus) || is(Sign::Plus) || is(Word::Not);
-        left = binary(BinaryOp::Power, at, left, prefixed ? parseUnary() : parsePrimary());
+        return unary(kind, at, parseSigned());
     }
-    return left;
+    return parsePrimary();
 }
 
 Expr* Parser::parsePrimary() {
@@ -140,11 +136,10 @@ Expr* Parser::parseAtom() {
             expect(Sign::Close, ErrorNumber::ExpectedRightParenthesis);
             return unary(Expr::Kind::Parentheses, at, inner);
         }
-        if (is(Sign::Dot) && m_withs > 0) {
-            advance();
-            return member(nullptr, at);
+        if (accept(Sign::Dot)) {
+            return member(nullptr, at); // outside With it fails when it is executed
         }
-        fail(is(Sign::Dot) ? ErrorNumber::InvalidReference : ErrorNumber::SyntaxError);
+        fail(ErrorNumber::SyntaxError);
     case Kind::Keyword:
         break;
     case Kind::Identifier:
@@ -169,9 +164,6 @@ Expr* Parser::parseAtom() {
     case Word::Nothing:
         return literal(Value::nothing());
     case Word::Me:
-        if (!m_inClass) {
-            fail(ErrorNumber::InvalidMe, at);
-        }
         return m_ast->expr(Expr::Kind::Me, at);
     case Word::New: {
         Expr* e = m_ast->expr(Expr::Kind::New, at);
@@ -252,7 +244,18 @@ Expr* Parser::member(Expr* object, Position at) {
     return e;
 }
 
+// Parentheses around a name do not call it.
+Expr* Parser::grouped(Expr* e) noexcept {
+    while (e->kind == Expr::Kind::Parentheses) {
+        e = e->a;
+    }
+    return e;
+}
+
 Expr* Parser::call(Expr* callee, std::vector<Expr*> arguments, Position at) {
+    if (Expr* inner = grouped(callee); inner->kind == Expr::Kind::Name) {
+        callee = inner;
+    }
     Expr* e = m_ast->expr(Expr::Kind::Call, at);
     e->a = callee;
     e->args = std::move(arguments);

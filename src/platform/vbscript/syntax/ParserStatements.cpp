@@ -26,11 +26,17 @@ bool Parser::startsBlockEnd() const noexcept {
 void Parser::parseBlock(Block& block) {
     const Nesting nesting(*this);
     for (skipSeparators(); m_token.kind != Kind::End && !startsBlockEnd(); skipSeparators()) {
-        if (Stmt* statement = parseStatement(); statement != nullptr) {
-            block.push_back(statement);
-        }
-        endStatement();
+        parseItem(block);
     }
+}
+
+// A statement or, outside procedures, a declaration. `End Sub x = 1` needs no separator.
+void Parser::parseItem(Block& block) {
+    if (m_procedure == &m_ast->main && parseDeclaration(block)) {
+        return;
+    }
+    block.push_back(parseStatement());
+    endStatement();
 }
 
 Stmt* Parser::parseStatement() {

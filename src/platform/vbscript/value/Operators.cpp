@@ -408,23 +408,13 @@ Ordering reversed(Ordering o) noexcept {
     return o == Ordering::Less ? Ordering::Greater : o == Ordering::Greater ? Ordering::Less : o;
 }
 
-// A text beside a number. Two literals compare as numbers (error 13 if the text is none); a literal text makes the
-// number a text; a literal number makes a numeric text a number; otherwise, and for all other texts, text ranks above.
-Ordering orderTextWithNumber(Context& context, const Value& text, const Value& number, bool textLiteral,
-                             bool numberLiteral) {
-    if (textLiteral && !numberLiteral) {
-        return ordering(text.text().compare(toString(context, number).view()));
+// A text beside a number: one that the script writes as a literal makes the text a number (error 13 if it is none), any
+// other becomes a text itself.
+Ordering orderTextWithNumber(Context& context, const Value& text, const Value& number, bool literal) {
+    if (literal && (number.isWhole() || number.type == Type::Double)) {
+        return orderNumbers(Value::ofDouble(toDouble(context, text)), number);
     }
-    if (!textLiteral && !numberLiteral) {
-        return Ordering::Greater;
-    }
-    if (number.type == Type::Boolean && textLiteral) {
-        return orderNumbers(Value::ofBoolean(toBoolean(context, text)), number);
-    }
-    if (!textLiteral && !parseNumber(text.text(), context.locale())) {
-        return Ordering::Greater;
-    }
-    return orderNumbers(Value::ofDouble(toDouble(context, text)), number);
+    return ordering(text.text().compare(toString(context, number).view()));
 }
 
 } // namespace
@@ -445,10 +435,10 @@ Ordering compare(Context& context, const Value& a, const Value& b, Literals lite
         return ordering(y.text().empty() ? 0 : -1);
     }
     if (x.isString() && y.type < Type::Null) {
-        return orderTextWithNumber(context, x, y, (bits & 1U) != 0, (bits & 2U) != 0);
+        return orderTextWithNumber(context, x, y, (bits & 2U) != 0);
     }
     if (y.isString() && x.type < Type::Null) {
-        return reversed(orderTextWithNumber(context, y, x, (bits & 2U) != 0, (bits & 1U) != 0));
+        return reversed(orderTextWithNumber(context, y, x, (bits & 1U) != 0));
     }
     return orderNumbers(toNumber(context, x), toNumber(context, y));
 }

@@ -25,7 +25,7 @@ Value logicalXor(Context& context, const Value& a, const Value& b);
 Value logicalEqv(Context& context, const Value& a, const Value& b);
 Value logicalImp(Context& context, const Value& a, const Value& b);
 
-// Which operand of a comparison is written as a literal; literals pull the other side to their kind.
+// Which operand of a comparison is written as a literal; a number that is makes a text on the other side a number.
 enum class Literals : std::uint8_t { None = 0, Left = 1, Right = 2, Both = 3 };
 
 enum class Ordering : std::int8_t { Less = -1, Equal = 0, Greater = 1, Null = 2, Unordered = 3 };

@@ -1,0 +1,20 @@
+#include "platform/vbscript/run/GlobalScope.h"
+
+#include "platform/vbscript/run/Vm.h"
+
+namespace vbs {
+
+// A member's number is one more than its slot: 0 would be the default member, and there is none.
+int GlobalScope::resolve(std::u16string_view name) {
+    const std::uint32_t slot = m_vm.definedGlobal(name);
+    return slot == Globals::none ? noMember : static_cast<int>(slot) + 1;
+}
+
+Value GlobalScope::invoke(Context& /*context*/, int member, Access access, Arguments arguments) {
+    if (member == defaultMember) {
+        raise(ErrorNumber::MemberNotFound);
+    }
+    return m_vm.useGlobal(static_cast<std::uint32_t>(member) - 1, access, arguments);
+}
+
+} // namespace vbs

@@ -1,0 +1,1 @@
+Const LADO = Not True '! 1002

@@ -1,0 +1,2 @@
+Sub S(n As Long) '! 1006
+End Sub

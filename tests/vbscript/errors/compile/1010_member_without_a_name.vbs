@@ -1,0 +1,2 @@
+Set o = New RegExp
+o. '! 1010

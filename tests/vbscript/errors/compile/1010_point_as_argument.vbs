@@ -1,0 +1,1 @@
+WScript.Echo 1, . '! 1010

@@ -1,0 +1,3 @@
+With New RegExp
+  v = . '! 1010
+End With

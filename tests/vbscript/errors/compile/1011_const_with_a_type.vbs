@@ -1,0 +1,1 @@
+Const N As Long = 5 '! 1011

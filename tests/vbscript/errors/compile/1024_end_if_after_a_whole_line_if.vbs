@@ -1,0 +1,3 @@
+If True Then :
+x = 1
+End If '! 1024

@@ -1,0 +1,3 @@
+Sub S
+  Const LADO = 2 & "b" '! 1025
+End Sub

@@ -1,0 +1,2 @@
+Sub Total As Long '! 1025
+End Sub

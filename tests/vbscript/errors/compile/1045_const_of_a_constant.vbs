@@ -1,0 +1,2 @@
+Const UNO = 1
+Const DOS = UNO '! 1045

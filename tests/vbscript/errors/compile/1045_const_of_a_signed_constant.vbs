@@ -1,0 +1,1 @@
+Const LADO = -vbTrue '! 1045
