@@ -1,7 +1,7 @@
 #include "StationWindow.h"
 
+#include "shell/Estacion.h"
 #include "shell/FrmPrincipal.h"
-#include "shell/Modulo_Config.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -78,8 +78,8 @@ void serve(std::uint16_t port, bool txRx) {
     char name[] = "station";
     char* argv[] = {name, nullptr};
     QApplication application(argc, argv);
-    Modulo_Config config(folder);
-    FrmPrincipal window(config, Arranque{.rutaPrograma = folder + "/esclavo-modbus", .lineaDeComandos = {}});
+    Estacion station(folder, Arranque{.rutaPrograma = folder + "/esclavo-modbus", .lineaDeComandos = {}});
+    FrmPrincipal window(station);
     if (!window.cargar())
         return;
     window.findChild<QCheckBox*>(QStringLiteral("ChRxTx"))->setChecked(txRx);

@@ -1,7 +1,7 @@
 // How soon the operator sees something: the station's start to its first paint beside a bare Qt window's, and opening
 // FrmMW by a double click. Usage: window_times BARE-WINDOW; it starts itself as the station, with the word "station".
+#include "shell/Estacion.h"
 #include "shell/FrmPrincipal.h"
-#include "shell/Modulo_Config.h"
 
 #include <QApplication>
 #include <QTableView>
@@ -53,11 +53,10 @@ int station(int argc, char** argv, bool dialogs) {
     QApplication application(argc, argv);
     const auto folder = std::filesystem::temp_directory_path() / ("window-times-" + std::to_string(getpid()));
     std::filesystem::create_directory(folder);
-    Modulo_Config config(folder);
-    config.escribirConfiguracion("PUERTO_VALOR", "15999");
+    Estacion parts(folder, Arranque{.rutaPrograma = (folder / "esclavo-modbus").string(), .lineaDeComandos = {}});
+    parts.config.escribirConfiguracion("PUERTO_VALOR", "15999");
     {
-        FrmPrincipal window(config,
-                            Arranque{.rutaPrograma = (folder / "esclavo-modbus").string(), .lineaDeComandos = {}});
+        FrmPrincipal window(parts);
         const FirstPaint shown("FrmPrincipal");
         if (!window.cargar())
             return 1;

@@ -1,6 +1,8 @@
 # How every target of the project is built: language level, warnings, sanitizers, and the functions that declare
-# libraries and tests. Folders declare their targets with these and nothing else.
+# libraries and tests. Folders declare their targets with these and nothing else. What is off here is how users build;
+# the presets, which are the developers', switch it on.
 
+option(BUILD_TESTING "build the tests" OFF)
 option(ESCLAVO_BENCH "build the programs in bench/" OFF)
 option(ESCLAVO_FUZZ "build the fuzz targets (needs clang)" OFF)
 set(ESCLAVO_SANITIZE "" CACHE STRING "sanitizers for every target, e.g. address,undefined")

@@ -53,8 +53,10 @@ void Puente::onConnectionRequest(Winsock& socket, std::uint32_t requestId) {
 
 void Puente::onDataArrival(Winsock& origen, std::span<const std::uint8_t> bloque) {
     const Lado lado = ladoDe(origen);
-    if (lado == Lado::uno && ventana_.echo())
+    if (lado == Lado::uno && ventana_.echo()) {
         enviar(Lado::uno, bloque);
+        socket(Lado::uno).flush(); // what it gathers would leave after the relayed block
+    }
     enviar(otro(lado), bloque);
     contener();
     mostrarBloque(lado, bloque);

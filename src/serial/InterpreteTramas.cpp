@@ -17,19 +17,32 @@ std::string_view parte(std::string_view texto, std::size_t posicion, std::size_t
 
 } // namespace
 
-void InterpreteTramas::interpretarTrama(std::string_view trama) {
-    const std::string validez = leerValidez();
+std::string InterpreteTramas::interpretarTrama(std::string_view trama) {
+    std::string validez;
+    try {
+        validez = leerValidez();
+    } catch (const std::exception& error) {
+        throw LecturaRechazada(trama.substr(0, marca_.buscar(trama)), error.what());
+    }
     std::string listado;
     for (std::size_t desde = 0; desde <= trama.size();) {
         const std::size_t hasta = std::min(marca_.buscar(trama, desde), trama.size());
         const std::string_view lectura = trama.substr(desde, hasta - desde);
         if (!lectura.empty()) {
             listado.append(lectura).append(finDeLinea);
-            salida_.darValor_A_Variable(utf8DeAnsi(asignaciones(lectura, validez)));
+            darValor_A_Variable(lectura, validez);
         }
         desde = hasta + marca_.texto().size();
     }
-    salida_.agregarListado(listado);
+    return listado;
+}
+
+void InterpreteTramas::darValor_A_Variable(std::string_view lectura, std::string_view validez) {
+    try {
+        motor_.AddCode(utf8DeAnsi(asignaciones(lectura, validez)));
+    } catch (const std::exception& error) {
+        throw LecturaRechazada(lectura, error.what());
+    }
 }
 
 // The blanks after the equals signs are uneven on purpose.

@@ -8,38 +8,39 @@
 #include "serial/EntornoSerie.h"
 #include "serial/MarcaFin.h"
 
+#include <stdexcept>
 #include <string>
 #include <string_view>
 
-class SalidaTramas {
+// A reading that could not become assignments; what() is the cause (UTF-8).
+class LecturaRechazada : public std::runtime_error {
 public:
-    // The assignments of one reading (UTF-8). Raises a std::exception when the engine rejects them.
-    virtual void darValor_A_Variable(std::string_view texto) = 0;
+    LecturaRechazada(std::string_view lectura, const char* causa) : std::runtime_error(causa), lectura_(lectura) {}
+    const std::string& lectura() const { return lectura_; } // ANSI, without its end mark
 
-    // Appends the readings of one frame text (ANSI), each followed by CR LF, to the list of frames.
-    virtual void agregarListado(std::string_view listado) = 0;
-
-protected:
-    ~SalidaTramas() = default;
+private:
+    std::string lectura_;
 };
 
 class InterpreteTramas {
 public:
-    // Both are borrowed.
-    InterpreteTramas(const MarcaFin& marca, ConfiguracionSerie& configuracion, SalidaTramas& salida)
-        : marca_(marca), configuracion_(configuracion), salida_(salida) {}
+    // Configuration and engine are borrowed.
+    InterpreteTramas(const MarcaFin& marca, ConfiguracionSerie& configuracion, MotorSerie& motor)
+        : marca_(marca), configuracion_(configuracion), motor_(motor) {}
 
-    // The frame text is ANSI. A fault passes through: the readings after the failing one are not interpreted and
-    // nothing is listed. Raises ErrorEjecucion (tiposNoCoinciden) when the configured validity is not a number.
-    void interpretarTrama(std::string_view trama);
+    // Hands the readings of a frame text (ANSI) to the engine in order and gives the list of them back, each followed
+    // by CR LF. Raises LecturaRechazada for the first one that fails; those after it are not interpreted. A configured
+    // validity that is not a number fails the first reading.
+    std::string interpretarTrama(std::string_view trama);
 
     // The five lines for one reading (ANSI): positions 1-2, 3-4, 5-6 and 7 to the end, as far as it reaches.
     static std::string asignaciones(std::string_view lectura, std::string_view validez);
 
 private:
     std::string leerValidez();
+    void darValor_A_Variable(std::string_view lectura, std::string_view validez);
 
     MarcaFin marca_;
     ConfiguracionSerie& configuracion_;
-    SalidaTramas& salida_;
+    MotorSerie& motor_;
 };

@@ -1,19 +1,29 @@
 #include "serial/RecepcionSerie.h"
 
-void RecepcionSerie::alRecibir() {
-    ventana_.vigilarSilencio(false);
+#include <exception>
+
+void RecepcionSerie::alRecibir(const Entrada& Input) {
+    try {
+        recibir(Input);
+    } catch (const LecturaRechazada& rechazo) {
+        salida_.rechazar(rechazo.lectura(), rechazo.what());
+    } catch (const std::exception& fallo) {
+        salida_.rechazar({}, fallo.what());
+    }
+    instantanea_ = cortador_.version();
+}
+
+void RecepcionSerie::recibir(const Entrada& Input) {
     std::string trama;
-    std::string trozo = ventana_.Input();
+    std::string trozo = Input();
     do {
         cortador_.agregar(trozo);
-        ventana_.agregarRecibido(trozo);
+        salida_.agregarRecibido(trozo);
         cortador_.cortar(trama);
         if (!trama.empty())
-            ventana_.interpretarTrama(trama);
-        trozo = ventana_.Input();
+            salida_.agregarListado(interprete_.interpretarTrama(trama));
+        trozo = Input();
     } while (!trozo.empty());
-    instantanea_ = cortador_.version();
-    ventana_.vigilarSilencio(true);
 }
 
 void RecepcionSerie::alCallar() {

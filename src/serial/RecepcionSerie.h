@@ -1,41 +1,48 @@
 // What happens when characters arrive, and when the line stays silent.
 //
-// One receive event gathers what waits, cuts frames and hands them on, until nothing waits any more. Its frame text is
-// never emptied in between: a frame of an earlier pass is handed on again in each later pass. Deliberate.
+// One receive event gathers what waits, cuts frames, interprets them and lists their readings, until nothing waits any
+// more. Its frame text is never emptied in between: a frame of an earlier pass is interpreted again in each later
+// pass. Deliberate.
+//
+// However an event ends, alCallar() judges the silence from its end on: a refused reading leaves nothing behind that a
+// pause would not clear.
 #pragma once
 
 #include "serial/CortadorTramas.h"
+#include "serial/InterpreteTramas.h"
 
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <string_view>
 
-// The window around the port. Input and interpretarTrama may raise a std::exception, which ends the event.
-class VentanaRecepcion {
+// Where the operator sees what happens. All texts but the cause are ANSI.
+class SalidaSerie {
 public:
-    // The characters waiting (ANSI bytes), taken; empty without any.
-    virtual std::string Input() = 0;
-
     // Appends to the raw text of everything received.
     virtual void agregarRecibido(std::string_view trozo) = 0;
 
-    virtual void interpretarTrama(std::string_view trama) = 0;
+    // Appends the readings of one frame text, each followed by CR LF, to the list of frames.
+    virtual void agregarListado(std::string_view listado) = 0;
 
-    // Starts the timer that calls alCallar anew, or stops it.
-    virtual void vigilarSilencio(bool activo) = 0;
+    // A reading was refused, or (with an empty one) the port could not be read; the event ends with it.
+    virtual void rechazar(std::string_view lectura, std::string_view causa) = 0;
 
 protected:
-    ~VentanaRecepcion() = default;
+    ~SalidaSerie() = default;
 };
 
 class RecepcionSerie {
 public:
-    // The window is borrowed.
-    RecepcionSerie(const MarcaFin& marca, VentanaRecepcion& ventana) : cortador_(marca), ventana_(ventana) {}
+    // The characters waiting at the port (ANSI bytes), taken; empty without any. May raise a std::exception.
+    using Entrada = std::function<std::string()>;
 
-    // The receive event, of whatever kind. A fault passes through: the silence timer then stays off until the next
-    // event, and what was gathered stays in the buffer.
-    void alRecibir();
+    // All but the mark are borrowed.
+    RecepcionSerie(const MarcaFin& marca, ConfiguracionSerie& configuracion, MotorSerie& motor, SalidaSerie& salida)
+        : cortador_(marca), interprete_(marca, configuracion, motor), salida_(salida) {}
+
+    // The receive event, of whatever kind. Faults go to the output, none passes through.
+    void alRecibir(const Entrada& Input);
 
     // Every tick of the silence timer: forgets an unfinished frame when nothing came since the last event.
     void alCallar();
@@ -43,7 +50,10 @@ public:
     std::string_view buffer() const { return cortador_.buffer(); }
 
 private:
+    void recibir(const Entrada& Input);
+
     CortadorTramas cortador_;
-    VentanaRecepcion& ventana_;
+    InterpreteTramas interprete_;
+    SalidaSerie& salida_;
     std::uint64_t instantanea_ = 0; // version of the buffer at the end of the last event
 };

@@ -9,6 +9,7 @@
 #include <QPalette>
 #include <QPushButton>
 #include <QSplitter>
+#include <QTime>
 #include <QVBoxLayout>
 
 #include <chrono>
@@ -43,6 +44,35 @@ QWidget* conRotulo(VistaTexto* vista) {
     return panel;
 }
 
+// Shown under the port's line while it has something to tell; can be selected and copied.
+QLabel* aviso(const QString& nombre, const QString& descripcion) {
+    auto* rotulo = conNombre(new QLabel, nombre, descripcion);
+    rotulo->setTextFormat(Qt::PlainText); // what a device sends is no markup
+    rotulo->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    rotulo->setWordWrap(true);
+    rotulo->hide();
+    return rotulo;
+}
+
+void avisar(QLabel& rotulo, const QString& texto) {
+    rotulo.setText(texto);
+    rotulo.setVisible(!texto.isEmpty());
+}
+
+QString conHora(const QString& texto) {
+    return QTime::currentTime().toString(QStringLiteral("HH:mm:ss ")) + texto;
+}
+
+// A reading as the operator can read it: characters without a shape as their code in angle brackets, of a long one the
+// beginning.
+QString legible(std::string_view lectura) {
+    constexpr std::size_t maximo = 60;
+    QString texto;
+    for (const QChar c : deUtf8(utf8DeAnsi(lectura.substr(0, maximo))))
+        texto += c.isPrint() ? QString(c) : QStringLiteral("<%1>").arg(c.unicode());
+    return lectura.size() > maximo ? texto + QChar(0x2026) : texto;
+}
+
 } // namespace
 
 frmRS232::frmRS232(const QString& carpeta, ConfiguracionSerie& configuracion, LogSerie& log, MotorSerie& motor,
@@ -53,13 +83,12 @@ frmRS232::frmRS232(const QString& carpeta, ConfiguracionSerie& configuracion, Lo
     connect(&comm_, &MSComm::OnComm, this, &frmRS232::MSComm_OnComm);
     connect(&comm_, &MSComm::perdido, this, [this](const QString& causa) {
         escribirFallo("OnComm", "", causa.toStdString());
-        timerEstado_Timer();
+        cerradoPor(causa.toStdString());
     });
 
+    // A step that is logged may open a box, in which characters arrive.
     SetearConfig();
-    const MarcaFin marca = leerMarcaFin(configuracion_, log_);
-    recepcion_.emplace(marca, static_cast<VentanaRecepcion&>(*this));
-    interprete_.emplace(marca, configuracion_, static_cast<SalidaTramas&>(*this));
+    recepcion_.emplace(leerMarcaFin(configuracion_, log_), configuracion_, motor_, static_cast<SalidaSerie&>(*this));
 
     timerLimpiarBuffer_.setObjectName(QStringLiteral("timerLimpiarBuffer"));
     timerLimpiarBuffer_.setInterval(3000ms);
@@ -68,6 +97,8 @@ frmRS232::frmRS232(const QString& carpeta, ConfiguracionSerie& configuracion, Lo
     connect(&timerEstado_, &QTimer::timeout, this, &frmRS232::timerEstado_Timer);
     timerEstado_.start(5000ms);
     timerEstado_Timer();
+    if (llegoAntes_)
+        MSComm_OnComm();
 }
 
 void frmRS232::crearControles() {
@@ -101,7 +132,11 @@ void frmRS232::crearControles() {
     textos->addWidget(conRotulo(txtInputCom_));
     textos->addWidget(conRotulo(txtTramas_));
     auto* columna = new QVBoxLayout(this);
+    lblCausaCierre_ = aviso(QStringLiteral("lblCausaCierre"), QStringLiteral("Por qué está cerrado el puerto"));
+    lblRechazo_ = aviso(QStringLiteral("lblRechazo"), QStringLiteral("Última lectura rechazada"));
     columna->addLayout(arriba);
+    columna->addWidget(lblCausaCierre_);
+    columna->addWidget(lblRechazo_);
     columna->addWidget(textos, 1);
     resize(fontMetrics().averageCharWidth() * 90, fontMetrics().height() * 28);
 
@@ -111,6 +146,7 @@ void frmRS232::crearControles() {
     setTabOrder(txtInputCom_, txtTramas_);
     connect(btnAbrir, &QPushButton::clicked, this, [this] {
         SetearConfig();
+        avisar(*lblRechazo_, {});
         timerEstado_Timer();
     });
     connect(btnOcultar, &QPushButton::clicked, this, &QWidget::hide);
@@ -130,21 +166,41 @@ void frmRS232::SetearConfig() {
     intentar("InputLen", [this] { comm_.setInputLen(0); });
     intentar("RThreshold", [this] { comm_.setRThreshold(1); });
     intentar("SThreshold", [this] { comm_.setSThreshold(1); });
-    intentar("PortOpen", [this] { comm_.setPortOpen(true); });
+    intentar("PortOpen", [this] { abrirPuerto(); });
     txtConfigRS232_->setText(deUtf8("Com: " + ajustes_.NomCOM + " / " + comm_.Settings()));
 }
 
+void frmRS232::abrirPuerto() {
+    try {
+        comm_.setPortOpen(true);
+    } catch (const std::exception& error) {
+        if (!comm_.PortOpen())
+            cerradoPor(error.what());
+        throw;
+    }
+}
+
+void frmRS232::cerradoPor(std::string_view causa) {
+    causaCierre_ = conHora(deUtf8(causa));
+    timerEstado_Timer();
+}
+
+std::string frmRS232::conAjustes(std::string_view operacion) const {
+    return std::string(operacion) + ": Com:" + ajustes_.NomCOM + "/" + ajustes_.Settings();
+}
+
 void frmRS232::escribirFallo(std::string_view operacion, std::string_view detalle, std::string_view descripcion) {
-    log_.escribirLog("RS232", std::string(operacion) + ": Com:" + ajustes_.NomCOM + "/" + ajustes_.Settings(), detalle,
-                     descripcion);
+    log_.escribirLog("RS232", conAjustes(operacion), detalle, descripcion);
 }
 
 void frmRS232::MSComm_OnComm() {
-    try {
-        recepcion_->alRecibir();
-    } catch (const std::exception& error) {
-        escribirFallo("OnComm", "", error.what());
+    if (!recepcion_) {
+        llegoAntes_ = true;
+        return;
     }
+    timerLimpiarBuffer_.stop();
+    recepcion_->alRecibir([this] { return comm_.Input(); });
+    timerLimpiarBuffer_.start();
 }
 
 void frmRS232::timerEstado_Timer() {
@@ -154,31 +210,28 @@ void frmRS232::timerEstado_Timer() {
     colores.setColor(QPalette::WindowText, Qt::black);
     lblEstado_->setPalette(colores);
     lblEstado_->setText(abierto ? QStringLiteral("OPEN") : QStringLiteral("CLOSE"));
-}
-
-void frmRS232::interpretarTrama(std::string_view trama) {
-    interprete_->interpretarTrama(trama);
-}
-
-void frmRS232::darValor_A_Variable(std::string_view texto) {
-    motor_.AddCode(texto);
-}
-
-std::string frmRS232::Input() {
-    return comm_.Input();
+    if (abierto)
+        causaCierre_.clear();
+    lblEstado_->setToolTip(causaCierre_);
+    avisar(*lblCausaCierre_, causaCierre_);
 }
 
 void frmRS232::agregarRecibido(std::string_view trozo) {
     txtInputCom_->agregar(deUtf8(utf8DeAnsi(trozo)));
 }
 
-void frmRS232::vigilarSilencio(bool activo) {
-    if (activo)
-        timerLimpiarBuffer_.start();
-    else
-        timerLimpiarBuffer_.stop();
-}
-
 void frmRS232::agregarListado(std::string_view listado) {
     txtTramas_->agregar(deUtf8(utf8DeAnsi(listado)));
+}
+
+void frmRS232::rechazar(std::string_view lectura, std::string_view causa) {
+    const QString que = legible(lectura);
+    const std::uint64_t veces =
+        fallosRecepcion_.anotar(conAjustes("OnComm"), que.toStdString(), causa, std::chrono::steady_clock::now());
+    QString texto = lectura.empty() ? QStringLiteral("No se pudo leer el puerto: ")
+                                    : QStringLiteral("Lectura rechazada «") + que + QStringLiteral("»: ");
+    texto += deUtf8(causa);
+    if (veces > 1)
+        texto += QStringLiteral(" (%1 veces)").arg(veces);
+    avisar(*lblRechazo_, conHora(texto));
 }

@@ -5,7 +5,6 @@
 #include "platform/window/Contraste.h"
 #include "platform/window/MsgBox.h"
 #include "registers/FrmMW.h"
-#include "registers/Palabra.h"
 #include "registers/VistaPagina.h"
 #include "script/FrmEdicionCodigo.h"
 #include "serial/frmRS232.h"
@@ -13,7 +12,6 @@
 #include "shell/ControlesPrincipal.h"
 #include "shell/FrmAbout.h"
 #include "shell/FrmTxRx.h"
-#include "shell/Modulo_Config.h"
 #include "shell/SeRepiteProgramaEnRunTime.h"
 
 #include <QApplication>
@@ -22,13 +20,10 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QShortcut>
-#include <QSocketNotifier>
 #include <QStackedWidget>
 #include <QTabBar>
 #include <QTreeWidget>
 
-#include <chrono>
-#include <cmath>
 #include <cstdio>
 #include <filesystem>
 
@@ -58,17 +53,8 @@ void mostrarDelante(QWidget& ventana) {
 
 } // namespace
 
-FrmPrincipal::FrmPrincipal(Modulo_Config& config, Arranque arranque)
-    : config_(config), arranque_(std::move(arranque)), escucha_(reactor_, peticiones_, *this, arranque_.rutaPrograma),
-      controles_(std::make_unique<ControlesPrincipal>(*this, monitores_.escrituras())),
-      script_(std::make_unique<AutomatizacionScript>(
-          esclavos_, configuracionScript_, config_.rutaArchivo().parent_path(), eventos_,
-          AutomatizacionScript::Ventana{*this, *controles_->chScript, *controles_->lblBaseDeTiempo,
-                                        arranque_.sinPantalla},
-          arranque_.limiteScript)),
-      enlaceSerie_(std::make_unique<EnlaceSerie>(*this, config_, script_->ScriptControl1(),
-                                                 std::filesystem::path(arranque_.rutaPrograma).filename().string(),
-                                                 arranque_.depurar)) {
+FrmPrincipal::FrmPrincipal(Estacion& estacion)
+    : estacion_(estacion), controles_(std::make_unique<ControlesPrincipal>(*this, estacion.monitores.escrituras())) {
     setObjectName(QStringLiteral("FrmPrincipal"));
     setWindowTitle(QStringLiteral("Trelvano"));
     resize(1180, 760);
@@ -78,14 +64,15 @@ FrmPrincipal::FrmPrincipal(Modulo_Config& config, Arranque arranque)
     timerAux_.setInterval(periodoAux);
     conectarControles();
     conectarTeclado();
-    esclavos_.observar(this);
+    estacion_.esclavos.observar(this);
+    estacion_.abrirVentana(
+        *this, {*this, *controles_->chScript, *controles_->lblBaseDeTiempo, estacion_.arranque.sinPantalla});
 }
 
 FrmPrincipal::~FrmPrincipal() {
-    esclavos_.observar(nullptr);
-    enlaceSerie_.reset();
-    script_.reset();
-    // The views borrow the store and the monitors, so they go first.
+    estacion_.esclavos.observar(nullptr);
+    estacion_.cerrarVentana();
+    // While the members live that the children's last signals reach.
     qDeleteAll(findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly));
 }
 
@@ -93,18 +80,15 @@ void FrmPrincipal::conectarControles() {
     auto& c = *controles_;
     connect(c.TabStrip1, &QTabBar::currentChanged, this, &FrmPrincipal::seleccionarPestana);
     connect(c.ChRxTx, &QCheckBox::toggled, this, &FrmPrincipal::alternarTxRx);
-    connect(c.BtnBorrarTextosRXTX, &QPushButton::clicked, this, [this] { monitores_.borrarTramas(); });
+    connect(c.BtnBorrarTextosRXTX, &QPushButton::clicked, this, [this] { estacion_.monitores.borrarTramas(); });
     connect(c.BtnEdicionCodigo, &QPushButton::clicked, this, &FrmPrincipal::editarCodigo);
-    connect(c.BtnBorrar, &QPushButton::clicked, this, [this] { monitores_.borrarEscrituras(); });
+    connect(c.BtnBorrar, &QPushButton::clicked, this, [this] { estacion_.monitores.borrarEscrituras(); });
     connect(c.BtnOcultar, &QPushButton::clicked, this, &FrmPrincipal::ocultar);
     connect(c.BtnCerrar, &QPushButton::clicked, this, &FrmPrincipal::apagar);
     connect(c.Command1, &QPushButton::clicked, this, &FrmPrincipal::mostrarAbout);
     connect(c.Command2, &QPushButton::clicked, this, &FrmPrincipal::mostrarPuentes);
     connect(c.btnVerFormularioRS232, &QPushButton::clicked, this, &FrmPrincipal::mostrarSerie);
     connect(&TimerCambioPuerto_, &QTimer::timeout, this, &FrmPrincipal::comprobarPuertoYVisibilidad);
-
-    auto* avisador = new QSocketNotifier(reactor_.descriptor(), QSocketNotifier::Read, this);
-    connect(avisador, &QSocketNotifier::activated, this, [this] { reactor_.turn(); });
 }
 
 void FrmPrincipal::conectarTeclado() {
@@ -117,61 +101,61 @@ void FrmPrincipal::conectarTeclado() {
 bool FrmPrincipal::cargar() {
     ponerAyudaContextual(*this);
     hide();
-    if (arranque_.instanciaPrevia) {
+    if (estacion_.arranque.instanciaPrevia) {
         rechazarSegundaInstancia();
         return false;
     }
     // The result is of no use: the single-instance rule rests on the previous instance alone.
-    SeRepiteProgramaEnRunTime(std::filesystem::path(arranque_.rutaPrograma).filename().string());
-    script_->iniciar();
-    dejarPasarEventos();
+    SeRepiteProgramaEnRunTime(std::filesystem::path(estacion_.arranque.rutaPrograma).filename().string());
+    estacion_.script().iniciar();
+    estacion_.eventos.dejarPasarEventos();
     controles_->ListView1->setHeaderLabels({QStringLiteral("IP"), QStringLiteral("ESTADO")});
     controles_->ListView1->setColumnWidth(0, fontMetrics().horizontalAdvance(QStringLiteral("  000.000.000.000  ")));
-    dejarPasarEventos();
+    estacion_.eventos.dejarPasarEventos();
     crearTablasIniciales();
     controles_->TabStrip1->setCurrentIndex(1);
     for (int vez = 0; vez < 5; ++vez)
-        dejarPasarEventos();
+        estacion_.eventos.dejarPasarEventos();
     comprobarPuertoYVisibilidad();
     TimerCambioPuerto_.start();
     atenderLineaDeComandos();
     cargarPuentes();
-    script_->empezarPasadas();
+    estacion_.script().empezarPasadas();
     return !apagada_;
 }
 
 void FrmPrincipal::rechazarSegundaInstancia() {
     const QString mensaje = QStringLiteral("Programa en ejecucion");
     // Where nobody can close a message box, waiting for it would never end.
-    if (arranque_.sinPantalla)
+    if (estacion_.arranque.sinPantalla)
         std::fprintf(stderr, "esclavo-modbus: %s\n", qUtf8Printable(mensaje));
     else
         MsgBox(nullptr, mensaje, vbCritical + vbSystemModal, QStringLiteral("Esclavo Modbus"));
     if (!apagada_)
-        config_.escribirConfiguracion("VER", "1");
+        estacion_.config.escribirConfiguracion("VER", "1");
 }
 
 void FrmPrincipal::crearTablasIniciales() {
     for (int tabla = 0; tabla < tablasIniciales; ++tabla)
-        esclavos_.crearEsclavo(tabla, 0, ultimoRegistroInicial);
+        estacion_.esclavos.crearEsclavo(tabla, 0, ultimoRegistroInicial);
 }
 
 void FrmPrincipal::atenderLineaDeComandos() {
-    if (!arranque_.lineaDeComandos.contains(QLatin1String("view"), Qt::CaseInsensitive))
+    if (!estacion_.arranque.lineaDeComandos.contains(QLatin1String("view"), Qt::CaseInsensitive))
         return;
-    config_.escribirConfiguracion("ver", "1");
+    estacion_.config.escribirConfiguracion("ver", "1");
     show();
 }
 
 void FrmPrincipal::editarCodigo() {
-    FrmEdicionCodigo& editor = script_->editor();
+    FrmEdicionCodigo& editor = estacion_.script().editor();
     ponerAyudaContextual(editor);
     mostrarDelante(editor);
 }
 
 void FrmPrincipal::cargarPuentes() {
     if (!frmPuentes_)
-        frmPuentes_ = new FrmConexionesPuentes(*this, reactor_, eventos_);
+        frmPuentes_ = new FrmConexionesPuentes(*this, estacion_.reactor, estacion_.eventos);
 }
 
 void FrmPrincipal::mostrarPuentes() {
@@ -186,24 +170,23 @@ void FrmPrincipal::mostrarAbout() {
 }
 
 void FrmPrincipal::mostrarSerie() {
-    mostrarDelante(enlaceSerie_->formulario());
+    mostrarDelante(estacion_.enlaceSerie().formulario());
 }
 
 void FrmPrincipal::comprobarPuertoYVisibilidad() {
-    escucha_.levantarEscucha();
-    escucha_.refrescarConexiones();
+    estacion_.comprobarPuerto();
     aplicarVisibilidad();
 }
 
 void FrmPrincipal::aplicarVisibilidad() {
-    if (config_.leerConfiguracion("ver", "1") != "1")
+    if (estacion_.config.leerConfiguracion("ver", "1") != "1")
         hide();
     else if (!isVisible())
         show();
 }
 
 void FrmPrincipal::ocultar() {
-    config_.escribirConfiguracion("ver", "0");
+    estacion_.config.escribirConfiguracion("ver", "0");
     hide();
 }
 
@@ -217,7 +200,7 @@ void FrmPrincipal::apagar() {
     TimerCambioPuerto_.stop();
     detenerScript();
     // Hidden, not deleted: a message box of theirs may still be on the stack. They end with this window.
-    enlaceSerie_->ocultar();
+    estacion_.enlaceSerie().ocultar();
     if (frmMW_)
         frmMW_->hide();
     hide();
@@ -226,8 +209,8 @@ void FrmPrincipal::apagar() {
 
 void FrmPrincipal::esclavoCreado(Pagina& pagina) {
     const int numero = pagina.numero();
-    auto* tramas = new VistaMonitor(monitores_.tramas(numero));
-    auto* vista = new VistaPagina(esclavos_, pagina, tramas, controles_->paginas);
+    auto* tramas = new VistaMonitor(estacion_.monitores.tramas(numero));
+    auto* vista = new VistaPagina(estacion_.esclavos, pagina, tramas, controles_->paginas);
     connect(vista, &VistaPagina::celdaActivada, this, &FrmPrincipal::abrirFrmMW);
     vistas_[numero] = vista;
     ponerAyudaContextual(*vista);
@@ -249,7 +232,7 @@ void FrmPrincipal::cambiarEsclavo(int paso) {
 
 void FrmPrincipal::abrirFrmMW(int esclavo, int direccion, const QString& texto) {
     if (!frmMW_) {
-        frmMW_ = new FrmMW(esclavos_, this);
+        frmMW_ = new FrmMW(estacion_.esclavos, this);
         frmMW_->setAttribute(Qt::WA_DeleteOnClose);
         ponerAyudaContextual(*frmMW_);
     }
@@ -257,23 +240,15 @@ void FrmPrincipal::abrirFrmMW(int esclavo, int direccion, const QString& texto) 
 }
 
 void FrmPrincipal::alternarTxRx(bool ver) {
-    monitores_.verTxRx = ver;
+    estacion_.monitores.verTxRx = ver;
     if (ver && !frmTxRx_)
-        frmTxRx_ = new FrmTxRx(*this, monitores_.todas());
+        frmTxRx_ = new FrmTxRx(*this, estacion_.monitores.todas());
     if (!frmTxRx_)
         return;
     const bool activa = isActiveWindow();
     frmTxRx_->setVisible(ver);
     if (activa)
         activateWindow(); // some window systems make every new window the active one
-}
-
-double FrmPrincipal::leerPuerto() {
-    return config_.leerNumero("PUERTO_VALOR", "502").value_or(0);
-}
-
-void FrmPrincipal::guardarPuerto(double puerto) {
-    config_.escribirConfiguracion("PUERTO_VALOR", textoDeNumero(puerto, '.'));
 }
 
 void FrmPrincipal::mostrarPuerto(const std::string& texto) {
@@ -284,11 +259,9 @@ void FrmPrincipal::mostrarEscuchando(bool escuchando) {
     colorear(*controles_->LblPuertoLocal, escuchando ? QColor(0, 128, 0) : QColor(255, 0, 0));
 }
 
-void FrmPrincipal::avisar(const std::string& motivo) {
-    controles_->lblDDEAviso->setText(QString::fromStdString(motivo));
-    controles_->lblDDEAviso->setVisible(!motivo.empty());
-    if (!motivo.empty())
-        std::fprintf(stderr, "esclavo-modbus: %s\n", motivo.c_str());
+void FrmPrincipal::mostrarAviso(const std::string& texto) {
+    controles_->lblDDEAviso->setText(QString::fromStdString(texto));
+    controles_->lblDDEAviso->setVisible(!texto.empty());
 }
 
 void FrmPrincipal::agregarFila() {
@@ -303,8 +276,4 @@ void FrmPrincipal::mostrarFila(std::size_t fila, const std::string& ip, const st
     QTreeWidgetItem* const elemento = controles_->ListView1->topLevelItem(static_cast<int>(fila));
     elemento->setText(0, QString::fromStdString(ip));
     elemento->setText(1, QString::fromStdString(estado));
-}
-
-void FrmPrincipal::dejarPasarEventos() {
-    eventos_.dejarPasarEventos();
 }

@@ -1,19 +1,11 @@
-// The main window: it owns the register store, the monitors, the listener and the pages, and brings them up in order.
+// The main window: shows the station and its pages, and brings everything up in order.
 //
 // It starts hidden; the configuration key "ver" shows and hides it, read again on every tick of TimerCambioPuerto, so
 // that hiding survives a restart and a second start of the program brings the running one to the front.
 #pragma once
 
-#include "modbus/Escucha.h"
-#include "modbus/Monitores.h"
-#include "modbus/Peticiones.h"
-#include "platform/net/Reactor.h"
-#include "platform/window/Eventos.h"
 #include "registers/Esclavos.h"
-#include "script/AutomatizacionScript.h"
-#include "shell/ConfiguracionScriptIni.h"
-#include "shell/EnlaceSerie.h"
-#include "shell/RelojSistema.h"
+#include "shell/Estacion.h"
 
 #include <QPointer>
 #include <QTimer>
@@ -27,26 +19,15 @@ class FrmAbout;
 class FrmConexionesPuentes;
 class FrmMW;
 class FrmTxRx;
-class Modulo_Config;
 class VistaPagina;
 struct ControlesPrincipal;
 
-// What the program was started with.
-struct Arranque {
-    std::string rutaPrograma;     // the executable's real path
-    QString lineaDeComandos;      // the arguments as one text
-    bool instanciaPrevia = false; // another copy of the same executable is running
-    bool sinPantalla = false;     // nobody sees the windows
-    bool depurar = false;         // show every logged error in a message box
-    std::chrono::milliseconds limiteScript = AutomatizacionScript::tiempoLimite; // of one script pass
-};
-
-class FrmPrincipal final : public QWidget, private ObservadorEsclavos, private EntornoEscucha {
+class FrmPrincipal final : public QWidget, private ObservadorEsclavos, private VentanaEstacion {
     Q_OBJECT
 
 public:
-    // `config` is borrowed and outlives the window. Nothing runs before cargar().
-    FrmPrincipal(Modulo_Config& config, Arranque arranque);
+    // The station is borrowed and outlives its window. Nothing runs before cargar().
+    explicit FrmPrincipal(Estacion& estacion);
     ~FrmPrincipal() override;
 
     // The load step: brings everything up in the documented order. False when the program is to end at once: it was
@@ -58,14 +39,11 @@ public:
     void apagar();
 
     // Ends the running script as soon as possible. May be called from a signal handler.
-    void detenerScript() noexcept { script_->detener(); }
+    void detenerScript() noexcept { estacion_.script().detener(); }
 
     // A script pass when `num` is exactly 1, and one in any case.
-    void ejecucion_timers(double num) { script_->ejecucion_timers(num); }
-    void ejecutarScript() { script_->ejecutarScript(); }
-
-    const Esclavos& esclavos() const { return esclavos_; }
-    const Escucha& escucha() const { return escucha_; }
+    void ejecucion_timers(double num) { estacion_.script().ejecucion_timers(num); }
+    void ejecutarScript() { estacion_.script().ejecutarScript(); }
 
 protected:
     void closeEvent(QCloseEvent* evento) override;
@@ -74,15 +52,12 @@ private:
     // ObservadorEsclavos
     void esclavoCreado(Pagina& pagina) override;
 
-    // EntornoEscucha
-    double leerPuerto() override;
-    void guardarPuerto(double puerto) override;
+    // VentanaEstacion
     void mostrarPuerto(const std::string& texto) override;
     void mostrarEscuchando(bool escuchando) override;
-    void avisar(const std::string& motivo) override;
+    void mostrarAviso(const std::string& texto) override;
     void agregarFila() override;
     void mostrarFila(std::size_t fila, const std::string& ip, const std::string& estado) override;
-    void dejarPasarEventos() override;
 
     void conectarControles();
     void conectarTeclado();
@@ -102,20 +77,8 @@ private:
     void alternarTxRx(bool ver);
     void ocultar();
 
-    Modulo_Config& config_;
-    Arranque arranque_;
-    Esclavos esclavos_;
-    Monitores monitores_;
-    RelojSistema reloj_;
-    Peticiones peticiones_{esclavos_, monitores_, reloj_};
-    Reactor reactor_;
-    Eventos eventos_;
-    Escucha escucha_;
-
+    Estacion& estacion_;
     std::unique_ptr<ControlesPrincipal> controles_;
-    ConfiguracionScriptIni configuracionScript_{config_};
-    std::unique_ptr<AutomatizacionScript> script_;
-    std::unique_ptr<EnlaceSerie> enlaceSerie_;
     std::map<int, VistaPagina*> vistas_; // by slave number; owned by their parent
     QPointer<FrmAbout> frmAbout_;
     QPointer<FrmTxRx> frmTxRx_;

@@ -1,11 +1,11 @@
-// The entry of esclavo-modbus: finds out how it was started, then leaves everything to the main window.
+// The entry of esclavo-modbus: finds out how it was started, builds the station and its main window, and runs it.
 
 #include "platform/system/CarpetaPrograma.h"
 #include "platform/system/InstanciaPrevia.h"
 #include "platform/window/Contraste.h"
 #include "platform/window/TextosQt.h"
+#include "shell/Estacion.h"
 #include "shell/FrmPrincipal.h"
-#include "shell/Modulo_Config.h"
 #include "shell/SenalesTermino.h"
 
 #include <QApplication>
@@ -63,12 +63,13 @@ int main(int argc, char** argv) {
 
     const std::filesystem::path ruta = rutaEjecutable();
     const InstanciaPrevia instancia(ruta);
-    Modulo_Config config(carpetaPrograma());
-    FrmPrincipal principal(config, Arranque{.rutaPrograma = ruta.string(),
-                                            .lineaDeComandos = QApplication::arguments().mid(1).join(QLatin1Char(' ')),
-                                            .instanciaPrevia = instancia.hayOtra(),
-                                            .sinPantalla = sinPantalla,
-                                            .depurar = qEnvironmentVariable("ESCLAVO_DEBUG") == QLatin1String("1")});
+    Estacion estacion(carpetaPrograma(),
+                      Arranque{.rutaPrograma = ruta.string(),
+                               .lineaDeComandos = QApplication::arguments().mid(1).join(QLatin1Char(' ')),
+                               .instanciaPrevia = instancia.hayOtra(),
+                               .sinPantalla = sinPantalla,
+                               .depurar = qEnvironmentVariable("ESCLAVO_DEBUG") == QLatin1String("1")});
+    FrmPrincipal principal(estacion);
     const SenalesTermino senales([&principal] { principal.detenerScript(); }, [&principal] { principal.apagar(); });
     return principal.cargar() ? QApplication::exec() : 0;
 }

@@ -4,6 +4,7 @@
 
 #include "serial/EntornoSerie.h"
 
+#include <functional>
 #include <map>
 #include <stdexcept>
 #include <string>
@@ -30,7 +31,8 @@ class LogFalso final : public LogSerie {
 public:
     virtual ~LogFalso() = default;
 
-    std::vector<std::string> lineas; // origin>message>detail>description
+    std::vector<std::string> lineas;  // origin>message>detail>description
+    std::function<void()> alEscribir; // runs with each line, as the box of the debug switch does
 
     void escribirLog(std::string_view origen, std::string_view mensaje, std::string_view detalle,
                      std::string_view descripcionError) override {
@@ -38,6 +40,8 @@ public:
         linea.append(origen).append(">").append(mensaje).append(">").append(detalle).append(">").append(
             descripcionError);
         lineas.push_back(linea);
+        if (alEscribir)
+            alEscribir();
     }
 };
 

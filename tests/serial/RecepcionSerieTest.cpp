@@ -1,5 +1,7 @@
-// The receive event step by step, and the silence timer.
+// The receive event step by step, and the silence that follows it.
 #include "serial/RecepcionSerie.h"
+
+#include "EntornoFalso.h"
 
 #include <deque>
 #include <gtest/gtest.h>
@@ -8,105 +10,113 @@
 
 namespace {
 
-// A window that tells in order what was done to it.
-class VentanaFalsa final : public VentanaRecepcion {
-public:
-    std::deque<std::string> entradas; // of Input; empty texts from their end on
-    std::vector<std::string> pasos;
-    std::string tramaMala; // is rejected
-    bool puertoCerrado = false;
-
-    std::string Input() override {
-        if (puertoCerrado)
-            throw std::runtime_error("El puerto no está abierto");
-        std::string entrada;
-        if (!entradas.empty()) {
-            entrada = entradas.front();
-            entradas.pop_front();
-        }
-        pasos.push_back("Input " + entrada);
-        return entrada;
-    }
-
-    void agregarRecibido(std::string_view trozo) override { pasos.push_back("recibido " + std::string(trozo)); }
-
-    void interpretarTrama(std::string_view trama) override {
-        pasos.push_back("trama " + std::string(trama));
-        if (trama == tramaMala)
-            throw std::runtime_error("Error de sintaxis");
-    }
-
-    void vigilarSilencio(bool activo) override { pasos.emplace_back(activo ? "vigilar" : "no vigilar"); }
-};
-
 using Pasos = std::vector<std::string>;
 
-class ReceiveEvent : public testing::Test {
+// A port, an engine and a window that tell in order what was done to them.
+class ReceiveEvent : public testing::Test, protected MotorSerie, protected SalidaSerie {
 protected:
     void recibir(std::deque<std::string> entradas) {
-        ventana.pasos.clear();
-        ventana.entradas = std::move(entradas);
-        recepcion.alRecibir();
+        pasos.clear();
+        recepcion.alRecibir([&] {
+            if (puertoCerrado)
+                throw std::runtime_error("El puerto no está abierto");
+            std::string entrada;
+            if (!entradas.empty()) {
+                entrada = entradas.front();
+                entradas.pop_front();
+            }
+            pasos.push_back("Input " + entrada);
+            return entrada;
+        });
     }
 
-    VentanaFalsa ventana;
-    RecepcionSerie recepcion{MarcaFin('.', ';'), ventana};
+    void AddCode(std::string_view codigo) override {
+        // AA =xx\r\n: the reading's first two characters tell it
+        const std::string_view lectura = codigo.substr(4, codigo.find("\r\nMM") - 4);
+        pasos.push_back("motor " + std::string(lectura));
+        if (lectura == mala)
+            throw std::runtime_error("Error de sintaxis");
+    }
+    void agregarRecibido(std::string_view trozo) override { pasos.push_back("recibido " + std::string(trozo)); }
+    void agregarListado(std::string_view listado) override { pasos.push_back("listado " + std::string(listado)); }
+    void rechazar(std::string_view lectura, std::string_view causa) override {
+        pasos.push_back("rechazo " + std::string(lectura) + ": " + std::string(causa));
+    }
+
+    Pasos pasos;
+    std::string mala = "nada"; // a reading's first two characters; the engine rejects it
+    bool puertoCerrado = false;
+    ConfiguracionFalsa configuracion;
+    RecepcionSerie recepcion{MarcaFin('.', ';'), configuracion, *this, *this};
 };
 
 TEST_F(ReceiveEvent, stepsComeInTheirOrder) {
     recibir({"AB.;"});
-    EXPECT_EQ(ventana.pasos, (Pasos{"no vigilar", "Input AB.;", "recibido AB.;", "trama AB..;", "Input ", "vigilar"}));
+    EXPECT_EQ(pasos, (Pasos{"Input AB.;", "recibido AB.;", "motor AB", "listado AB.\r\n", "Input "}));
     EXPECT_EQ(recepcion.buffer(), ";");
 }
 
 TEST_F(ReceiveEvent, eventWithoutCharactersMakesOnePass) {
     recibir({});
-    EXPECT_EQ(ventana.pasos, (Pasos{"no vigilar", "Input ", "recibido ", "Input ", "vigilar"}));
+    EXPECT_EQ(pasos, (Pasos{"Input ", "recibido ", "Input "}));
 }
 
 TEST_F(ReceiveEvent, unfinishedFrameIsNotInterpreted) {
     recibir({"AB"});
-    EXPECT_EQ(ventana.pasos, (Pasos{"no vigilar", "Input AB", "recibido AB", "Input ", "vigilar"}));
+    EXPECT_EQ(pasos, (Pasos{"Input AB", "recibido AB", "Input "}));
     EXPECT_EQ(recepcion.buffer(), "AB");
 }
 
-TEST_F(ReceiveEvent, twoFramesInOneChunkAreHandedOnInOneText) {
+TEST_F(ReceiveEvent, twoFramesInOneChunkAreInterpretedInOneText) {
     recibir({"A.;B.;"});
-    EXPECT_EQ(ventana.pasos[3], "trama A..;;B..;");
-    EXPECT_EQ(ventana.pasos.size(), 6u);
+    EXPECT_EQ(pasos,
+              (Pasos{"Input A.;B.;", "recibido A.;B.;", "motor A.", "motor ;B", "listado A.\r\n;B.\r\n", "Input "}));
 }
 
-TEST_F(ReceiveEvent, frameOfAnEarlierPassIsHandedOnAgainInEachLaterPass) {
+TEST_F(ReceiveEvent, frameOfAnEarlierPassIsInterpretedAgainInEachLaterPass) {
     recibir({"A.;", "B", "C.;"});
-    EXPECT_EQ(ventana.pasos, (Pasos{"no vigilar", "Input A.;", "recibido A.;", "trama A..;", //
-                                    "Input B", "recibido B", "trama A..;",                   //
-                                    "Input C.;", "recibido C.;", "trama A..;;BC..;",         //
-                                    "Input ", "vigilar"}));
+    EXPECT_EQ(pasos, (Pasos{"Input A.;", "recibido A.;", "motor A.", "listado A.\r\n", //
+                            "Input B", "recibido B", "motor A.", "listado A.\r\n",     //
+                            "Input C.;", "recibido C.;", "motor A.", "motor ;B", "listado A.\r\n;BC.\r\n", "Input "}));
 }
 
 TEST_F(ReceiveEvent, frameTextStartsEmptyInEachEvent) {
     recibir({"A.;"});
     recibir({"B.;"});
-    EXPECT_EQ(ventana.pasos[3], "trama ;B..;");
+    EXPECT_EQ(pasos[2], "motor ;B");
 }
 
-TEST_F(ReceiveEvent, faultOfTheInterpreterEndsTheEventWithTheTimerOff) {
-    ventana.tramaMala = "A..;";
-    EXPECT_THROW(recibir({"A.;", "B.;"}), std::runtime_error);
-    EXPECT_EQ(ventana.pasos, (Pasos{"no vigilar", "Input A.;", "recibido A.;", "trama A..;"}));
+TEST_F(ReceiveEvent, refusedReadingIsToldAndEndsTheEvent) {
+    mala = "A.";
+    recibir({"A.;", "B.;"});
+    EXPECT_EQ(pasos, (Pasos{"Input A.;", "recibido A.;", "motor A.", "rechazo A.: Error de sintaxis"}));
     EXPECT_EQ(recepcion.buffer(), ";");
 }
 
-TEST_F(ReceiveEvent, eventAfterAFaultGoesOnWithTheBuffer) {
-    ventana.tramaMala = "A..;";
-    EXPECT_THROW(recibir({"A.;"}), std::runtime_error);
-    recibir({"B.;"});
-    EXPECT_EQ(ventana.pasos, (Pasos{"no vigilar", "Input B.;", "recibido B.;", "trama ;B..;", "Input ", "vigilar"}));
+TEST_F(ReceiveEvent, readingsAfterTheRefusedOneAreNeitherInterpretedNorListed) {
+    mala = ";B";
+    recibir({"A.;B.;C.;"});
+    EXPECT_EQ(pasos, (Pasos{"Input A.;B.;C.;", "recibido A.;B.;C.;", "motor A.", "motor ;B",
+                            "rechazo ;B.: Error de sintaxis"}));
 }
 
-TEST_F(ReceiveEvent, faultOfThePortPassesThrough) {
-    ventana.puertoCerrado = true;
-    EXPECT_THROW(recibir({}), std::runtime_error);
+TEST_F(ReceiveEvent, validityThatIsNoNumberRefusesTheFirstReading) {
+    configuracion.valores["RS232_Cant_Intervalos_Validez"] = "dos";
+    recibir({"A.;"});
+    EXPECT_EQ(pasos.back(), "rechazo A.: No coinciden los tipos");
+}
+
+TEST_F(ReceiveEvent, eventAfterARefusedReadingGoesOnWithTheBuffer) {
+    mala = "A.";
+    recibir({"A.;"});
+    recibir({"B.;"});
+    EXPECT_EQ(pasos, (Pasos{"Input B.;", "recibido B.;", "motor ;B", "listado ;B.\r\n", "Input "}));
+}
+
+TEST_F(ReceiveEvent, faultOfThePortIsToldWithoutAReading) {
+    puertoCerrado = true;
+    recibir({});
+    EXPECT_EQ(pasos, Pasos{"rechazo : El puerto no está abierto"});
 }
 
 TEST_F(ReceiveEvent, silenceDropsHalfAFrame) {
@@ -114,7 +124,7 @@ TEST_F(ReceiveEvent, silenceDropsHalfAFrame) {
     recepcion.alCallar();
     EXPECT_EQ(recepcion.buffer(), "");
     recibir({"A.;"});
-    EXPECT_EQ(ventana.pasos[3], "trama A..;");
+    EXPECT_EQ(pasos[2], "motor A.");
 }
 
 TEST_F(ReceiveEvent, silenceDropsTheLeftOverEndCharacter) {
@@ -122,15 +132,24 @@ TEST_F(ReceiveEvent, silenceDropsTheLeftOverEndCharacter) {
     recepcion.alCallar();
     recepcion.alCallar();
     recibir({"B.;"});
-    EXPECT_EQ(ventana.pasos[3], "trama B..;");
+    EXPECT_EQ(pasos[2], "motor B.");
 }
 
-TEST_F(ReceiveEvent, whatCameAfterTheLastWholeEventOutlivesATick) {
+TEST_F(ReceiveEvent, silenceAfterARefusedReadingDropsWhatItLeft) {
+    mala = ";B";
     recibir({"A.;"});
-    ventana.tramaMala = ";B..;";
-    EXPECT_THROW(recibir({"B.;C"}), std::runtime_error);
-    recepcion.alCallar();
+    recibir({"B.;C"});
     EXPECT_EQ(recepcion.buffer(), ";C");
+    recepcion.alCallar();
+    EXPECT_EQ(recepcion.buffer(), "");
+}
+
+TEST_F(ReceiveEvent, silenceAfterAFaultOfThePortDropsWhatWasThere) {
+    recibir({"media"});
+    puertoCerrado = true;
+    recibir({});
+    recepcion.alCallar();
+    EXPECT_EQ(recepcion.buffer(), "");
 }
 
 TEST_F(ReceiveEvent, tickBeforeTheFirstEventIsHarmless) {

@@ -10,12 +10,16 @@
 #include <QLineEdit>
 #include <QProcess>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QSignalSpy>
 #include <QTest>
 #include <QTimer>
 
+#include <fcntl.h>
 #include <memory>
+#include <sys/ioctl.h>
 #include <thread>
+#include <unistd.h>
 
 namespace {
 
@@ -35,6 +39,11 @@ struct Estacion {
 
     QString texto(const char* nombre) { return control<VistaTexto>(nombre)->texto(); }
     QString estado() { return control<QLabel>("lblEstado")->text(); }
+    // The text of a notice; empty when it is not shown.
+    QString aviso(const char* nombre) {
+        const auto* rotulo = control<QLabel>(nombre);
+        return rotulo->isHidden() ? QString() : rotulo->text();
+    }
     QColor color() { return control<QLabel>("lblEstado")->palette().color(QPalette::Window); }
     void pulsar(const char* boton) { QTest::mouseClick(control<QPushButton>(boton), Qt::LeftButton); }
 
@@ -202,24 +211,98 @@ private Q_SLOTS:
         QVERIFY(estacion.motor.textos[1].starts_with("AA =\r2\r\nMM =40\r\n"));
     }
 
-    void faultOfTheEngineGoesToTheLogAndTheWindowGoesOn() {
+    void refusedReadingIsLoggedAndToldWithTimeAndCause() {
         Estacion estacion;
         estacion.motor.rechaza = "mal";
         estacion.par.enviar("240517mal\n\r");
         QTRY_COMPARE(estacion.log.lineas,
-                     std::vector<std::string>{"RS232>OnComm: Com:1/9600,N,8,1>>Error de sintaxis"});
-        QVERIFY(!estacion.control<QTimer>("timerLimpiarBuffer")->isActive());
+                     std::vector<std::string>{"RS232>OnComm: Com:1/9600,N,8,1>240517mal<10>>Error de sintaxis"});
+        const QRegularExpression dicho(
+            QStringLiteral("^\\d\\d:\\d\\d:\\d\\d Lectura rechazada «240517mal<10>»: Error de sintaxis$"));
+        QTRY_VERIFY(dicho.match(estacion.aviso("lblRechazo")).hasMatch());
         QCOMPARE(estacion.texto("txtTramas"), QString());
-        estacion.par.enviar("240518456\n\r");
-        QTRY_COMPARE(estacion.motor.textos.size(), std::size_t{1});
+        QVERIFY(estacion.control<QTimer>("timerLimpiarBuffer")->isActive());
     }
 
-    void validityThatIsNoNumberGoesToTheLog() {
+    // The whole way back: refused, silent, good.
+    void readingAfterARefusedOneAndAPauseIsGood() {
+        Estacion estacion;
+        estacion.motor.rechaza = "mal";
+        estacion.par.enviar("240517mal\n\r");
+        auto* silencio = estacion.control<QTimer>("timerLimpiarBuffer");
+        QTRY_VERIFY(silencio->isActive());
+        QSignalSpy tics(silencio, &QTimer::timeout);
+        estacion.adelantar("timerLimpiarBuffer");
+        QTRY_VERIFY(tics.count() > 0);
+        estacion.par.enviar("240517123\n\r");
+        QTRY_COMPARE(estacion.motor.textos, std::vector<std::string>{asignaciones123});
+        QTRY_COMPARE(estacion.texto("txtTramas"), QStringLiteral("240517123\n\n"));
+    }
+
+    void readingRefusedAgainAndAgainIsCountedAndLoggedRarely() {
+        Estacion estacion;
+        estacion.motor.rechaza = "ID";
+        for (int vez = 1; vez <= 20; ++vez) {
+            estacion.par.enviar("240517123\n\r");
+            const QString cuenta = vez > 1 ? QStringLiteral("(%1 veces)").arg(vez) : QStringLiteral("sintaxis");
+            QTRY_VERIFY(estacion.aviso("lblRechazo").endsWith(cuenta));
+        }
+        QCOMPARE(estacion.log.lineas.size(), std::size_t{2}); // the first and the tenth
+    }
+
+    void longReadingOfNoiseIsToldByItsLegibleBeginning() {
+        Estacion estacion;
+        estacion.motor.rechaza = "ID";
+        estacion.par.enviar(std::string("<b>\x01\xF1") + std::string(500, 'x') + "\n\r");
+        QTRY_VERIFY(
+            estacion.aviso("lblRechazo").contains(QStringLiteral("«<b><1>ñ") + QString(55, u'x') + QChar(0x2026)));
+    }
+
+    void pressingAbrirPuertoTakesTheRefusedReadingAway() {
+        Estacion estacion;
+        estacion.motor.rechaza = "ID";
+        estacion.par.enviar("240517123\n\r");
+        QTRY_VERIFY(!estacion.aviso("lblRechazo").isEmpty());
+        estacion.pulsar("BtnAbrirPuerto");
+        QCOMPARE(estacion.aviso("lblRechazo"), QString());
+    }
+
+    void validityThatIsNoNumberIsTold() {
         Estacion estacion(Ajustes{{"RS232_Cant_Intervalos_Validez", "dos"}});
         estacion.par.enviar("240517123\n\r");
-        QTRY_COMPARE(estacion.log.lineas,
-                     std::vector<std::string>{"RS232>OnComm: Com:1/9600,N,8,1>>No coinciden los tipos"});
+        QTRY_VERIFY(estacion.aviso("lblRechazo").endsWith(QStringLiteral("»: No coinciden los tipos")));
+        QCOMPARE(estacion.log.lineas.size(), std::size_t{1});
         QVERIFY(estacion.motor.textos.empty());
+    }
+
+    // The box of the debug switch opens while the window is being made, and characters arrive in it.
+    void charactersThatArriveWhileTheWindowIsMadeAreTakenAfterwards() {
+        const ParSerie par;
+        ConfiguracionFalsa configuracion;
+        configuracion.valores["Caracter_Fin_TRAMA_1"] = "300"; // is logged, with the port open by then
+        LogFalso log;
+        MotorFalso motor;
+        log.alEscribir = [&] {
+            const int linea = ::open(qPrintable(par.dispositivo()), O_RDONLY | O_NOCTTY | O_NONBLOCK);
+            par.enviar("240517123\n\r");
+            int esperan = 1;
+            QVERIFY(QTest::qWaitFor([&] { return ::ioctl(linea, FIONREAD, &esperan) == 0 && esperan == 0; }));
+            ::close(linea);
+        };
+        const frmRS232 ventana(par.carpeta(), configuracion, log, motor);
+        QCOMPARE(log.lineas.size(), std::size_t{1});
+        QTRY_COMPARE(motor.textos, std::vector<std::string>{asignaciones123});
+    }
+
+    void closedPortTellsWhy() {
+        Estacion estacion(Ajustes{{"RS232_NomCOM", "3000"}});
+        const QRegularExpression dicho(
+            QStringLiteral("^\\d\\d:\\d\\d:\\d\\d No se puede abrir /dev/ttyS2999: no existe$"));
+        QVERIFY(dicho.match(estacion.aviso("lblCausaCierre")).hasMatch());
+        QFile::link(estacion.par.dispositivo(), estacion.par.carpeta() + QStringLiteral("/com3000"));
+        estacion.pulsar("BtnAbrirPuerto");
+        QCOMPARE(estacion.estado(), QStringLiteral("OPEN"));
+        QCOMPARE(estacion.aviso("lblCausaCierre"), QString());
     }
 
     void vanishedDeviceIsLoggedOnceShownClosedAndOpenedAgainByTheButton() {
@@ -229,9 +312,11 @@ private Q_SLOTS:
         QTest::qWait(50); // nothing more is to happen
         QCOMPARE(estacion.log.lineas.size(), std::size_t{1});
         QVERIFY(estacion.log.lineas[0].ends_with("el dispositivo ha desaparecido"));
+        QVERIFY(estacion.aviso("lblCausaCierre").endsWith(QStringLiteral("el dispositivo ha desaparecido")));
         estacion.par.conectar();
         estacion.pulsar("BtnAbrirPuerto");
         QCOMPARE(estacion.estado(), QStringLiteral("OPEN"));
+        QCOMPARE(estacion.aviso("lblCausaCierre"), QString());
         estacion.par.enviar("240517123\n\r");
         QTRY_COMPARE(estacion.motor.textos.size(), std::size_t{1});
         QCOMPARE(estacion.log.lineas.size(), std::size_t{1});
@@ -239,8 +324,8 @@ private Q_SLOTS:
 
     void everyControlHasANameForAssistiveTools() {
         Estacion estacion;
-        for (const char* nombre :
-             {"TxtInputCom", "txtConfigRS232", "txtTramas", "lblEstado", "BtnAbrirPuerto", "BtnOcultar"})
+        for (const char* nombre : {"TxtInputCom", "txtConfigRS232", "txtTramas", "lblEstado", "lblCausaCierre",
+                                   "lblRechazo", "BtnAbrirPuerto", "BtnOcultar"})
             QVERIFY2(!estacion.control<QWidget>(nombre)->accessibleName().isEmpty(), nombre);
     }
 

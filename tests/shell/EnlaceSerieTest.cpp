@@ -9,6 +9,7 @@
 #include <QProcess>
 #include <QPushButton>
 #include <QRegularExpression>
+#include <QTimer>
 
 #include <algorithm>
 #include <cstdlib>
@@ -50,6 +51,9 @@ QString leerConMbpoll(std::uint16_t puerto) {
         qFatal("mbpoll does not end");
     return QString::fromLatin1(maestro.readAllStandardOutput());
 }
+
+// Passes run when the test asks for them.
+const std::string sinPasadasPropias = "Ejecucion_Codigo_Milisegundos=3600000\r\n";
 
 std::string archivosDeLog(const std::filesystem::path& carpeta) {
     std::string todo;
@@ -111,6 +115,56 @@ private Q_SLOTS:
         }));
         const auto maestro = estacion.conectarMaestro();
         QCOMPARE(PrincipalDePrueba::pedir(*maestro, PrincipalDePrueba::lectura(1), 13).size(), 13);
+    }
+
+    // With an end mark of two kinds of blank, so that the character which is left over spoils nothing.
+    void laterOfTwoReadingsWinsInTheEngine() {
+        PrincipalDePrueba estacion("Caracter_Fin_TRAMA_1=9\r\nCaracter_Fin_TRAMA_2=32\r\n" + sinPasadasPropias);
+        const Dispositivo dispositivo(estacion.carpeta.ruta());
+        escribirArchivo(estacion.carpeta.ruta() / "codigoTrelvano.txt", "mw.escribir 1, 3, ID\r\n");
+        QVERIFY(estacion.cargar());
+        QTest::mouseClick(&estacion.control<QPushButton>("btnVerFormularioRS232"), Qt::LeftButton);
+        auto* tramas = estacion.control<QWidget>("frmRS232").findChild<QPlainTextEdit*>(QStringLiteral("txtTramas"));
+        dispositivo.enviar("240517123\t 240517456\t ");
+        QTRY_COMPARE(tramas->toPlainText(), QStringLiteral("240517123\t\n 240517456\t\n"));
+        estacion.control<QCheckBox>("chScript").setChecked(true);
+        estacion.ventana->ejecutarScript();
+        QCOMPARE(estacion.estacion->esclavos.valores(1)[3], 7456.0); // shifted by the blank before it
+    }
+
+    // The reading comes while a script waits in its box: it is interpreted at once, and its error is not the script's.
+    void readingInsideABoxIsInterpretedAtOnceAndItsErrorColoursNoPass() {
+        PrincipalDePrueba estacion(sinPasadasPropias);
+        const Dispositivo dispositivo(estacion.carpeta.ruta());
+        escribirArchivo(estacion.carpeta.ruta() / "codigoTrelvano.txt", "MsgBox \"a\"\r\nmw.escribir 1, 3, ID\r\n");
+        QVERIFY(estacion.cargar());
+        QTest::mouseClick(&estacion.control<QPushButton>("btnVerFormularioRS232"), Qt::LeftButton);
+        auto& formulario = estacion.control<QWidget>("frmRS232");
+        auto* tramas = formulario.findChild<QPlainTextEdit*>(QStringLiteral("txtTramas"));
+        auto* rechazo = formulario.findChild<QLabel*>(QStringLiteral("lblRechazo"));
+        auto& chScript = estacion.control<QCheckBox>("chScript");
+        chScript.setChecked(true);
+
+        bool buena = false;
+        bool mala = false;
+        QTimer reloj;
+        connect(&reloj, &QTimer::timeout, &reloj, [&] {
+            auto* caja = QApplication::activeModalWidget();
+            if (caja == nullptr)
+                return;
+            reloj.stop();
+            dispositivo.enviar("240517123\n\r");
+            buena = QTest::qWaitFor([&] { return tramas->toPlainText().contains(QStringLiteral("240517123")); });
+            dispositivo.enviar("no es una lectura\n\r");
+            mala = QTest::qWaitFor([&] { return rechazo->text().contains(QStringLiteral("no es una lectura")); });
+            QTest::keyClick(caja, Qt::Key_Return);
+        });
+        reloj.start(5);
+        estacion.ventana->ejecutarScript();
+        QVERIFY(buena);
+        QVERIFY(mala);
+        QCOMPARE(chScript.palette().color(QPalette::Window), QColor(0, 255, 0));
+        QCOMPARE(estacion.estacion->esclavos.valores(1)[3], 123.0);
     }
 
     void hiddenFormGoesOnReceiving() {

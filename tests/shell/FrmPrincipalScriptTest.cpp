@@ -22,9 +22,9 @@ constexpr QRgb rojo = 0xFFFF0000;
 constexpr const char* claveEjecutar = "Codigo_Ejecutar";
 constexpr const char* clavePeriodo = "Ejecucion_Codigo_Milisegundos";
 
-class Estacion : public PrincipalDePrueba {
+class EstacionConScript : public PrincipalDePrueba {
 public:
-    explicit Estacion(const std::string& masConfiguracion = "", std::chrono::milliseconds limite = 50s)
+    explicit EstacionConScript(const std::string& masConfiguracion = "", std::chrono::milliseconds limite = 50s)
         : PrincipalDePrueba(masConfiguracion, arranque(limite)) {}
 
     static Arranque arranque(std::chrono::milliseconds limite) {
@@ -39,7 +39,7 @@ public:
     QString etiqueta() const { return control<QLabel>("lblBaseDeTiempo").text(); }
     QRgb color() const { return chScript().palette().color(QPalette::Window).rgb(); }
     double registro(int esclavo, int direccion) const {
-        return ventana->esclavos().valores(esclavo)[static_cast<std::size_t>(direccion)];
+        return estacion->esclavos.valores(esclavo)[static_cast<std::size_t>(direccion)];
     }
     void clic() const { QTest::mouseClick(&chScript(), Qt::LeftButton, {}, QPoint(8, chScript().height() / 2)); }
     void pasada() const { ventana->ejecucion_timers(1); }
@@ -70,7 +70,7 @@ class TestFrmPrincipalScript : public QObject {
 
 private Q_SLOTS:
     void startWithTheKeyOnArmsTheTimerAndShowsThePeriod() {
-        Estacion e("Codigo_Ejecutar=1\r\nEjecucion_Codigo_Milisegundos=250\r\n");
+        EstacionConScript e("Codigo_Ejecutar=1\r\nEjecucion_Codigo_Milisegundos=250\r\n");
         QVERIFY(e.cargar());
         QVERIFY(e.chScript().isChecked());
         QVERIFY(e.timer()->isActive());
@@ -79,7 +79,7 @@ private Q_SLOTS:
     }
 
     void outcomeIsSeenBehindTheBox() {
-        Estacion e("Codigo_Ejecutar=1\r\n");
+        EstacionConScript e("Codigo_Ejecutar=1\r\n");
         QVERIFY(e.cargar());
         const auto fondo = [&] { return e.chScript().grab().toImage().pixel(1, 1); };
         e.script("x = 1");
@@ -91,7 +91,7 @@ private Q_SLOTS:
     }
 
     void startWithTheKeyOffLeavesTimerLabelAndPeriodAlone() {
-        Estacion e;
+        EstacionConScript e;
         QVERIFY(e.cargar());
         QVERIFY(!e.timer()->isActive());
         QCOMPARE(e.etiqueta(), QStringLiteral("Tiempo:"));
@@ -99,7 +99,7 @@ private Q_SLOTS:
     }
 
     void firstClickStoresTheDefaultPeriod() {
-        Estacion e;
+        EstacionConScript e;
         QVERIFY(e.cargar());
         e.clic();
         QCOMPARE(e.clave(claveEjecutar), std::string("1"));
@@ -110,7 +110,7 @@ private Q_SLOTS:
     }
 
     void secondClickDisarmsAndStillShowsThePeriod() {
-        Estacion e;
+        EstacionConScript e;
         QVERIFY(e.cargar());
         e.clic();
         e.clic();
@@ -120,7 +120,7 @@ private Q_SLOTS:
     }
 
     void clickByKeyAndByProgramIsTheSameClick() {
-        Estacion e;
+        EstacionConScript e;
         QVERIFY(e.cargar());
         QTest::keyClick(&e.chScript(), Qt::Key_Space);
         QVERIFY(e.timer()->isActive());
@@ -144,7 +144,7 @@ private Q_SLOTS:
     }
     void periodOfTheFileIsRoundedHalvesToEven() {
         QFETCH(int, ms);
-        Estacion e(std::string("Ejecucion_Codigo_Milisegundos=") + QTest::currentDataTag() + "\r\n");
+        EstacionConScript e(std::string("Ejecucion_Codigo_Milisegundos=") + QTest::currentDataTag() + "\r\n");
         QVERIFY(e.cargar());
         e.clic();
         QCOMPARE(e.timer()->interval(), ms);
@@ -161,7 +161,7 @@ private Q_SLOTS:
     }
     void periodThatIsNoPeriodIsToldAndLeavesTheTimer() {
         QFETCH(QString, mensaje);
-        Estacion e("Ejecucion_Codigo_Milisegundos=70\r\nCodigo_Ejecutar=1\r\n");
+        EstacionConScript e("Ejecucion_Codigo_Milisegundos=70\r\nCodigo_Ejecutar=1\r\n");
         QVERIFY(e.cargar());
         e.clic(); // off
         e.clic(); // on, 70 ms
@@ -181,7 +181,7 @@ private Q_SLOTS:
     }
 
     void badPeriodAtTheStartDoesNotKeepTheStationFromServing() {
-        Estacion e("Codigo_Ejecutar=1\r\nEjecucion_Codigo_Milisegundos=nada\r\n");
+        EstacionConScript e("Codigo_Ejecutar=1\r\nEjecucion_Codigo_Milisegundos=nada\r\n");
         QVERIFY(e.cargar()); // although nobody answers the message yet
         QVERIFY(!e.timer()->isActive());
         const auto maestro = e.conectarMaestro();
@@ -191,17 +191,17 @@ private Q_SLOTS:
     }
 
     void scriptThatWaitsForAnAnswerDoesNotKeepTheStationFromComingUp() {
-        Estacion e("Codigo_Ejecutar=1\r\nEjecucion_Codigo_Milisegundos=10\r\n");
+        EstacionConScript e("Codigo_Ejecutar=1\r\nEjecucion_Codigo_Milisegundos=10\r\n");
         e.script("MsgBox \"a\"\r\nmw.escribir 11, 499, 1");
         QVERIFY(e.cargar());
-        QVERIFY(e.ventana->escucha().escuchando());
+        QVERIFY(e.estacion->escucha().escuchando());
         CajaDeMensaje caja;
         QTRY_COMPARE(e.registro(11, 499), 1.0);
         e.clic();
     }
 
     void timerRunsPassesThatWriteRegistersAndTurnTheBoxGreen() {
-        Estacion e("Codigo_Ejecutar=1\r\nEjecucion_Codigo_Milisegundos=10\r\n");
+        EstacionConScript e("Codigo_Ejecutar=1\r\nEjecucion_Codigo_Milisegundos=10\r\n");
         e.script("mw.escribir 1, 7, mw.leer(1, 7) + 1");
         QVERIFY(e.cargar());
         QTRY_VERIFY(e.registro(1, 7) >= 3);
@@ -211,7 +211,7 @@ private Q_SLOTS:
     }
 
     void syntaxErrorIsRedOnEveryPassUntilTheFileIsMended() {
-        Estacion e("Codigo_Ejecutar=1\r\n");
+        EstacionConScript e("Codigo_Ejecutar=1\r\n");
         QVERIFY(e.cargar());
         e.script("Si esto es basic");
         e.pasada();
@@ -224,7 +224,7 @@ private Q_SLOTS:
     }
 
     void runTimeErrorIsRedAndShowsNoMessage() {
-        Estacion e("Codigo_Ejecutar=1\r\n");
+        EstacionConScript e("Codigo_Ejecutar=1\r\n");
         QVERIFY(e.cargar());
         CajaDeMensaje caja;
         e.script("mw.escribir 1, 0, 5\r\nmw.escribir 99, 0, 1"); // no slave 99
@@ -236,14 +236,14 @@ private Q_SLOTS:
     }
 
     void missingScriptFileIsGreen() {
-        Estacion e("Codigo_Ejecutar=1\r\n");
+        EstacionConScript e("Codigo_Ejecutar=1\r\n");
         QVERIFY(e.cargar());
         e.pasada();
         QCOMPARE(e.color(), verde);
     }
 
     void uncheckedBoxRunsNothingAndIsGreen() {
-        Estacion e;
+        EstacionConScript e;
         QVERIFY(e.cargar());
         e.script("mw.escribir 1, 0, 5");
         e.pasada();
@@ -252,7 +252,7 @@ private Q_SLOTS:
     }
 
     void otherTimerNumbersDoNothing() {
-        Estacion e("Codigo_Ejecutar=1\r\n");
+        EstacionConScript e("Codigo_Ejecutar=1\r\n");
         QVERIFY(e.cargar());
         e.script("mw.escribir 1, 0, 5");
         for (const double num : {2.0, 0.0, -1.0, 1.0000001})
@@ -263,7 +263,7 @@ private Q_SLOTS:
     }
 
     void masterSeesWhatTheScriptWrote() {
-        Estacion e("Codigo_Ejecutar=1\r\n");
+        EstacionConScript e("Codigo_Ejecutar=1\r\n");
         QVERIFY(e.cargar());
         e.script("mw.escribir 1, 0, 258\r\nmw.escribir 1, 1, 772");
         e.pasada();
@@ -273,7 +273,7 @@ private Q_SLOTS:
     }
 
     void scriptSeesWhatAMasterWrote() {
-        Estacion e("Codigo_Ejecutar=1\r\n");
+        EstacionConScript e("Codigo_Ejecutar=1\r\n");
         QVERIFY(e.cargar());
         const auto maestro = e.conectarMaestro();
         QCOMPARE(PrincipalDePrueba::pedir(*maestro, PrincipalDePrueba::escritura(1, 4, 42), 12).size(), 12);
@@ -283,7 +283,7 @@ private Q_SLOTS:
     }
 
     void uncheckingDuringAPassLetsItFinishAndIsTheLast() {
-        Estacion e("Codigo_Ejecutar=1\r\nEjecucion_Codigo_Milisegundos=10\r\n");
+        EstacionConScript e("Codigo_Ejecutar=1\r\nEjecucion_Codigo_Milisegundos=10\r\n");
         e.script("mw.escribir 1, 0, 1\r\nMsgBox \"a\"\r\nmw.escribir 1, 1, mw.leer(1, 1) + 1");
         QVERIFY(e.cargar());
         const AlVerCaja desmarcar([&](QWidget& caja) {
@@ -298,7 +298,7 @@ private Q_SLOTS:
     }
 
     void passesDoNotPileUpOverAMessageBoxAndTheStationGoesOnServing() {
-        Estacion e("Codigo_Ejecutar=1\r\nEjecucion_Codigo_Milisegundos=10\r\n");
+        EstacionConScript e("Codigo_Ejecutar=1\r\nEjecucion_Codigo_Milisegundos=10\r\n");
         e.script("n = n + 1\r\nmw.escribir 1, 0, n\r\nIf n = 1 Then MsgBox \"a\", 4, \"b\"\r\nmw.escribir 1, 1, n");
         QVERIFY(e.cargar());
         QByteArray mientras;
@@ -317,7 +317,7 @@ private Q_SLOTS:
     }
 
     void slowPassWaitsAWholePeriodBeforeTheNext() {
-        Estacion e("Codigo_Ejecutar=1\r\nEjecucion_Codigo_Milisegundos=20\r\n");
+        EstacionConScript e("Codigo_Ejecutar=1\r\nEjecucion_Codigo_Milisegundos=20\r\n");
         e.script("n = n + 1\r\nmw.escribir 1, 0, n\r\nt = Timer\r\nDo While Timer - t < 0.06\r\nLoop");
         QVERIFY(e.cargar());
         QTRY_COMPARE(e.registro(1, 0), 1.0);
@@ -327,7 +327,7 @@ private Q_SLOTS:
     }
 
     void endlessLoopIsStoppedAtTheTimeOutRedAndTheStationServesAgain() {
-        Estacion e("Codigo_Ejecutar=1\r\nEjecucion_Codigo_Milisegundos=50\r\n", 200ms);
+        EstacionConScript e("Codigo_Ejecutar=1\r\nEjecucion_Codigo_Milisegundos=50\r\n", 200ms);
         e.script("mw.escribir 1, 0, 9\r\nOn Error Resume Next\r\nDo\r\nLoop");
         QVERIFY(e.cargar());
         QElapsedTimer reloj;
@@ -345,7 +345,7 @@ private Q_SLOTS:
     void timeOutOfTheProgramIsFiftySeconds() { QCOMPARE(Arranque().limiteScript, std::chrono::milliseconds(50000)); }
 
     void endingStopsAScriptThatWaitsInAMessageBox() {
-        Estacion e("Codigo_Ejecutar=1\r\nEjecucion_Codigo_Milisegundos=10\r\n");
+        EstacionConScript e("Codigo_Ejecutar=1\r\nEjecucion_Codigo_Milisegundos=10\r\n");
         e.script("MsgBox \"a\"\r\nmw.escribir 1, 0, 1\r\nDo\r\nLoop");
         QVERIFY(e.cargar());
         QElapsedTimer reloj;
@@ -358,7 +358,7 @@ private Q_SLOTS:
     }
 
     void inputBoxAsksAndAnswersTheScript() {
-        Estacion e("Codigo_Ejecutar=1\r\n");
+        EstacionConScript e("Codigo_Ejecutar=1\r\n");
         QVERIFY(e.cargar());
         e.script("x = InputBox(\"valor\", \"titulo\", \"3\")\r\nmw.escribir 1, 0, CInt(x)");
         QString titulo;
@@ -381,12 +381,12 @@ private Q_SLOTS:
             "a = MsgBox(\"x\", 4)\r\nmw.escribir 1, 0, a\r\nmw.escribir 1, 1, InputBox(\"v\", \"t\", \"5\")");
         QVERIFY(p.cargar());
         p.ventana->ejecucion_timers(1);
-        QCOMPARE(p.ventana->esclavos().valores(1)[0], 1.0);
-        QCOMPARE(p.ventana->esclavos().valores(1)[1], 5.0);
+        QCOMPARE(p.estacion->esclavos.valores(1)[0], 1.0);
+        QCOMPARE(p.estacion->esclavos.valores(1)[1], 5.0);
     }
 
     void editButtonOpensTheEditorOnceWithTheHelpTopicOfAll() {
-        Estacion e;
+        EstacionConScript e;
         e.script("a = 1");
         QVERIFY(e.cargar());
         const auto abrir = [&] { QTest::mouseClick(&e.control<QPushButton>("BtnEdicionCodigo"), Qt::LeftButton); };
@@ -405,7 +405,7 @@ private Q_SLOTS:
     }
 
     void editorTellsTheErrorOfTheLastPassAndForgetsItAfterAGoodOne() {
-        Estacion e("Codigo_Ejecutar=1\r\n");
+        EstacionConScript e("Codigo_Ejecutar=1\r\n");
         e.script("a = 0\r\nx = 1 / a");
         QVERIFY(e.cargar());
         e.pasada();
@@ -421,7 +421,7 @@ private Q_SLOTS:
     }
 
     void periodSavedInTheEditorRearmsTheTimer() {
-        Estacion e("Codigo_Ejecutar=1\r\nEjecucion_Codigo_Milisegundos=300\r\n");
+        EstacionConScript e("Codigo_Ejecutar=1\r\nEjecucion_Codigo_Milisegundos=300\r\n");
         QVERIFY(e.cargar());
         QTest::mouseClick(&e.control<QPushButton>("BtnEdicionCodigo"), Qt::LeftButton);
         auto& periodo = e.control<QLineEdit>("txtIntervaloDeTiempo");
@@ -438,7 +438,7 @@ private Q_SLOTS:
     }
 
     void textSavedInTheEditorRunsOnTheNextPass() {
-        Estacion e("Codigo_Ejecutar=1\r\nEjecucion_Codigo_Milisegundos=10\r\n");
+        EstacionConScript e("Codigo_Ejecutar=1\r\nEjecucion_Codigo_Milisegundos=10\r\n");
         QVERIFY(e.cargar());
         QTest::mouseClick(&e.control<QPushButton>("BtnEdicionCodigo"), Qt::LeftButton);
         QTest::keyClicks(&e.control<QPlainTextEdit>("txtCodigo"), QStringLiteral("mw.escribir 1, 3, 33"));
@@ -447,7 +447,7 @@ private Q_SLOTS:
     }
 
     void auxiliaryTimerIsDormantWhateverTheBoxSays() {
-        Estacion e("Codigo_Ejecutar=1\r\n");
+        EstacionConScript e("Codigo_Ejecutar=1\r\n");
         QVERIFY(e.cargar());
         e.clic();
         e.clic();

@@ -121,9 +121,9 @@ private Q_SLOTS:
 
     void everyTableHoldsFiveHundredRegisters() {
         for (int n = 0; n < 12; ++n)
-            QCOMPARE(ventana().esclavos().limite(), 11);
+            QCOMPARE(p_->estacion->esclavos.limite(), 11);
         for (int n = 0; n < 12; ++n)
-            QCOMPARE(ventana().esclavos().valores(n).size(), std::size_t{500});
+            QCOMPARE(p_->estacion->esclavos.valores(n).size(), std::size_t{500});
     }
 
     void clickOnATabShowsItsPage() {

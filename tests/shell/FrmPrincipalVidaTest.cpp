@@ -49,7 +49,7 @@ private Q_SLOTS:
     void windowIsHiddenUntilItIsLoaded() {
         PrincipalDePrueba p;
         QVERIFY(!p.ventana->isVisible());
-        QVERIFY(!p.ventana->escucha().escuchando());
+        QVERIFY(!p.estacion->escucha().escuchando());
     }
 
     void withoutTheKeyTheWindowShowsAndTheDefaultIsWritten() {
@@ -95,10 +95,9 @@ private Q_SLOTS:
         QCOMPARE(p.clave("ver"), std::string("0"));
         p.tic();
         QVERIFY(!p.ventana->isVisible());
-        const Arranque otraVez;
-        FrmPrincipal reiniciada(p.config, otraVez);
-        QVERIFY(reiniciada.cargar());
-        QVERIFY(!reiniciada.isVisible());
+        p.encender();
+        QVERIFY(p.cargar());
+        QVERIFY(!p.ventana->isVisible());
     }
 
     void editOfTheFileShowsAndHidesAtTheNextTick() {
@@ -183,8 +182,8 @@ private Q_SLOTS:
         QVERIFY(sobreTodo);
         QCOMPARE(p.clave("VER"), std::string("1"));
         QVERIFY(!p.ventana->isVisible());
-        QVERIFY(!p.ventana->escucha().escuchando());
-        QCOMPARE(p.ventana->esclavos().limite(), -1);
+        QVERIFY(!p.estacion->escucha().escuchando());
+        QCOMPARE(p.estacion->esclavos.limite(), -1);
         QVERIFY(p.ventana->findChild<QWidget*>(QStringLiteral("FrmConexionesPuentes")) == nullptr);
     }
 

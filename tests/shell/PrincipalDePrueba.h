@@ -3,8 +3,8 @@
 
 #include "CarpetaTemporal.h"
 #include "platform/net/Peer.h"
+#include "shell/Estacion.h"
 #include "shell/FrmPrincipal.h"
-#include "shell/Modulo_Config.h"
 
 #include <QApplication>
 #include <QTest>
@@ -23,7 +23,14 @@ public:
     explicit PrincipalDePrueba(const std::string& masConfiguracion = "", Arranque arranque = {})
         : puerto(puertoLibre()), config(carpeta.ruta()) {
         escribirConfig("PUERTO_VALOR=" + std::to_string(puerto) + "\r\n" + masConfiguracion);
-        ventana = std::make_unique<FrmPrincipal>(config, std::move(arranque));
+        encender(std::move(arranque));
+    }
+
+    // A new start of the program; what ran before ends.
+    void encender(Arranque arranque = {}) {
+        ventana.reset();
+        estacion = std::make_unique<Estacion>(carpeta.ruta(), std::move(arranque));
+        ventana = std::make_unique<FrmPrincipal>(*estacion);
     }
 
     // Brings the station up; false as FrmPrincipal::cargar() says.
@@ -70,5 +77,6 @@ public:
     CarpetaTemporal carpeta;
     std::uint16_t puerto;
     Modulo_Config config;
+    std::unique_ptr<Estacion> estacion;
     std::unique_ptr<FrmPrincipal> ventana;
 };

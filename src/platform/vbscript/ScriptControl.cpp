@@ -47,8 +47,11 @@ bool ScriptControl::check(std::string_view utf8) {
     return check(std::u16string_view(fromUtf8(utf8)));
 }
 
-bool ScriptControl::fail(std::int32_t number, std::u16string_view text, std::uint32_t line, std::uint32_t column) {
+// Starts from nothing: a text that ran inside this one (a host object let it in) may have left its own failure.
+bool ScriptControl::fail(std::int32_t number, std::u16string_view text, std::uint32_t line, std::uint32_t column,
+                         ScriptFailure described) {
     const MemoryCeiling room(std::numeric_limits<std::size_t>::max()); // error 7 has a text, too
+    m_failure = std::move(described);
     m_failure.number = number;
     m_failure.line = line;
     m_failure.column = column;
@@ -72,13 +75,15 @@ bool ScriptControl::addCode(std::u16string_view text) {
     const MemoryCeiling ceiling(m_ceiling);
     try {
         m_vm->runUnit(m_vm->unitOf(text));
+        m_failure = {}; // a text that ran inside this one may have failed
         return true;
     } catch (const CompileError& failure) {
         return fail(static_cast<std::int32_t>(failure.number), text, failure.position.line, failure.position.column);
     } catch (const ScriptError& failure) {
-        m_failure.description = failure.description.view();
-        m_failure.source = failure.source.view();
-        return fail(failure.number, text, failure.line, failure.column);
+        ScriptFailure described;
+        described.description = failure.description.view();
+        described.source = failure.source.view();
+        return fail(failure.number, text, failure.line, failure.column, std::move(described));
     } catch (const std::bad_alloc&) {
         return fail(static_cast<std::int32_t>(ErrorNumber::OutOfMemory), text, 0, 0);
     }

@@ -52,7 +52,7 @@ public:
     bool check(std::string_view utf8);
     bool check(std::u16string_view text);
 
-    // The error state after the last addCode() or check().
+    // The error state of the addCode() or check() that ended last.
     const ScriptFailure& error() const noexcept { return m_failure; }
     void clearError() { m_failure = {}; }
 
@@ -69,7 +69,8 @@ public:
 
 private:
     struct Added;
-    bool fail(std::int32_t number, std::u16string_view text, std::uint32_t line, std::uint32_t column);
+    bool fail(std::int32_t number, std::u16string_view text, std::uint32_t line, std::uint32_t column,
+              ScriptFailure described = {});
 
     Host& m_host;
     std::unique_ptr<Vm> m_vm;

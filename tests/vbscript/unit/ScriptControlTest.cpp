@@ -78,6 +78,17 @@ TEST_F(ScriptControlTest, globalsStayFromOneTextToTheNext) {
     EXPECT_EQ(recorder->seen, Seen{"6"});
 }
 
+TEST_F(ScriptControlTest, aTextThatFailsInsideAnotherLeavesTheOuterOneGood) {
+    ASSERT_TRUE(control.addCode("out.run \"x = )\""));
+    EXPECT_EQ(control.error().number, 0);
+}
+
+TEST_F(ScriptControlTest, aTextThatFailsAfterAnInnerFailureTellsItsOwn) {
+    ASSERT_FALSE(control.addCode("out.run \"x = )\" : Err.Raise 1000, \"quien\", \"propio\""));
+    EXPECT_EQ(control.error().number, 1000);
+    EXPECT_EQ(control.error().description, u"propio");
+}
+
 TEST_F(ScriptControlTest, aDimOfTheSameTextKeepsTheValue) {
     const char* text = "Dim n : n = n + 1 : out.put n";
     ASSERT_TRUE(control.addCode(text));

@@ -1,0 +1,67 @@
+#include "shell/Estacion.h"
+
+#include "registers/Palabra.h"
+
+#include <cstdio>
+#include <utility>
+
+Estacion::Estacion(const std::filesystem::path& carpeta, Arranque conQue)
+    : arranque(std::move(conQue)), config(carpeta), escucha_(reactor, peticiones_, *this, arranque.rutaPrograma),
+      avisador_(reactor.descriptor(), QSocketNotifier::Read) {
+    QObject::connect(&avisador_, &QSocketNotifier::activated, &avisador_, [this] { reactor.turn(); });
+}
+
+void Estacion::abrirVentana(VentanaEstacion& ventana, const AutomatizacionScript::Ventana& controles) {
+    ventana_ = &ventana;
+    script_ = std::make_unique<AutomatizacionScript>(esclavos, configuracionScript_, config.rutaArchivo().parent_path(),
+                                                     eventos, controles, arranque.limiteScript);
+    enlaceSerie_ = std::make_unique<EnlaceSerie>(controles.principal, config, script_->ScriptControl1(),
+                                                 std::filesystem::path(arranque.rutaPrograma).filename().string(),
+                                                 arranque.depurar);
+}
+
+void Estacion::cerrarVentana() {
+    enlaceSerie_.reset();
+    script_.reset();
+    ventana_ = nullptr;
+}
+
+void Estacion::comprobarPuerto() {
+    escucha_.levantarEscucha();
+    escucha_.refrescarConexiones();
+}
+
+double Estacion::leerPuerto() {
+    return config.leerNumero("PUERTO_VALOR", "502").value_or(0);
+}
+
+void Estacion::guardarPuerto(double puerto) {
+    config.escribirConfiguracion("PUERTO_VALOR", textoDeNumero(puerto, '.'));
+}
+
+void Estacion::mostrarPuerto(const std::string& texto) {
+    if (ventana_ != nullptr)
+        ventana_->mostrarPuerto(texto);
+}
+
+void Estacion::mostrarEscuchando(bool escuchando) {
+    if (ventana_ != nullptr)
+        ventana_->mostrarEscuchando(escuchando);
+}
+
+void Estacion::avisar(const std::string& motivo) {
+    if (!motivo.empty())
+        std::fprintf(stderr, "esclavo-modbus: %s\n", motivo.c_str());
+    if (ventana_ != nullptr)
+        ventana_->mostrarAviso(motivo);
+}
+
+void Estacion::agregarFila() {
+    if (ventana_ != nullptr)
+        ventana_->agregarFila();
+}
+
+void Estacion::mostrarFila(std::size_t fila, const std::string& ip, const std::string& estado) {
+    if (ventana_ != nullptr)
+        ventana_->mostrarFila(fila, ip, estado);
+}

@@ -1,0 +1,98 @@
+// The station behind its windows: settings, register store, monitors, sockets, script engine and serial link.
+//
+// Its parts stand in the order in which they are built; each borrows only from those above it, so they end in the
+// opposite order. The main window is made after it and goes before it.
+//
+//     Estacion estacion(carpetaPrograma(), Arranque{.rutaPrograma = rutaEjecutable().string()});
+//     FrmPrincipal principal(estacion);
+#pragma once
+
+#include "modbus/Escucha.h"
+#include "modbus/Monitores.h"
+#include "modbus/Peticiones.h"
+#include "platform/net/Reactor.h"
+#include "platform/window/Eventos.h"
+#include "registers/Esclavos.h"
+#include "script/AutomatizacionScript.h"
+#include "shell/ConfiguracionScriptIni.h"
+#include "shell/EnlaceSerie.h"
+#include "shell/Modulo_Config.h"
+#include "shell/RelojSistema.h"
+
+#include <QSocketNotifier>
+#include <QString>
+
+#include <chrono>
+#include <filesystem>
+#include <memory>
+#include <string>
+
+// What the program was started with.
+struct Arranque {
+    std::string rutaPrograma;     // the executable's real path
+    QString lineaDeComandos;      // the arguments as one text
+    bool instanciaPrevia = false; // another copy of the same executable is running
+    bool sinPantalla = false;     // nobody sees the windows
+    bool depurar = false;         // show every logged error in a message box
+    std::chrono::milliseconds limiteScript = AutomatizacionScript::tiempoLimite; // of one script pass
+};
+
+// Where the station shows its listener and its connections: the main window.
+class VentanaEstacion {
+public:
+    virtual void mostrarPuerto(const std::string& texto) = 0; // caption of LblPuertoLocal
+    virtual void mostrarEscuchando(bool escuchando) = 0;      // its colour
+    virtual void mostrarAviso(const std::string& texto) = 0;  // lblDDEAviso; empty: nothing to say
+    virtual void agregarFila() = 0;                           // an empty row at the end of ListView1
+    virtual void mostrarFila(std::size_t fila, const std::string& ip, const std::string& estado) = 0; // row from 0
+
+protected:
+    ~VentanaEstacion() = default;
+};
+
+class Estacion final : private EntornoEscucha {
+public:
+    // `carpeta` holds the configuration file, the script and the logs. Opens no port and reads no key yet.
+    Estacion(const std::filesystem::path& carpeta, Arranque arranque);
+
+    // The station shows itself in this window from now on; script automation and serial link, which work with its
+    // controls, come into being. One window at a time.
+    void abrirVentana(VentanaEstacion& ventana, const AutomatizacionScript::Ventana& controles);
+
+    // To be called before the controls of that window go. Listener and connections stay as they are.
+    void cerrarVentana();
+
+    // Listens on the configured port unless it does so already, and brings the connection list up to date.
+    void comprobarPuerto();
+
+    const Escucha& escucha() const { return escucha_; }
+    AutomatizacionScript& script() { return *script_; }  // while a window is open
+    EnlaceSerie& enlaceSerie() { return *enlaceSerie_; } // while a window is open
+
+    const Arranque arranque;
+    const Modulo_Config config;
+    Esclavos esclavos;
+    Monitores monitores;
+    Eventos eventos;
+    Reactor reactor;
+
+private:
+    // EntornoEscucha
+    double leerPuerto() override;
+    void guardarPuerto(double puerto) override;
+    void mostrarPuerto(const std::string& texto) override;
+    void mostrarEscuchando(bool escuchando) override;
+    void avisar(const std::string& motivo) override;
+    void agregarFila() override;
+    void mostrarFila(std::size_t fila, const std::string& ip, const std::string& estado) override;
+    void dejarPasarEventos() override { eventos.dejarPasarEventos(); }
+
+    RelojSistema reloj_;
+    Peticiones peticiones_{esclavos, monitores, reloj_};
+    VentanaEstacion* ventana_ = nullptr; // borrowed; null: what there is to show is dropped
+    Escucha escucha_;
+    QSocketNotifier avisador_; // wakes the event loop for the reactor's sockets
+    ConfiguracionScriptIni configuracionScript_{config};
+    std::unique_ptr<AutomatizacionScript> script_;
+    std::unique_ptr<EnlaceSerie> enlaceSerie_;
+};
