@@ -1,4 +1,4 @@
-// Answers the next message box as a person does: notes what it shows and clicks its button.
+// Answers message boxes as a person does: notes what each shows and clicks a button, the first unless told otherwise.
 //
 //     CajaDeMensaje caja;
 //     QTest::mouseClick(boton, Qt::LeftButton);   // opens the box, returns when it is closed
@@ -11,12 +11,16 @@
 #include <QTest>
 #include <QTimer>
 
+#include <utility>
+
 class CajaDeMensaje {
 public:
-    CajaDeMensaje() {
+    explicit CajaDeMensaje(QString cual = {}) : boton(std::move(cual)) {
         QObject::connect(&reloj_, &QTimer::timeout, &reloj_, [this] { mirar(); });
         reloj_.start(5);
     }
+
+    QString boton; // the text of the button to click; empty: the first
 
     int vistas = 0; // how many boxes have been answered
     QString texto;
@@ -37,9 +41,13 @@ private:
         modalidad = caja->windowModality();
         botones.clear();
         const auto todos = caja->buttons();
-        for (const QAbstractButton* boton : todos)
-            botones.append(boton->text());
-        QTest::mouseClick(todos.constFirst(), Qt::LeftButton);
+        QAbstractButton* pulsado = todos.constFirst();
+        for (QAbstractButton* cual : todos) {
+            botones.append(cual->text());
+            if (cual->text() == boton)
+                pulsado = cual;
+        }
+        QTest::mouseClick(pulsado, Qt::LeftButton);
     }
 
     QTimer reloj_;

@@ -71,7 +71,11 @@ void BarraBusqueda::abrir(bool conReemplazo) {
                                    static_cast<QWidget*>(btnReemplazar_), static_cast<QWidget*>(btnReemplazarTodo_)})
         control->setVisible(conReemplazo);
     mensaje_->clear();
+    const bool aLaVista = editor_.cursorALaVista();
     show();
+    parentWidget()->layout()->activate(); // the text has its new height from here on
+    if (aLaVista)
+        editor_.ensureCursorVisible();
     txtBuscar_->setFocus();
     txtBuscar_->selectAll();
 }

@@ -150,6 +150,11 @@ void EditorCodigo::irA(int linea, int columna) {
     centerCursor();
 }
 
+bool EditorCodigo::cursorALaVista() const {
+    const QRect cursor = cursorRect();
+    return cursor.top() >= 0 && cursor.bottom() <= viewport()->height();
+}
+
 int EditorCodigo::reemplazarTodo(const QString& buscado, const QString& nuevo, Qt::CaseSensitivity caja) {
     QString todo = texto();
     const auto veces = static_cast<int>(todo.count(buscado, caja));

@@ -28,8 +28,14 @@ public:
     // Marks the line where the running script failed, from 1; 0: none. The mark moves with the text.
     void marcarFallo(int linea);
 
+    // Where that mark stands now, from 1; 0: nowhere.
+    int lineaFallo() const { return conFallo_ ? fallo_.blockNumber() + 1 : 0; }
+
     // Puts the text cursor there, in sight; line and column from 1, beyond the text its end.
     void irA(int linea, int columna);
+
+    // Whether the line of the text cursor can be seen.
+    bool cursorALaVista() const;
 
     // Replaces every occurrence as one step that can be undone; returns how many there were.
     int reemplazarTodo(const QString& buscado, const QString& nuevo, Qt::CaseSensitivity caja);

@@ -39,6 +39,20 @@ Control* nombrado(Control* control, const char* nombre, const QString& nombreAcc
     return control;
 }
 
+QString deRuta(const std::filesystem::path& ruta) {
+    return QString::fromStdString(ruta.string());
+}
+
+// Arms the timer with the new period. Lets events pass: of the editor nothing may be touched from here on.
+void rearmar(QCheckBox& casilla, Eventos& eventos) {
+    const QPointer<QCheckBox> chScript = &casilla;
+    for (const bool marcada : {false, true}) {
+        if (chScript)
+            chScript->setChecked(marcada);
+        eventos.dejarPasarEventos();
+    }
+}
+
 bool mismoFallo(const vbs::ScriptFailure& a, const vbs::ScriptFailure& b) {
     return a.number == b.number && a.line == b.line && a.column == b.column && a.description == b.description;
 }
@@ -47,7 +61,7 @@ bool mismoFallo(const vbs::ScriptFailure& a, const vbs::ScriptFailure& b) {
 
 FrmEdicionCodigo::FrmEdicionCodigo(const Modulo_Codigo& codigo, ConfiguracionScript& configuracion, QCheckBox& chScript,
                                    Eventos& eventos, QWidget* padre)
-    : QWidget(padre, Qt::Window), codigo_(codigo), configuracion_(configuracion), chScript_(chScript),
+    : QWidget(padre, Qt::Window), archivo_(codigo), configuracion_(configuracion), chScript_(chScript),
       eventos_(eventos) {
     setObjectName(QStringLiteral("FrmEdicionCodigo"));
     setAttribute(Qt::WA_DeleteOnClose);
@@ -120,7 +134,9 @@ void FrmEdicionCodigo::conectar() {
     connect(txtCodigo_, &QPlainTextEdit::cursorPositionChanged, this, &FrmEdicionCodigo::mostrarPosicion);
     connect(txtCodigo_, &QPlainTextEdit::textChanged, this, [this] {
         demasiadoLargo_ = false;
+        aviso_.clear();
         comprobador_->pedir();
+        mostrarEstado();
     });
     connect(comprobador_, &ComprobadorCodigo::comprobado, this, [this](const vbs::ScriptFailure& resultado) {
         errorCompilacion_ = resultado;
@@ -155,17 +171,17 @@ void FrmEdicionCodigo::crearTeclas() {
 // file and period
 
 void FrmEdicionCodigo::cargar() {
-    const auto ruta = codigo_.rutaParaLeer();
-    archivo_ = QString::fromStdString(ruta.string());
-    std::string texto;
+    QString texto;
+    QString fallo;
     try {
-        if (existeArchivo(ruta))
-            texto = leerArchivoTexto(ruta);
+        texto = QString::fromStdString(archivo_.cargar());
     } catch (const ErrorArchivo& error) {
-        aviso_ = QStringLiteral("No se pudo leer el archivo: ") + QString::fromUtf8(error.what());
-        avisarMsgBox(this, QString::fromUtf8(error.what()), vbCritical);
+        fallo = QStringLiteral("%1: %2").arg(QString::fromUtf8(error.what()), deRuta(archivo_.ruta()));
+        avisarMsgBox(this, fallo, vbCritical);
     }
-    txtCodigo_->ponerTexto(QString::fromStdString(texto));
+    txtCodigo_->ponerTexto(texto);
+    if (!fallo.isEmpty())
+        aviso_ = QStringLiteral("No se pudo leer el archivo. ") + fallo;
     periodoCargado_ = QString::fromStdString(configuracion_.leerConfiguracion(ConfiguracionScript::clavePeriodo, "0"));
     txtIntervaloDeTiempo_->setText(periodoCargado_);
     txtCodigo_->document()->setModified(false);
@@ -176,39 +192,56 @@ void FrmEdicionCodigo::cargar() {
 }
 
 void FrmEdicionCodigo::guardar() {
-    if (!periodoPendienteValido())
+    if (!periodoPendienteValido() || !puedeReemplazar())
         return;
-    const auto ruta = codigo_.rutaParaGuardar();
+    QString fallo;
+    bool periodoNuevo = false;
     try {
-        escribirArchivoTexto(ruta, txtCodigo_->texto().replace(u'\n', QLatin1String("\r\n")).toStdString());
-        archivo_ = QString::fromStdString(ruta.string());
+        archivo_.guardar(txtCodigo_->texto().replace(u'\n', QLatin1String("\r\n")).toStdString());
         txtCodigo_->document()->setModified(false);
-        guardarPeriodo();
+        periodoNuevo = guardarPeriodo();
         aviso_ = QStringLiteral("Guardado.");
-    } catch (const std::runtime_error& error) { // of the file or of the period
-        aviso_ = QStringLiteral("No se pudo guardar: ") + QString::fromUtf8(error.what());
-        MsgBox(this, QString::fromUtf8(error.what()), vbCritical);
+    } catch (const ErrorArchivo& error) {
+        fallo = QStringLiteral("%1: %2").arg(QString::fromUtf8(error.what()), deRuta(archivo_.ruta()));
+    } catch (const ErrorEjecucion& error) {
+        fallo = QString::fromUtf8(error.what()); // of the period
     }
+    if (!fallo.isEmpty())
+        aviso_ = QStringLiteral("No se pudo guardar. ") + fallo;
     mostrarTitulo();
     comprobador_->comprobar();
+    // Last of all, since either lets events pass, and the window may be closed by them.
+    if (periodoNuevo && chScript_.isChecked())
+        rearmar(chScript_, eventos_);
+    else if (!fallo.isEmpty())
+        MsgBox(this, fallo, vbCritical);
 }
 
-void FrmEdicionCodigo::guardarPeriodo() {
+// Asks before a save replaces what somebody else wrote. False: not wanted, or the window is gone.
+bool FrmEdicionCodigo::puedeReemplazar() {
+    if (!archivo_.cambiadoEnDisco())
+        return true;
+    const QPointer<FrmEdicionCodigo> viva = this;
+    const int respuesta = MsgBox(this,
+                                 QStringLiteral("El archivo del script cambió en el disco desde que se abrió o se "
+                                                "guardó aquí.\r\n¿Reemplazarlo con el texto de esta ventana?"),
+                                 vbYesNo + vbExclamation + vbDefaultButton2);
+    if (!viva || respuesta == vbYes)
+        return bool(viva);
+    aviso_ = QStringLiteral("No se guardó: el archivo cambió en el disco.");
+    mostrarEstado();
+    return false;
+}
+
+// Returns whether the period stored is another one now.
+bool FrmEdicionCodigo::guardarPeriodo() {
     const std::string texto = txtIntervaloDeTiempo_->text().toStdString();
     const double periodo = periodoDeTexto(texto);
     periodoCargado_ = txtIntervaloDeTiempo_->text();
     if (numeroDeTexto(configuracion_.leerConfiguracion(ConfiguracionScript::clavePeriodo, "0")) == periodo)
-        return;
+        return false;
     configuracion_.escribirConfiguracion(ConfiguracionScript::clavePeriodo, texto);
-    if (chScript_.isChecked())
-        rearmar();
-}
-
-void FrmEdicionCodigo::rearmar() {
-    for (const bool marcada : {false, true}) {
-        chScript_.setChecked(marcada);
-        eventos_.dejarPasarEventos();
-    }
+    return true;
 }
 
 void FrmEdicionCodigo::salir() {
@@ -229,7 +262,10 @@ bool FrmEdicionCodigo::comprobarPeriodo() {
         : !periodo ? QStringLiteral("Error en el Intervalo de Tiempo.\r\n  Se asgina por defecto 1000 Milisegundos")
                    : QStringLiteral("Error en el Intervalo de Tiempo.\r\nMaximo 60000 milisegundos. Minimo 10 "
                                     "milisegundos.\r\nSe asgina por defecto 1000 Milisegundos");
+    const QPointer<FrmEdicionCodigo> viva = this;
     MsgBox(this, mensaje, estiloError);
+    if (!viva)
+        return false;
     txtIntervaloDeTiempo_->setText(QString::number(periodoPorDefecto));
     activateWindow(); // not every window system does it when a box closes
     txtIntervaloDeTiempo_->setFocus();
@@ -290,6 +326,12 @@ int FrmEdicionCodigo::lineaDelFallo() const {
     return bloque.isValid() && bloque.text() == deUtf16(fallo_.lineText) ? linea : 0;
 }
 
+// The line that the message about the failure names: the marked one, which moves with the text.
+int FrmEdicionCodigo::lineaParaDecir() const {
+    const int marcada = txtCodigo_->lineaFallo();
+    return marcada > 0 ? marcada : static_cast<int>(fallo_.line) + lineasVaciasAlPrincipio();
+}
+
 void FrmEdicionCodigo::mostrarEstado() {
     const auto descripcion = [](const QString& que, const vbs::ScriptFailure& error, int linea) {
         return QStringLiteral("%1, línea %2, columna %3: %4 (error %5)")
@@ -300,12 +342,14 @@ void FrmEdicionCodigo::mostrarEstado() {
             .arg(error.number);
     };
     const bool conError = errorCompilacion_.number != 0 || fallo_.number != 0;
-    QString estado = demasiadoLargo_ ? QStringLiteral("Texto muy largo: se comprueba al guardar.") : aviso_;
+    QString error;
     if (errorCompilacion_.number != 0)
-        estado = descripcion(QStringLiteral("Error"), errorCompilacion_, static_cast<int>(errorCompilacion_.line));
+        error = descripcion(QStringLiteral("Error"), errorCompilacion_, static_cast<int>(errorCompilacion_.line));
     else if (fallo_.number != 0)
-        estado = descripcion(QStringLiteral("Falló al ejecutar"), fallo_,
-                             static_cast<int>(fallo_.line) + lineasVaciasAlPrincipio());
+        error = descripcion(QStringLiteral("Falló al ejecutar"), fallo_, lineaParaDecir());
+    else if (demasiadoLargo_)
+        error = QStringLiteral("Texto muy largo: se comprueba al guardar.");
+    const QString estado = aviso_.isEmpty() || error.isEmpty() ? aviso_ + error : aviso_ + u' ' + error;
     lblEstado_->setText(estado);
     lblEstado_->setToolTip(conError ? estado + QStringLiteral("\nF8 va a la línea") : QString());
     QPalette colores;
@@ -318,7 +362,7 @@ void FrmEdicionCodigo::irAlError() {
     if (errorCompilacion_.number != 0)
         txtCodigo_->irA(static_cast<int>(errorCompilacion_.line), static_cast<int>(errorCompilacion_.column));
     else if (fallo_.number != 0)
-        txtCodigo_->irA(static_cast<int>(fallo_.line) + lineasVaciasAlPrincipio(), static_cast<int>(fallo_.column));
+        txtCodigo_->irA(lineaParaDecir(), static_cast<int>(fallo_.column));
     txtCodigo_->setFocus();
 }
 
@@ -330,7 +374,7 @@ bool FrmEdicionCodigo::hayCambios() const {
 }
 
 void FrmEdicionCodigo::mostrarTitulo() {
-    const QString nombre = archivo_.mid(archivo_.lastIndexOf(u'/') + 1);
+    const QString nombre = deRuta(archivo_.ruta().filename());
     setWindowTitle((hayCambios() ? QStringLiteral("*") : QString()) + nombre + QStringLiteral(" - Código Script"));
 }
 
@@ -342,10 +386,11 @@ void FrmEdicionCodigo::mostrarPosicion() {
 
 void FrmEdicionCodigo::irALinea() {
     bool aceptado = false;
+    const QPointer<FrmEdicionCodigo> viva = this;
     const int linea =
         QInputDialog::getInt(this, QStringLiteral("Ir a la línea"), QStringLiteral("Línea:"),
                              txtCodigo_->textCursor().blockNumber() + 1, 1, txtCodigo_->blockCount(), 1, &aceptado);
-    if (aceptado)
+    if (viva && aceptado)
         txtCodigo_->irA(linea, 1);
 }
 

@@ -1,11 +1,13 @@
 // The window in which the user edits the script and its period.
 //
-// It loads the script file when it is made, saves it with "Guardar" or Ctrl+S and goes away when it is closed, without
-// saving. While one types, the text is compiled and its first error underlined; where the running script failed is
-// marked as well. A star in the title tells of changes that are not saved.
+// It loads the script file when it is made, saves it with "Guardar" or Ctrl+S (asking first when the file was changed
+// meanwhile) and goes away when it is closed, without saving. While one types, the text is compiled and its first error
+// underlined; where the running script failed is marked as well. A star in the title tells of changes that are not
+// saved.
 #pragma once
 
 #include "platform/vbscript/ScriptControl.h"
+#include "script/ArchivoCodigo.h"
 #include "script/ComprobadorCodigo.h"
 #include "script/ConfiguracionScript.h"
 
@@ -33,7 +35,8 @@ public:
     // Tells the outcome of a pass of the script; number 0: good. Cheap when nothing has changed.
     void mostrarFallo(const vbs::ScriptFailure& fallo);
 
-    // True when the period is one that is admitted. Else says why, puts the fallback there and takes the focus back.
+    // True when the period is one that is admitted. Else says why, puts the fallback there and takes the focus back;
+    // the window may be gone when the message is closed.
     bool comprobarPeriodo();
 
 protected:
@@ -47,8 +50,8 @@ private:
     void crearTeclas();
     void cargar();
     void guardar();
-    void guardarPeriodo();
-    void rearmar();
+    bool puedeReemplazar();
+    bool guardarPeriodo();
     void salir();
     bool periodoPendienteValido();
     void irALinea();
@@ -60,9 +63,10 @@ private:
     void mostrarEstado();
     int lineasVaciasAlPrincipio() const;
     int lineaDelFallo() const;
+    int lineaParaDecir() const;
     bool hayCambios() const;
 
-    const Modulo_Codigo& codigo_;
+    ArchivoCodigo archivo_;
     ConfiguracionScript& configuracion_;
     QCheckBox& chScript_;
     Eventos& eventos_;
@@ -77,11 +81,10 @@ private:
     ComprobadorCodigo* comprobador_ = nullptr;
     QPointer<AyudaMW> ayuda_;
 
-    QString archivo_; // what the title names
     QString periodoCargado_;
     bool periodoPendiente_ = false; // the box has lost the focus and is still to be checked
     bool demasiadoLargo_ = false;
     vbs::ScriptFailure errorCompilacion_;
     vbs::ScriptFailure fallo_;
-    QString aviso_; // of the last save or load; until something else happens
+    QString aviso_; // of the last save or load; until the text changes
 };

@@ -314,6 +314,47 @@ private Q_SLOTS:
         QCOMPARE(config_->claves[clavePeriodo], std::string("70"));
     }
 
+    void windowClosedWhileItSavesIsGoneAndAutomationOn_data() {
+        QTest::addColumn<bool>("conBoton");
+        QTest::newRow("Salir") << true;
+        QTest::newRow("close box") << false;
+    }
+    void windowClosedWhileItSavesIsGoneAndAutomationOn() {
+        QFETCH(bool, conBoton);
+        config_->claves[clavePeriodo] = "500";
+        abrirCon("a = 1");
+        chScript_->setChecked(true);
+        clics_.clear();
+        escribirPeriodo(QStringLiteral("70"));
+        // The click that waits in the queue while the save is at work.
+        connect(chScript_, &QCheckBox::toggled, frm_, [this, conBoton](bool marcada) {
+            if (!marcada)
+                QTimer::singleShot(0, frm_, [this, conBoton] { conBoton ? clic("BtnSalir") : void(frm_->close()); });
+            QTest::qSleep(2); // two rounds of events within a millisecond count as one
+        });
+        bool seFueDurante = false;
+        connect(frm_, &QObject::destroyed, chScript_, [&] { seFueDurante = true; });
+        guardar();
+        QVERIFY(seFueDurante);
+        QCOMPARE(contenidoDe(archivo()), std::string("a = 1\r\n\r\n"));
+        QCOMPARE(config_->claves[clavePeriodo], std::string("70"));
+        QCOMPARE(clics_, std::vector<bool>({false, true}));
+        QVERIFY(chScript_->isChecked());
+    }
+
+    void windowThatEndsUnderItsPeriodMessageIsNotTouched() {
+        abrir();
+        escribirPeriodo(QStringLiteral("abc"));
+        QTimer vigia;
+        connect(&vigia, &QTimer::timeout, this, [this] {
+            if (QApplication::activeModalWidget() != nullptr)
+                delete frm_;
+        });
+        vigia.start(5);
+        frm_->comprobarPeriodo();
+        QVERIFY(!frm_);
+    }
+
     void unchangedPeriodRearmsAndStoresNothing() {
         config_->claves[clavePeriodo] = "500";
         abrir();
@@ -344,12 +385,60 @@ private Q_SLOTS:
         guardar();
         QCOMPARE(caja.vistas, 1);
         QCOMPARE(caja.icono, QMessageBox::Critical);
-        QCOMPARE(caja.texto, QStringLiteral("No se encontró la ruta de acceso"));
+        QCOMPARE(caja.texto,
+                 QStringLiteral("No se encontró la ruta de acceso: ") + QString::fromStdString(archivo().string()));
+        QVERIFY(estado().startsWith(QStringLiteral("No se pudo guardar.")));
         QVERIFY(frm_->windowTitle().startsWith(u'*'));
         QVERIFY(frm_->isVisible());
         std::filesystem::create_directory(carpeta_->ruta());
         guardar();
         QCOMPARE(contenidoDe(archivo()), std::string("xa = 1\r\n\r\n"));
+    }
+
+    void fileChangedMeanwhileIsReplacedOnlyAfterAQuestion() {
+        abrirCon("a = 1");
+        escribirArchivo(archivo(), "b = 2");
+        CajaDeMensaje caja(QStringLiteral("&No"));
+        guardar();
+        QCOMPARE(caja.vistas, 1);
+        QVERIFY(caja.texto.contains(QStringLiteral("cambió en el disco")));
+        QCOMPARE(contenidoDe(archivo()), std::string("b = 2"));
+        QCOMPARE(estado(), QStringLiteral("No se guardó: el archivo cambió en el disco."));
+        caja.boton = QStringLiteral("&Sí");
+        guardar();
+        QCOMPARE(caja.vistas, 2);
+        QCOMPARE(contenidoDe(archivo()), std::string("a = 1\r\n\r\n"));
+        guardar(); // it is known now
+        QCOMPARE(caja.vistas, 2);
+    }
+
+    void fileThatCameUpMeanwhileIsNotReplacedUnasked() {
+        abrir();
+        escribirArchivo(archivo(), "b = 2");
+        CajaDeMensaje caja(QStringLiteral("&No"));
+        guardar();
+        QCOMPARE(caja.vistas, 1);
+        QCOMPARE(contenidoDe(archivo()), std::string("b = 2"));
+    }
+
+    void fileThatIsGoneOrTheSameIsWrittenWithoutAQuestion() {
+        abrirCon("a = 1");
+        escribirArchivo(archivo(), "a = 1");
+        CajaDeMensaje caja;
+        guardar();
+        std::filesystem::remove(archivo());
+        guardar();
+        QCOMPARE(caja.vistas, 0);
+        QVERIFY(std::filesystem::exists(archivo()));
+    }
+
+    void saveOfATextWithAnErrorTellsBoth() {
+        abrir();
+        QTest::keyClicks(&txtCodigo(), QStringLiteral("a = "));
+        guardar();
+        QVERIFY2(estado().startsWith(QStringLiteral("Guardado. Error, línea 1")), qPrintable(estado()));
+        QTest::keyClicks(&txtCodigo(), QStringLiteral("1"));
+        QTRY_COMPARE(estado(), QString()); // the text is no longer the one that was saved
     }
 
     void exitClosesWithoutSaving() {
@@ -407,7 +496,7 @@ private Q_SLOTS:
         txtCodigo().ponerTexto(QStringLiteral("a = 1\n").repeated(200'000) + QStringLiteral("If"));
         QVERIFY(estado().contains(QStringLiteral("se comprueba al guardar")));
         guardar();
-        QVERIFY(estado().startsWith(QStringLiteral("Error, línea 200001")));
+        QVERIFY(estado().startsWith(QStringLiteral("Guardado. Error, línea 200001")));
     }
 
     void failureOfAPassIsToldAndItsLineMarked() {
@@ -418,6 +507,16 @@ private Q_SLOTS:
         frm_->mostrarFallo({});
         QCOMPARE(estado(), QString());
         QCOMPARE(lineaMarcada(), 0);
+    }
+
+    void lineOfTheFailureIsToldWhereItStandsNow() {
+        abrirCon("a = 1\r\nx = 1 / 0\r\n");
+        frm_->mostrarFallo(falloEn(2, u"x = 1 / 0"));
+        tecla(Qt::Key_Return);
+        QCOMPARE(lineaMarcada(), 3);
+        QVERIFY2(estado().contains(QStringLiteral("línea 3")), qPrintable(estado()));
+        tecla(Qt::Key_F8);
+        QCOMPARE(txtCodigo().textCursor().blockNumber(), 2);
     }
 
     void lineOfTheFailureCountsEmptyLinesAtTheHead() {
@@ -527,6 +626,16 @@ private Q_SLOTS:
         QCOMPARE(mensajeBusqueda(), QStringLiteral("2 reemplazos"));
     }
 
+    void openingTheFindBarKeepsTheLineOfTheCursorInSight() {
+        abrirCon(QByteArray("a = 1\r\n").repeated(200).toStdString());
+        for (int vez = 0; !abajoDelTodo() && vez < 200; ++vez)
+            tecla(Qt::Key_Down);
+        tecla(Qt::Key_H, Qt::ControlModifier);
+        QCOMPARE(txtCodigo().textCursor().blockNumber() > 0, true);
+        QTRY_VERIFY(control<QWidget>("barraBusqueda").height() > 20);
+        QVERIFY(txtCodigo().cursorALaVista());
+    }
+
     void findBarOpensWithoutItsSecondRow() {
         abrir();
         tecla(Qt::Key_F, Qt::ControlModifier);
@@ -585,6 +694,12 @@ private Q_SLOTS:
     }
 
 private:
+    // The cursor is in the last line that is whole in sight.
+    bool abajoDelTodo() const {
+        return txtCodigo().cursorRect().bottom() + txtCodigo().fontMetrics().height() >
+               txtCodigo().viewport()->height();
+    }
+
     int lineaMarcada() const {
         const auto marcas = txtCodigo().extraSelections();
         for (const auto& marca : marcas)

@@ -1,7 +1,9 @@
 #include "platform/window/MsgBox.h"
 
 #include <QMessageBox>
+#include <QPointer>
 #include <QPushButton>
+#include <QScopeGuard>
 
 #include <map>
 #include <vector>
@@ -89,10 +91,12 @@ Botones preparar(QMessageBox& caja, int estilo) {
 } // namespace
 
 int MsgBox(QWidget* padre, const QString& texto, int estilo, const QString& titulo) {
-    QMessageBox caja(icono(estilo), titulo, texto, QMessageBox::NoButton, padre);
-    const Botones codigos = preparar(caja, estilo);
-    caja.exec();
-    const auto pulsado = codigos.find(caja.clickedButton());
+    // Not on the stack: the parent may end while the box is open, and takes it along.
+    const QPointer<QMessageBox> caja = new QMessageBox(icono(estilo), titulo, texto, QMessageBox::NoButton, padre);
+    const auto alSalir = qScopeGuard([&caja] { delete caja; });
+    const Botones codigos = preparar(*caja, estilo);
+    caja->exec();
+    const auto pulsado = caja ? codigos.find(caja->clickedButton()) : codigos.end();
     return pulsado != codigos.end() ? pulsado->second : vbCancel; // the program ends meanwhile
 }
 

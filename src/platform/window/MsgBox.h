@@ -18,6 +18,7 @@ constexpr int vbCritical = 16;
 constexpr int vbQuestion = 32;
 constexpr int vbExclamation = 48;
 constexpr int vbInformation = 64;
+constexpr int vbDefaultButton2 = 256;
 constexpr int vbSystemModal = 4096; // above all windows, and no other window of the program answers meanwhile
 
 // The button that closed the box; Esc and the close box count as vbCancel where there is such a button.
@@ -29,7 +30,8 @@ constexpr int vbIgnore = 5;
 constexpr int vbYes = 6;
 constexpr int vbNo = 7;
 
-// The parent may be null. Other windows' events, timers and sockets go on running.
+// The parent may be null. Other windows' events, timers and sockets go on running, and may take the parent away: the
+// box ends with it, as vbCancel, and its caller has to expect that.
 int MsgBox(QWidget* padre, const QString& texto, int estilo = vbOKOnly,
            const QString& titulo = QStringLiteral("Trelvano"));
 

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QDialog>
 #include <QLineEdit>
+#include <QPointer>
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
@@ -34,6 +35,18 @@ private Q_SLOTS:
     void typingReplacesTheDefault() { QCOMPARE(contestar(QStringLiteral("7"), Qt::Key_Return), QStringLiteral("7")); }
 
     void escapeAnswersNothing() { QCOMPARE(contestar(QStringLiteral("7"), Qt::Key_Escape), QString()); }
+
+    void boxEndsWithItsParentAndAnswersNothing() {
+        const QPointer<QWidget> ventana = new QWidget;
+        QTimer vigia;
+        connect(&vigia, &QTimer::timeout, this, [&] {
+            if (QApplication::activeModalWidget() != nullptr)
+                delete ventana;
+        });
+        vigia.start(5);
+        QCOMPARE(InputBox(ventana, QStringLiteral("x"), {}, QStringLiteral("12")), QString());
+        QVERIFY(!ventana);
+    }
 
     void buttonsSpeakSpanish() {
         QStringList botones;

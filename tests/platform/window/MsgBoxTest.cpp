@@ -99,6 +99,18 @@ private Q_SLOTS:
         QCOMPARE(caja.texto, QStringLiteral("Desbordamiento"));
     }
 
+    void boxEndsWithItsParent() {
+        const QPointer<QWidget> ventana = new QWidget;
+        QTimer vigia;
+        connect(&vigia, &QTimer::timeout, this, [&] {
+            if (QApplication::activeModalWidget() != nullptr)
+                delete ventana;
+        });
+        vigia.start(5);
+        QCOMPARE(MsgBox(ventana, QStringLiteral("x"), vbYesNo), vbCancel);
+        QVERIFY(!ventana);
+    }
+
     void textIsNeverTakenForMarkup() {
         CajaDeMensaje caja;
         MsgBox(nullptr, QStringLiteral("<b>x</b>"));
