@@ -3,6 +3,7 @@
 # the presets, which are the developers', switch it on.
 
 option(BUILD_TESTING "build the tests" OFF)
+option(ESCLAVO_WERROR "a warning ends the build" ${BUILD_TESTING})
 option(ESCLAVO_BENCH "build the programs in bench/" OFF)
 option(ESCLAVO_FUZZ "build the fuzz targets (needs clang)" OFF)
 set(ESCLAVO_SANITIZE "" CACHE STRING "sanitizers for every target, e.g. address,undefined")
@@ -22,8 +23,10 @@ if(CCACHE)
   set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE})
 endif()
 
+include(cmake/Hardening.cmake)
+
 add_library(project_options INTERFACE)
-target_compile_options(project_options INTERFACE -Wall -Wextra -Wconversion -Wshadow -Werror)
+target_compile_options(project_options INTERFACE -Wall -Wextra -Wconversion -Wshadow $<$<BOOL:${ESCLAVO_WERROR}>:-Werror>)
 # GCC 12 sees overlapping copies in the library's own `"text" + std::string` (its bug 105651).
 target_compile_options(project_options INTERFACE $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>)
 target_include_directories(project_options INTERFACE ${CMAKE_SOURCE_DIR}/src)
@@ -33,6 +36,8 @@ if(ESCLAVO_SANITIZE)
   # The check of virtual tables opens a pipe to look at memory, and accuses falsely when no descriptor is left.
   target_compile_options(project_options INTERFACE -fno-sanitize=vptr)
   target_link_options(project_options INTERFACE -fsanitize=${ESCLAVO_SANITIZE})
+elseif(NOT CMAKE_BUILD_TYPE STREQUAL "Debug" AND NOT BUILD_TESTING)
+  esclavo_harden(project_options)
 endif()
 
 if(ESCLAVO_FUZZ)
