@@ -86,32 +86,32 @@ enum class Store : std::uint8_t { Raw = 0, Let = 1, Set = 2, Discard = 3 };
     OP(UnlessGreater)                                                                                                  \
     OP(UnlessLessEqual)                                                                                                \
     OP(UnlessGreaterEqual)                                                                                             \
-    OP(Back)             /* J, at the end of a loop: polls */                                                          \
-    OP(ForPrepare)       /* A variable, B limit, B+1 step; J past the loop if it does not run */                       \
-    OP(ForLoop)          /* A variable, B limit, B+1 step; J to the body while it runs */                              \
-    OP(EachPrepare)      /* A = iterator over B */                                                                     \
-    OP(EachNext)         /* A = next element of iterator B and J to the body, if there is one */                       \
-    OP(Index)            /* A = B(C) */                                                                                \
-    OP(Index2)           /* A = B(C, D) */                                                                             \
-    OP(IndexN)           /* A = B(C, C+1 ... X of them) */                                                             \
-    OP(SetIndex)         /* A(B) = C */                                                                                \
-    OP(SetIndex2)        /* A(B, C) = D */                                                                             \
-    OP(SetIndexN)        /* A(B, B+1 ... X of them) = C */                                                             \
-    OP(ElementReference) /* A = reference to B(C, C+1 ... X of them) */                                                \
-    OP(Call)             /* A = C(B, B+1 ... X of them): procedure, array or object */                                 \
-    OP(CallSelf)         /* A = own procedure C(B ... X of them) on Me */                                              \
-    OP(CallIntrinsic1)   /* A = intrinsic C(B) */                                                                      \
-    OP(CallIntrinsic)    /* A = intrinsic C(B, B+1 ... X of them) */                                                   \
-    OP(GetMember)        /* A = B.site C; X: 1 if B is temporary */                                                    \
-    OP(CallMember)       /* A = B.site C(D, D+1 ... X of them) */                                                      \
-    OP(SetMember)        /* A.site C = B; X: 1 if A is temporary */                                                    \
-    OP(SetMemberN)       /* A.site C(B ... X of them) = the value after them */                                        \
-    OP(GetName)          /* A = C, a name that may be variable or function */                                          \
-    OP(CheckDefined)     /* error 500 if nothing has defined global C */                                               \
-    OP(New)              /* A = new object of class C (global) */                                                      \
-    OP(NewNamed)         /* A = new object of the built-in class whose name is constant C */                           \
-    OP(Me)               /* A = Me */                                                                                  \
-    OP(ReDim)            /* A gets the upper bounds B, B+1 ... (X of them) */                                          \
+    OP(Back)           /* J, at the end of a loop: polls */                                                            \
+    OP(ForPrepare)     /* A variable, B limit, B+1 step; J past the loop if it does not run */                         \
+    OP(ForLoop)        /* A variable, B limit, B+1 step; J to the body while it runs */                                \
+    OP(EachPrepare)    /* A = iterator over B */                                                                       \
+    OP(EachNext)       /* A = next element of iterator B and J to the body, if there is one */                         \
+    OP(Index)          /* A = B(C) */                                                                                  \
+    OP(Index2)         /* A = B(C, D) */                                                                               \
+    OP(IndexN)         /* A = B(C, C+1 ... X of them) */                                                               \
+    OP(SetIndex)       /* A(B) = C */                                                                                  \
+    OP(SetIndex2)      /* A(B, C) = D */                                                                               \
+    OP(SetIndexN)      /* A(B, B+1 ... X of them) = C */                                                               \
+    OP(SetDeep)        /* A(B, B+1 ...)(...) ... = C; shape D tells how many indexes each level has */                 \
+    OP(Call)           /* A = C(B, B+1 ... X of them): procedure, array or object */                                   \
+    OP(CallSelf)       /* A = own procedure C(B ... X of them) on Me */                                                \
+    OP(CallIntrinsic1) /* A = intrinsic C(B) */                                                                        \
+    OP(CallIntrinsic)  /* A = intrinsic C(B, B+1 ... X of them) */                                                     \
+    OP(GetMember)      /* A = B.site C; X: 1 if B is temporary */                                                      \
+    OP(CallMember)     /* A = B.site C(D, D+1 ... X of them) */                                                        \
+    OP(SetMember)      /* A.site C = B; X: 1 if A is temporary */                                                      \
+    OP(SetMemberN)     /* A.site C(B ... X of them) = the value after them */                                          \
+    OP(GetName)        /* A = C, a name that may be variable or function */                                            \
+    OP(CheckDefined)   /* error 500 if nothing has defined global C */                                                 \
+    OP(New)            /* A = new object of class C (global) */                                                        \
+    OP(NewNamed)       /* A = new object of the built-in class whose name is constant C */                             \
+    OP(Me)             /* A = Me */                                                                                    \
+    OP(ReDim)          /* A gets the upper bounds B, B+1 ... (X of them) */                                            \
     OP(ReDimPreserve)                                                                                                  \
     OP(Erase)     /* A */                                                                                              \
     OP(MakeArray) /* A = fixed array of shape C; X = 1: unless A is an array already */                                \
@@ -128,14 +128,16 @@ enum class Store : std::uint8_t { Raw = 0, Let = 1, Set = 2, Discard = 3 };
 // then has 16 bits above them). The operands stay as they are, so the long roads need not know.
 #define VBS_LOCAL_FORMS(OP)                                                                                            \
     OP(Move)                                                                                                           \
-    OP(Let) OP(Add) OP(Subtract) OP(Multiply) OP(Divide) OP(IntegerDivide) OP(Modulo) OP(And) OP(Or) OP(Xor) OP(Equal) \
+    OP(Let)                                                                                                            \
+    OP(Add) OP(Subtract) OP(Multiply) OP(Divide) OP(IntegerDivide) OP(Modulo) OP(And) OP(Or) OP(Xor) OP(Equal)         \
         OP(NotEqual) OP(Less) OP(Greater) OP(LessEqual) OP(GreaterEqual) OP(Index) OP(Index2) OP(SetIndex)             \
             OP(SetIndex2) OP(JumpIf) OP(JumpUnless) OP(ForLoop) VBS_JUMPS_ON(OP)
 #define VBS_SMALL_FORMS(OP) OP(Add) OP(Subtract) OP(Multiply) OP(IntegerDivide) OP(Modulo) OP(And) VBS_JUMPS_ON(OP)
 #define VBS_JUMPS_ON(OP)                                                                                               \
     OP(JumpEqual)                                                                                                      \
-    OP(JumpNotEqual) OP(JumpLess) OP(JumpGreater) OP(JumpLessEqual) OP(JumpGreaterEqual) OP(UnlessEqual)               \
-        OP(UnlessNotEqual) OP(UnlessLess) OP(UnlessGreater) OP(UnlessLessEqual) OP(UnlessGreaterEqual)
+    OP(JumpNotEqual)                                                                                                   \
+    OP(JumpLess) OP(JumpGreater) OP(JumpLessEqual) OP(JumpGreaterEqual) OP(UnlessEqual) OP(UnlessNotEqual)             \
+        OP(UnlessLess) OP(UnlessGreater) OP(UnlessLessEqual) OP(UnlessGreaterEqual)
 
 enum class Opcode : std::uint8_t {
 #define VBS_OPCODE(name) name,
@@ -166,7 +168,7 @@ constexpr Opcode generalForm(Opcode op) noexcept {
 }
 
 constexpr bool hasSecondWord(Opcode op) noexcept {
-    return op == Opcode::Index2 || op == Opcode::SetIndex2 || op == Opcode::CallMember;
+    return op == Opcode::Index2 || op == Opcode::SetIndex2 || op == Opcode::SetDeep || op == Opcode::CallMember;
 }
 
 constexpr Instruction encode(Opcode op, Operand a = 0, Operand b = 0, Operand c = 0, std::uint8_t x = 0) noexcept {

@@ -160,7 +160,13 @@ private:
                       Store store);
     void assignOwn(const ClassMember& member, const std::vector<Expr*>& args, const Expr* value, Store store);
     void storeElement(Operand base, const std::vector<Expr*>& args, const Expr* value, Store store);
-    Operand elementBase(const Expr* base);
+    struct Road {
+        Operand base = 0;
+        std::vector<const std::vector<Expr*>*> levels; // from the base on
+    };
+    Road roadTo(const Expr* target);
+    Operand indexesOf(const Road& road);
+    void storeDeep(const Road& road, Operand indexes, Operand from, Store store);
     bool isOwnResult(Symbol symbol) const;
     bool isFixedArray(Symbol symbol);
 

@@ -82,7 +82,13 @@ void CodeGen::assignCall(const Expr* target, const Expr* value, Store store) {
         return;
     }
     if (callee->kind != Expr::Kind::Name) {
-        storeElement(elementBase(callee), target->args, value, store);
+        const Road road = roadTo(target);
+        if (road.levels.size() == 1) {
+            storeElement(road.base, target->args, value, store);
+        } else {
+            const Operand first = indexesOf(road);
+            storeDeep(road, first, expr(value), store);
+        }
         return;
     }
     const Resolved r = resolve(callee->symbol);
@@ -106,26 +112,48 @@ void CodeGen::assignCall(const Expr* target, const Expr* value, Store store) {
     }
 }
 
-// Where the array or object behind a(1)(2)'s first part lives: arrays in arrays are written in place, through a
-// reference.
-Operand CodeGen::elementBase(const Expr* base) {
-    if (base->kind == Expr::Kind::Call && base->a->kind == Expr::Kind::Name && !base->args.empty()) {
-        const Resolved r = resolve(base->a->symbol);
-        if (r.kind == Resolved::Kind::Variable) {
-            const Operand to = newTemporary();
-            const Operand first = contiguous(base->args);
-            emit(encode(Opcode::ElementReference, to, r.operand, first, packed(base->args.size(), Store::Raw)));
-            return to;
+// The variable behind a(1)(2)(3), or the value that something else gives, and the indexes that lead on from it. The
+// elements on the way are looked up when the right side is known, which may change them.
+CodeGen::Road CodeGen::roadTo(const Expr* target) {
+    Road road;
+    road.levels.push_back(&target->args);
+    const Expr* base = target->a;
+    while (base->kind == Expr::Kind::Call && base->a->kind == Expr::Kind::Call && !base->args.empty()) {
+        road.levels.push_back(&base->args);
+        base = base->a;
+    }
+    const bool element = base->kind == Expr::Kind::Call && base->a->kind == Expr::Kind::Name && !base->args.empty();
+    if (const auto variable = element ? resolve(base->a->symbol) : Resolved{};
+        variable.kind == Resolved::Kind::Variable) {
+        road.levels.push_back(&base->args);
+        road.base = variable.operand;
+    } else {
+        road.base = expr(base);
+    }
+    std::reverse(road.levels.begin(), road.levels.end());
+    return road;
+}
+
+// The indexes of all levels in one row.
+Operand CodeGen::indexesOf(const Road& road) {
+    std::vector<Expr*> all;
+    for (const std::vector<Expr*>* level : road.levels) {
+        all.insert(all.end(), level->begin(), level->end());
+    }
+    return contiguous(all);
+}
+
+void CodeGen::storeDeep(const Road& road, Operand indexes, Operand from, Store store) {
+    std::vector<std::int32_t> counts;
+    for (const std::vector<Expr*>* level : road.levels) {
+        if (level->size() > 60) {
+            throw CompileError{ErrorNumber::OutOfMemoryCompiling, m_decl.at};
         }
+        counts.push_back(static_cast<std::int32_t>(level->size()));
     }
-    if (base->kind == Expr::Kind::Call && base->a->kind == Expr::Kind::Call && !base->args.empty()) {
-        const Operand inner = elementBase(base->a);
-        const Operand to = newTemporary();
-        const Operand first = contiguous(base->args);
-        emit(encode(Opcode::ElementReference, to, inner, first, packed(base->args.size(), Store::Raw)));
-        return to;
-    }
-    return expr(base);
+    m_procedure.shapes.push_back(std::move(counts));
+    emit(encode(Opcode::SetDeep, road.base, indexes, from, packed(0, store)));
+    emit(m_procedure.shapes.size() - 1);
 }
 
 void CodeGen::storeElement(Operand base, const std::vector<Expr*>& args, const Expr* value, Store store) {

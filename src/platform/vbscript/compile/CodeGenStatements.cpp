@@ -279,9 +279,9 @@ void CodeGen::reDimStatement(const Stmt& s) {
                 emit(encode(Opcode::SetMember, object, copy, site(target->a->symbol),
                             packed(isTemporary(object) ? 1 : 0, Store::Let)));
             } else {
-                const Operand base = elementBase(target->a->a);
-                const Operand indexes = contiguous(target->a->args);
-                emit(encode(Opcode::SetIndexN, base, indexes, copy, packed(target->a->args.size(), Store::Let)));
+                const Road road = roadTo(target->a);
+                const Operand indexes = indexesOf(road);
+                storeDeep(road, indexes, copy, Store::Let);
             }
         }
         m_temporary = temporaries;

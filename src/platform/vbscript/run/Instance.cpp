@@ -55,11 +55,14 @@ void Instance::dropContents() noexcept {
     }
 }
 
-void Instance::finalize() noexcept {
-    if (terminates && m_class.terminate != nullptr) {
-        terminates = false;
-        m_vm.terminateInstance(*this, *m_class.terminate);
+bool Instance::postponesEnd() noexcept {
+    if (!terminates || m_class.terminate == nullptr) {
+        return false;
     }
+    terminates = false;
+    references = 1;
+    m_vm.awaitTermination(*this);
+    return true;
 }
 
 ProcedureReference::ProcedureReference(Vm& vm, const Procedure& procedure) : m_vm(vm), m_procedure(procedure) {

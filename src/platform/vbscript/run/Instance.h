@@ -26,7 +26,8 @@ public:
     bool terminates = false; // Class_Initialize was reached, so Class_Terminate will run
 
 protected:
-    void finalize() noexcept override;
+    // Queues the object for its Class_Terminate, once.
+    bool postponesEnd() noexcept override;
 
 private:
     Vm& m_vm;

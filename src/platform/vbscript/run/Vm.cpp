@@ -60,10 +60,12 @@ Vm::~Vm() {
     for (std::uint32_t slot = 0; slot < m_globals.size(); ++slot) {
         if (m_globals.kind(slot) == GlobalKind::Variable) {
             m_globals[slot].clear(); // Class_Terminate still finds everything else
+            terminateDead();
         }
     }
     for (std::uint32_t slot = 0; slot < m_globals.size(); ++slot) {
         m_globals[slot].clear();
+        terminateDead();
     }
     m_closing = true;
     std::vector<Value> cyclic;
@@ -304,6 +306,7 @@ void Vm::popFrame() {
         frame.base[i].clear();
     }
     delete frame.extra;
+    terminateDead(); // before the caller sees the result
     Value* to = frame.result;
     const Store store = frame.store;
     Instance* me = frame.me;
@@ -333,6 +336,7 @@ void Vm::unwindTo(std::size_t floor) noexcept {
 }
 
 void Vm::run(std::size_t floor) {
+    terminateDead(); // what whoever entered has dropped
     while (true) {
         try {
             dispatch(floor);
@@ -362,12 +366,15 @@ bool Vm::recover(ScriptError& failure, std::size_t floor) {
         --depth;
     }
     unwindTo(depth);
+    if (depth > floor) {
+        clearRegisters(top(), top().procedure->firstTemporary);
+    }
+    terminateDead();
     if (depth == floor) {
         return false;
     }
     Frame& frame = top();
     noteError(failure);
-    clearRegisters(frame, frame.procedure->firstTemporary);
     const auto pc = static_cast<std::size_t>(frame.pc - frame.procedure->code.data()) - 1;
     const StatementMark* mark = frame.procedure->markAt(pc);
     frame.pc = mark != nullptr ? frame.procedure->code.data() + mark->resume : frame.pc;
@@ -421,13 +428,57 @@ Value Vm::callProcedure(const Procedure& procedure, Instance* me, Arguments argu
     return result;
 }
 
-void Vm::terminateInstance(Instance& instance, const Procedure& terminate) noexcept {
-    if (m_closing) {
-        return;
+// ---------------------------------------------------------------------------------------------------------------
+// dead objects: dropping a value never enters the machine, so native code may drop what it likes wherever it stands
+
+namespace {
+
+// The engine of this thread that was the last to get an object to terminate, until it turns to it.
+constinit thread_local Vm* engineWithDead = nullptr;
+
+} // namespace
+
+void Vm::awaitTermination(Instance& instance) noexcept {
+    instance.nextDead = nullptr;
+    if (m_dead == nullptr) {
+        m_dead = &instance;
+    } else {
+        m_lastDead->nextDead = &instance;
     }
+    m_lastDead = &instance;
+    engineWithDead = this;
+}
+
+void Vm::overwrite(Value& to, Value value) noexcept {
+    to = std::move(value);
+    if (engineWithDead != nullptr) {
+        engineWithDead->terminateDead();
+    }
+}
+
+// Runs what waits. What ends by a Class_Terminate comes before what waited beside it.
+void Vm::terminateDead() noexcept {
+    Instance* rest = nullptr;
+    while (m_reentries < maxReentries) { // else whoever stands further out goes on
+        if (m_dead != nullptr) {
+            m_lastDead->nextDead = rest;
+            rest = std::exchange(m_dead, nullptr);
+            engineWithDead = nullptr;
+        }
+        if (rest == nullptr) {
+            return;
+        }
+        terminate(*std::exchange(rest, static_cast<Instance*>(rest->nextDead)));
+    }
+}
+
+void Vm::terminate(Instance& instance) noexcept {
+    Value last; // the reference that waited
+    last.type = Type::Object;
+    last.counted = &instance;
     const ErrorState kept = error;
     try {
-        callProcedure(terminate, &instance, {});
+        callProcedure(*instance.cls().terminate, &instance, {});
     } catch (const ScriptError&) {
         error = kept; // nobody is there to hear of it; an interruption shows at the next poll
     }

@@ -73,7 +73,10 @@ public:
     // For GlobalScope: the slot of a name that stands for something, or Globals::none; and its use as a member.
     std::uint32_t definedGlobal(std::u16string_view name);
     Value useGlobal(std::uint32_t slot, Access access, Arguments arguments);
-    void terminateInstance(Instance& instance, const Procedure& terminate) noexcept;
+    // Takes over a reference to an object whose Class_Terminate is to run before the next instruction.
+    void awaitTermination(Instance& instance) noexcept;
+    // Gives a place another value; Class_Terminate of an object that ends by it runs at once.
+    static void overwrite(Value& to, Value value) noexcept;
     void retain(Unit* unit) noexcept { ++unit->references; }
     void release(Unit* unit) noexcept;
 
@@ -104,6 +107,10 @@ private:
     void noteError(const ScriptError& failure);
     void locate(ScriptError& failure) const;
     void pollSlow();
+
+    // Dead objects
+    void terminateDead() noexcept;
+    void terminate(Instance& instance) noexcept;
 
     // Frames
     void checkFrame(const Procedure* procedure, Value* base, std::size_t count);
@@ -141,8 +148,10 @@ private:
     void storeIndex(Instruction instruction);
     void storeIndex2(Instruction instruction, Operand value);
     void storeIndexN(Instruction instruction);
-    void elementReference(Instruction instruction);
-    std::size_t elementOffset(const ArrayBlock& array, std::span<Value* const> indexes);
+    void storeDeep(Instruction instruction, std::size_t shape);
+    void setDeep(Value& base, Value* indexes, std::span<const std::int32_t> levels, Value value, Store store);
+    Value assignable(Value value, Store store);
+    void indexNumbers(std::span<Value* const> indexes, std::int32_t* numbers);
     void callOther(Instruction instruction);
     void runIntrinsic(const Builtin& intrinsic, Value& argument, Value& to, Store store);
     void runNative(Object& target, int member, Arguments arguments, Value& to, Store store);
@@ -162,6 +171,7 @@ private:
     void redim(Instruction instruction, bool preserve);
     void erase(Operand o);
     void makeArray(Instruction instruction);
+    Value operate(Instruction instruction, const Value& x, const Value& y);
     void executeText(Instruction instruction);
     Value runLocalText(std::u16string_view text, bool expression);
     void getRef(Instruction instruction);
@@ -199,6 +209,10 @@ private:
     std::unordered_map<std::uint32_t, Unit*> m_owners; // of global callables
     std::unordered_set<Object*> m_adopted;
     bool m_closing = false;
+
+    // Objects that wait for their Class_Terminate, in the order in which their last references went.
+    Instance* m_dead = nullptr;
+    Instance* m_lastDead = nullptr;
 };
 
 } // namespace vbs

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <array>
 #include <limits>
+#include <numeric>
 #include <utility>
 
 namespace vbs {
@@ -59,12 +60,11 @@ std::vector<Value> copied(std::span<Value* const> indexes) {
 
 } // namespace
 
-std::size_t Vm::elementOffset(const ArrayBlock& array, std::span<Value* const> indexes) {
-    std::array<std::int32_t, maxIndexes> places{};
-    for (std::size_t i = 0; i < indexes.size(); ++i) {
-        places[i] = toLong(*this, *indexes[i]);
+// The indexes as numbers; default members may run.
+void Vm::indexNumbers(std::span<Value* const> indexes, std::int32_t* numbers) {
+    for (const Value* index : indexes) {
+        *numbers++ = toLong(*this, *index);
     }
-    return array.offset({places.data(), indexes.size()});
 }
 
 // base(indexes) into `to`; of an object the default member with arguments.
@@ -72,7 +72,9 @@ void Vm::getIndex(Value& to, const Value& base, std::span<Value* const> indexes,
     const Value& variable = base.deref();
     if (variable.isArray()) {
         const Value keep = shared(variable); // a default member of an index may change the variable
-        deliver(keep.array()->elements()[elementOffset(*keep.array(), indexes)], to, store);
+        std::array<std::int32_t, maxIndexes> numbers{};
+        indexNumbers(indexes, numbers.data());
+        deliver(keep.array()->elements()[keep.array()->offset({numbers.data(), indexes.size()})], to, store);
         return;
     }
     if (!variable.isObject()) {
@@ -92,17 +94,15 @@ void Vm::getIndex(Value& to, const Value& base, std::span<Value* const> indexes,
 }
 
 void Vm::setIndex(Value& base, std::span<Value* const> indexes, Value value, Store store) {
-    if (store == Store::Let && value.isObject()) {
-        value = defaultValue(value);
-    } else if (store == Store::Set && !value.isObject()) {
-        raise(ErrorNumber::ObjectRequired);
-    }
+    value = assignable(std::move(value), store);
     Value& variable = base.deref();
     if (variable.isArray()) {
-        const std::size_t offset = elementOffset(*variable.array(), indexes);
-        if (!variable.isArray() || offset >= variable.array()->count()) {
-            raise(ErrorNumber::OutOfRange);
+        std::array<std::int32_t, maxIndexes> numbers{};
+        indexNumbers(indexes, numbers.data()); // before the array is looked at: the variable may change by it
+        if (!variable.isArray()) {
+            raise(ErrorNumber::TypeMismatch);
         }
+        const std::size_t offset = variable.array()->offset({numbers.data(), indexes.size()});
         writableArray(variable).elements()[offset] = std::move(value);
         return;
     }
@@ -193,20 +193,58 @@ void Vm::storeIndexN(Instruction instruction) {
     consume(a);
 }
 
-// A reference to an element that is an array itself, for writing into it. Other elements are handed over as values.
-void Vm::elementReference(Instruction instruction) {
-    Value& base = at(operandB(instruction)).deref();
-    const Row row(&at(operandC(instruction)), countOf(instruction));
-    Value result;
-    if (base.isArray()) {
-        const std::size_t offset = elementOffset(*base.array(), row.span());
-        result.type = Type::Reference;
-        result.target = &writableArray(base).elements()[offset];
-    } else {
-        getIndex(result, base, row.span(), Store::Raw);
+// base(...)(...) ... = C. The road to the element is walked when everything else is known, and no code of the script
+// runs on it.
+void Vm::storeDeep(Instruction instruction, std::size_t shape) {
+    const std::vector<std::int32_t>& levels = top().procedure->shapes[shape];
+    Value* indexes = &at(operandB(instruction));
+    setDeep(at(operandA(instruction)).deref(), indexes, levels, taken(operandC(instruction)), storeOf(instruction));
+    consumeRow(indexes, static_cast<std::size_t>(std::accumulate(levels.begin(), levels.end(), 0)));
+    consume(operandA(instruction));
+}
+
+namespace {
+
+bool anyObject(const Value* first, std::int32_t count) noexcept {
+    return std::any_of(first, first + count, [](const Value& v) { return v.isObject(); });
+}
+
+// The element that plain indexes name, for writing.
+Value& elementOf(Context& context, Value& array, const Value* indexes, std::int32_t count) {
+    std::array<std::int32_t, maxIndexes> numbers{};
+    std::transform(indexes, indexes + count, numbers.begin(), [&](const Value& v) { return toLong(context, v); });
+    const std::size_t offset = array.array()->offset({numbers.data(), static_cast<std::size_t>(count)});
+    return writableArray(array).elements()[offset];
+}
+
+} // namespace
+
+void Vm::setDeep(Value& base, Value* indexes, std::span<const std::int32_t> levels, Value value, Store store) {
+    value = assignable(std::move(value), store);
+    while (true) {
+        Value* container = &base;
+        Value* row = indexes;
+        std::size_t level = 0;
+        const auto leadsOn = [&] { return container->isArray() && !anyObject(row, levels[level]); };
+        for (; level + 1 < levels.size() && leadsOn(); row += levels[level++]) {
+            container = &elementOf(*this, *container, row, levels[level]);
+        }
+        const auto count = static_cast<std::size_t>(levels[level]);
+        if (container->isArray() && anyObject(row, levels[level])) {
+            for (Value* index = row; index != row + count; ++index) {
+                *index = withoutObject(*this, *index);
+            }
+            continue; // from the start: the default members may have changed anything
+        }
+        if (level + 1 == levels.size()) {
+            setIndex(*container, Row(row, count).span(), std::move(value), store);
+            return;
+        }
+        Value element; // what an object hands out is written into as it is
+        getIndex(element, *container, Row(row, count).span(), Store::Raw);
+        setDeep(element, row + count, levels.subspan(level + 1), std::move(value), store);
+        return;
     }
-    consumeRow(&at(operandC(instruction)), row.count);
-    at(operandA(instruction)) = std::move(result);
 }
 
 namespace {

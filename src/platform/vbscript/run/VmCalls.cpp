@@ -60,15 +60,11 @@ Object& objectOf(const Value& v) {
 void Vm::callIntrinsic1(Instruction instruction) {
     const Operand b = operandB(instruction);
     const Builtin& builtin = m_library.builtins[operandC(instruction)];
-    Value& argument = at(b);
-    Value result;
+    Value argument = isTemporary(b) ? std::move(at(b)) : at(b).deref(); // held: code of the script may run
     if (argument.type == Type::Undefined) {
-        Value empty;
-        result = builtin.function(*this, {&empty, 1});
-    } else {
-        result = builtin.function(*this, {&argument.deref(), 1});
+        argument.type = Type::Empty;
     }
-    consume(b);
+    Value result = builtin.function(*this, {&argument, 1});
     deliver(std::move(result), at(operandA(instruction)), storeOf(instruction));
 }
 

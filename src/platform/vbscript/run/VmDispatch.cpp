@@ -78,11 +78,18 @@ void Vm::dispatch(std::size_t floor) {
     places[2] = const_cast<Value*>(frame->procedure->constants.data());                                                \
     places[3] = frame->fields
 #define LOAD                                                                                                           \
+    BURY;                                                                                                              \
     frame = &m_frames[m_depth - 1];                                                                                    \
     ENTER
+// After everything that may have dropped an object: its Class_Terminate runs before the next instruction.
+#define BURY                                                                                                           \
+    if (m_dead != nullptr) [[unlikely]] {                                                                              \
+        terminateDead();                                                                                               \
+    }
 #define SLOW(statement)                                                                                                \
     SAVE;                                                                                                              \
     statement;                                                                                                         \
+    BURY;                                                                                                              \
     NEXT
 #define GO(by)                                                                                                         \
     {                                                                                                                  \
@@ -137,21 +144,18 @@ labelReference : {
         target.type = Type::Empty;
     }
     Value& a = R(A);
-    if (a.isCounted()) [[unlikely]] {
-        a.clear();
-    }
+    a.clear();
     a.type = Type::Reference;
     a.target = &target;
+    BURY;
     NEXT;
 }
 
 labelLoadConstant:
-    R(A) = frame->procedure->constants[static_cast<std::size_t>(J)];
-    NEXT;
+    SLOW(R(A) = frame->procedure->constants[static_cast<std::size_t>(J)]);
 
 labelClear:
-    R(A).clear();
-    NEXT;
+    SLOW(R(A).clear());
 
 // An operator on two values: its short road, then the same with references looked through, then the long road.
 #define BINARY(label, road, a, b, c)                                                                                   \
@@ -213,6 +217,7 @@ labelIs : {
         USED_UP(B)
         USED_UP(C)
         put(R(A), Type::Boolean, same ? -1 : 0);
+        BURY;
         NEXT;
     }
     SLOW(binary(i));
@@ -293,7 +298,9 @@ labelBack:
             NEXT;                                                                                                      \
         }                                                                                                              \
         SAVE;                                                                                                          \
-        if (condition(A) == (wanted)) {                                                                                \
+        const bool holds = condition(A);                                                                               \
+        BURY;                                                                                                          \
+        if (holds == (wanted)) {                                                                                       \
             TAKE_JUMP                                                                                                  \
         }                                                                                                              \
         NEXT;                                                                                                          \
@@ -316,6 +323,7 @@ labelBack:
             } else if (!(isReference(x) || isReference(y)) || !lookThrough<compared<op>>(holds, x, y)) {               \
                 SAVE;                                                                                                  \
                 holds = comparison(op, A, B);                                                                          \
+                BURY;                                                                                                  \
             }                                                                                                          \
         }                                                                                                              \
         if (holds == (wanted)) {                                                                                       \
@@ -331,6 +339,7 @@ labelBack:
             if (!isReference(x) || !comparedSmall<op>(holds, *x.target, SMALL_BESIDE_JUMP)) {                          \
                 SAVE;                                                                                                  \
                 holds = comparison(op, A, B);                                                                          \
+                BURY;                                                                                                  \
             }                                                                                                          \
         }                                                                                                              \
         if (holds == (wanted)) {                                                                                       \
@@ -362,7 +371,9 @@ labelForPrepare : {
         NEXT;
     }
     SAVE;
-    if (!forPrepare(R(A).deref(), &R(B))) {
+    const bool runs = forPrepare(R(A).deref(), &R(B));
+    BURY;
+    if (!runs) {
         pc += J;
     }
     NEXT;
@@ -374,6 +385,7 @@ labelForPrepare : {
         if (!countedOn(runs, a, &b)) [[unlikely]] {                                                                    \
             SAVE;                                                                                                      \
             runs = forStep(R(A).deref(), &R(B));                                                                       \
+            BURY;                                                                                                      \
         }                                                                                                              \
         if (runs) [[likely]] {                                                                                         \
             TAKE_JUMP                                                                                                  \
@@ -386,12 +398,15 @@ labelForPrepare : {
 labelEachPrepare:
     SLOW(eachPrepare(i));
 
-labelEachNext:
+labelEachNext : {
     SAVE;
-    if (eachNext(R(A).deref(), R(B))) {
+    const bool goesOn = eachNext(R(A).deref(), R(B));
+    BURY;
+    if (goesOn) {
         TAKE_JUMP
     }
     NEXT;
+}
 
 #define ELEMENT(label, a, b, c)                                                                                        \
     label : {                                                                                                          \
@@ -441,8 +456,10 @@ labelIndexN:
 labelSetIndexN:
     SLOW(storeIndexN(i));
 
-labelElementReference:
-    SLOW(elementReference(i));
+labelSetDeep : {
+    const auto shape = static_cast<std::size_t>(*pc++);
+    SLOW(storeDeep(i, shape));
+}
 
 labelCall : {
     const Value& callee = R(C);
@@ -500,6 +517,7 @@ labelGetMember : {
                 }
                 if (temporary && A != B) {
                     R(B).clear();
+                    BURY;
                 }
                 NEXT;
             }
@@ -525,6 +543,7 @@ labelCallMember : {
         if (target->shape == site.shape && target->role == Object::Role::Native && !target->takesReferences &&
             store != Store::Set) {
             runNative(*target, site.member, {&R(first), X & 63}, R(A), store);
+            BURY;
             NEXT;
         }
     }
@@ -621,6 +640,7 @@ labelReturn : {
                     local->clear();
                 }
             }
+            BURY;
             --m_depth;
             if (wanted) {
                 put(*to, base[slot].type, base[slot].n);

@@ -14,12 +14,14 @@ inline bool isPlain(const Value& v) noexcept {
     return v.type < Type::Undefined;
 }
 
-inline void put(Value& to, Type type, std::int64_t n) noexcept {
+// Gives a place a plain value. Class_Terminate of an object that ends by it runs here, so `to` is not to be used after.
+inline void put(Value& to, Type type, std::int64_t payload) noexcept {
     if (to.isCounted()) [[unlikely]] {
-        to.clear();
+        Vm::overwrite(to, Value(type, payload));
+        return;
     }
     to.type = type;
-    to.n = n;
+    to.n = payload;
 }
 
 // `base` holds `count` arguments already. Raises 450 or 28.

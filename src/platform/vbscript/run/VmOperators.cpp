@@ -43,6 +43,11 @@ bool holds(Opcode op, Ordering o) noexcept {
     }
 }
 
+// A share of the value, so that it stays while code of the script runs.
+Value shared(const Value& v) {
+    return v;
+}
+
 // Grows a text in place; the value has the text again whatever happens.
 void appendTo(Value& target, std::u16string_view tail) {
     String text = String::adopt(target.stringBlock());
@@ -102,19 +107,26 @@ Value Vm::taken(Operand o) {
     return isTemporary(o) ? std::move(v) : v;
 }
 
-void Vm::deliver(Value value, Value& to, Store store) {
+// What an assignment stores: the value itself, for Let the default member of an object and a dynamic copy of a fixed
+// array.
+Value Vm::assignable(Value value, Store store) {
     if (store == Store::Let && value.isObject()) {
-        to = defaultValue(value);
-        return;
+        return defaultValue(value);
     }
     if (store == Store::Set && !value.isObject()) {
         raise(ErrorNumber::ObjectRequired);
     }
     if (store == Store::Let && value.isArray() && value.array()->fixed()) {
-        value = Value::ofArray(value.array()->clone()); // the copy of a fixed array is a dynamic one
+        return Value::ofArray(value.array()->clone());
     }
-    if (store != Store::Discard) {
+    return value;
+}
+
+void Vm::deliver(Value value, Value& to, Store store) {
+    if (store == Store::Raw) {
         to = std::move(value);
+    } else if (store != Store::Discard) {
+        to = assignable(std::move(value), store);
     }
 }
 
@@ -140,60 +152,55 @@ void Vm::binary(Instruction instruction) {
     const Value& x = at(b).deref();
     const Value& y = at(c).deref();
     Value result;
-    const Opcode op = opcode(instruction);
-    switch (op) {
-    case Opcode::Add:
-        result = add(*this, x, y);
-        break;
-    case Opcode::Subtract:
-        result = subtract(*this, x, y);
-        break;
-    case Opcode::Multiply:
-        result = multiply(*this, x, y);
-        break;
-    case Opcode::Divide:
-        result = divide(*this, x, y);
-        break;
-    case Opcode::IntegerDivide:
-        result = integerDivide(*this, x, y);
-        break;
-    case Opcode::Modulo:
-        result = modulo(*this, x, y);
-        break;
-    case Opcode::Power:
-        result = power(*this, x, y);
-        break;
-    case Opcode::And:
-        result = logicalAnd(*this, x, y);
-        break;
-    case Opcode::Or:
-        result = logicalOr(*this, x, y);
-        break;
-    case Opcode::Xor:
-        result = logicalXor(*this, x, y);
-        break;
-    case Opcode::Eqv:
-        result = logicalEqv(*this, x, y);
-        break;
-    case Opcode::Imp:
-        result = logicalImp(*this, x, y);
-        break;
-    case Opcode::Is:
-        result = Value::ofBoolean(isSameObject(x, y));
-        break;
-    default: {
-        const Ordering order = compare(*this, x, y, literalsOf(b, c));
-        result = order == Ordering::Null ? Value::null() : Value::ofBoolean(holds(op, order));
-    }
+    if (x.isObject() || y.isObject()) { // default members may change either variable
+        result = operate(instruction, shared(x), shared(y));
+    } else {
+        result = operate(instruction, x, y);
     }
     consume(b);
     consume(c);
     at(operandA(instruction)) = std::move(result);
 }
 
+Value Vm::operate(Instruction instruction, const Value& x, const Value& y) {
+    const Opcode op = opcode(instruction);
+    switch (op) {
+    case Opcode::Add:
+        return add(*this, x, y);
+    case Opcode::Subtract:
+        return subtract(*this, x, y);
+    case Opcode::Multiply:
+        return multiply(*this, x, y);
+    case Opcode::Divide:
+        return divide(*this, x, y);
+    case Opcode::IntegerDivide:
+        return integerDivide(*this, x, y);
+    case Opcode::Modulo:
+        return modulo(*this, x, y);
+    case Opcode::Power:
+        return power(*this, x, y);
+    case Opcode::And:
+        return logicalAnd(*this, x, y);
+    case Opcode::Or:
+        return logicalOr(*this, x, y);
+    case Opcode::Xor:
+        return logicalXor(*this, x, y);
+    case Opcode::Eqv:
+        return logicalEqv(*this, x, y);
+    case Opcode::Imp:
+        return logicalImp(*this, x, y);
+    case Opcode::Is:
+        return Value::ofBoolean(isSameObject(x, y));
+    default: {
+        const Ordering order = compare(*this, x, y, literalsOf(operandB(instruction), operandC(instruction)));
+        return order == Ordering::Null ? Value::null() : Value::ofBoolean(holds(op, order));
+    }
+    }
+}
+
 void Vm::unary(Instruction instruction) {
     const Operand b = operandB(instruction);
-    const Value& x = at(b).deref();
+    const Value x = at(b).deref();
     Value result = opcode(instruction) == Opcode::Negate ? negate(*this, x) : logicalNot(*this, x);
     consume(b);
     at(operandA(instruction)) = std::move(result);
@@ -219,7 +226,7 @@ bool Vm::comparison(Opcode op, Operand a, Operand b) {
             result = holds(op, order < 0 ? Ordering::Less : order > 0 ? Ordering::Greater : Ordering::Equal);
         }
     } else {
-        result = holds(op, compare(*this, x, y, literalsOf(a, b)));
+        result = holds(op, compare(*this, shared(x), shared(y), literalsOf(a, b)));
     }
     consume(a);
     consume(b);

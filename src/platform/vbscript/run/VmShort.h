@@ -51,7 +51,8 @@ inline void carry(Value& to, Value& from, bool temporary) noexcept {
 
 inline void putDouble(Value& to, double d) noexcept {
     if (to.isCounted()) [[unlikely]] {
-        to.clear();
+        Vm::overwrite(to, Value::ofDouble(d));
+        return;
     }
     to.type = Type::Double;
     to.d = d;
@@ -278,7 +279,7 @@ template <bool (*road)(Value&, const Value&, std::int8_t) noexcept>
                 put(to, found.type, found.n);
                 return true;
             }
-            if (goesAsItIs(found.type, store)) {
+            if (goesAsItIs(found.type, store) && dropsQuietly(to)) {
                 to = Value(found);
                 return true;
             }

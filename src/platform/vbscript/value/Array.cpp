@@ -8,7 +8,6 @@
 #include <cstring>
 #include <limits>
 #include <new>
-#include <vector>
 
 namespace vbs {
 
@@ -28,20 +27,6 @@ std::size_t elementsOf(std::span<const std::int32_t> sizes) {
     }
     return count;
 }
-
-// Arrays within arrays, as deep as a script likes, must not be freed by as many nested calls: beyond a certain depth
-// they wait here.
-struct Graveyard {
-    int depth = 0;
-    std::vector<ArrayBlock*> waiting;
-};
-
-Graveyard& graveyard() {
-    static thread_local Graveyard yard;
-    return yard;
-}
-
-constexpr int maxNestedDeaths = 40;
 
 } // namespace
 
@@ -78,29 +63,13 @@ ArrayBlock* ArrayBlock::create(std::size_t elements) {
     return create(sizes);
 }
 
-ArrayBlock* ArrayBlock::clone() const {
-    ArrayBlock* copy = create(std::span<const std::int32_t>(m_sizes, m_dimensions));
+ArrayBlock* ArrayBlock::clone(bool fixed) const {
+    ArrayBlock* copy = create(std::span<const std::int32_t>(m_sizes, m_dimensions), fixed);
     std::copy_n(m_elements, m_count, copy->m_elements);
     return copy;
 }
 
-void ArrayBlock::destroy(ArrayBlock* array) noexcept {
-    Graveyard& yard = graveyard();
-    if (yard.depth >= maxNestedDeaths) {
-        yard.waiting.push_back(array);
-        return;
-    }
-    ++yard.depth;
-    bury(array);
-    while (yard.depth == 1 && !yard.waiting.empty()) {
-        ArrayBlock* next = yard.waiting.back();
-        yard.waiting.pop_back();
-        bury(next);
-    }
-    --yard.depth;
-}
-
-void ArrayBlock::bury(ArrayBlock* array) noexcept {
+void ArrayBlock::free(ArrayBlock* array) noexcept {
     for (std::size_t i = 0; i < array->m_count; ++i) {
         array->m_elements[i].~Value();
     }
@@ -154,7 +123,7 @@ void ArrayBlock::resizeLast(std::int32_t size) {
 ArrayBlock& writableArray(Value& array) {
     ArrayBlock* block = array.array();
     if (block->references > 1 + static_cast<std::uint32_t>(block->locks)) {
-        array = Value::ofArray(block->clone());
+        array = Value::ofArray(block->clone(block->fixed()));
     }
     return *array.array();
 }

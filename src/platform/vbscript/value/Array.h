@@ -18,8 +18,8 @@ public:
     // array that has no dimensions yet. Elements are Empty. Raises error 7 for what does not fit.
     static ArrayBlock* create(std::span<const std::int32_t> sizes, bool fixed = false);
     static ArrayBlock* create(std::size_t elements); // one dimension
-    ArrayBlock* clone() const;                       // a copy, not fixed, one reference
-    static void destroy(ArrayBlock* array) noexcept;
+    ArrayBlock* clone(bool fixed = false) const;     // a copy with one reference
+    static void free(ArrayBlock* array) noexcept;    // of an array without references; its elements are dropped
 
     int dimensions() const noexcept { return m_dimensions; }
     std::int32_t size(int dimension) const noexcept { return m_sizes[dimension]; } // dimension from 0
@@ -38,9 +38,9 @@ public:
     // Erase raise error 10.
     int locks = 0;
 
-private:
-    static void bury(ArrayBlock* array) noexcept;
+    ArrayBlock* nextDead = nullptr; // in a list of those whose last reference is gone
 
+private:
     ArrayBlock() noexcept = default;
 
     std::size_t m_count = 0;

@@ -65,12 +65,15 @@ public:
     // True for an object that writes through by-reference arguments; the others get plain values.
     bool takesReferences = false;
 
-    // Called when the last reference goes; deletes the object, now or (in long chains) a little later.
-    static void lastReferenceGone(Object* object) noexcept;
+    // Of an object without references: deletes it unless it postpones its end.
+    static void end(Object* object) noexcept;
+
+    Object* nextDead = nullptr; // in a list of those whose last reference is gone
 
 protected:
-    // The last reference is gone. Script objects run Class_Terminate here; may make new references and so stay alive.
-    virtual void finalize() noexcept {}
+    // Asked when the last reference goes. True: whoever answers has taken a reference and drops it in its own time (an
+    // object of a script class waits so for its Class_Terminate). Runs no code of the script.
+    virtual bool postponesEnd() noexcept { return false; }
 };
 
 inline Object* Value::object() const noexcept {
