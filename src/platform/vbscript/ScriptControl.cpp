@@ -81,7 +81,7 @@ bool ScriptControl::addCode(std::u16string_view text) {
         return fail(static_cast<std::int32_t>(failure.number), text, failure.position.line, failure.position.column);
     } catch (const ScriptError& failure) {
         ScriptFailure described;
-        described.description = failure.description.view();
+        described.description = shownDescription(failure);
         described.source = failure.source.view();
         return fail(failure.number, text, failure.line, failure.column, std::move(described));
     } catch (const std::bad_alloc&) {

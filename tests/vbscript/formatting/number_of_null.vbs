@@ -1,1 +1,1 @@
-x = FormatNumber(Null) '! 94
+WScript.Echo FormatNumber(Null) '! 13

@@ -1,2 +1,2 @@
 Dim a(1, 1)
-x = Join(a) '! 5
+WScript.Echo Join(a) '! 13

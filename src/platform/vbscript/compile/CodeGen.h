@@ -129,6 +129,7 @@ private:
     void callNameTo(const Expr* e, const Resolved& callee, Operand to, Store store);
     void indexTo(Operand base, const std::vector<Expr*>& args, Operand to, Store store);
     void intrinsicTo(const Expr* e, const Builtin& builtin, Operand to, Store store);
+    void emitIntrinsic(const Expr* e, const Builtin& builtin, std::size_t count, Operand to, Store store);
     void specialTo(const Expr* e, Special special, Operand to, Store store);
     void callMemberTo(const Expr* e, const Expr* callee, Operand to, Store store);
     void callSelfTo(const Procedure* procedure, const std::vector<Expr*>& args, Operand to, Store store);

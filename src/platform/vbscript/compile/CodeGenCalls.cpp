@@ -114,6 +114,17 @@ void CodeGen::intrinsicTo(const Expr* e, const Builtin& builtin, Operand to, Sto
         raiseAtRun(ErrorNumber::WrongArgumentCount, m_scope.symbols.intern(builtin.name));
         return;
     }
+    const bool used = store != Store::Discard;
+    store = builtin.result == Result::None ? Store::Discard : store;
+    emitIntrinsic(e, builtin, count, to, store);
+    if (builtin.result == Result::None && used) {
+        raiseAtRun(ErrorNumber::TypeMismatch, noSymbol);
+    } else if (builtin.result == Result::Needed && !used) {
+        raiseAtRun(ErrorNumber::VariableTypeNotSupported, noSymbol);
+    }
+}
+
+void CodeGen::emitIntrinsic(const Expr* e, const Builtin& builtin, std::size_t count, Operand to, Store store) {
     const auto index = static_cast<Operand>(&builtin - m_scope.library.builtins.data());
     if (count == 1 && e->args[0]->kind != Expr::Kind::Missing) {
         const Operand argument = expr(e->args[0]);

@@ -32,6 +32,33 @@ inline std::size_t countArgument(Context& context, const Value& v) {
     return static_cast<std::size_t>(count);
 }
 
+// Raises 94 if one of them is Null, before any other is looked at.
+inline void refuseNull(std::span<const Value> arguments) {
+    for (const Value& argument : arguments) {
+        if (argument.isNull()) {
+            raise(ErrorNumber::InvalidNull);
+        }
+    }
+}
+
+// The part of a text that Mid and MidB are asked for.
+struct Section {
+    std::size_t from; // counts from 0
+    std::size_t length;
+};
+
+// The start (from 1) and the optional length in the second and third argument: both are converted before either is
+// checked; raises 94 for Null, 5 for a start below 1 or a negative length.
+inline Section sectionArguments(Context& context, Arguments arguments) {
+    refuseNull(arguments.subspan(1));
+    const std::int32_t start = longArgument(context, arguments[1]);
+    const std::int32_t length = longArgument(context, arguments, 2, String::maxLength);
+    if (start < 1 || length < 0) {
+        raise(ErrorNumber::InvalidCall);
+    }
+    return {static_cast<std::size_t>(start) - 1, static_cast<std::size_t>(length)};
+}
+
 enum class TextComparison : bool { Binary, Text };
 
 // vbBinaryCompare (also when left out) or vbTextCompare; anything else raises 5.

@@ -9,17 +9,19 @@ namespace vbs {
 
 namespace {
 
-// The array that an argument is; raises 13 for anything else.
-const ArrayBlock& arrayArgument(const Value& v) {
+// The array that an argument is, or that the default member of an object gives; raises 13 for anything else.
+Value arrayArgument(Context& context, const Value& argument) {
+    Value v = withoutObject(context, argument);
     if (!v.isArray()) {
         raise(ErrorNumber::TypeMismatch);
     }
-    return *v.array();
+    return v;
 }
 
 // The size of the dimension that the optional second argument names (from 1); raises 9 if there is none.
 std::int32_t sizeOfDimension(Context& context, Arguments arguments) {
-    const ArrayBlock& array = arrayArgument(arguments[0]);
+    const Value held = arrayArgument(context, arguments[0]);
+    const ArrayBlock& array = *held.array();
     const std::int32_t dimension = longArgument(context, arguments, 1, 1);
     if (dimension < 1 || dimension > array.dimensions()) {
         raise(ErrorNumber::OutOfRange);
@@ -42,18 +44,32 @@ Value arrayOf(Context& /*context*/, Arguments arguments) {
     return Value::ofArray(array);
 }
 
-// The elements of an array of one dimension; an array without any has none.
-std::span<const Value> listArgument(const Value& v) {
-    const ArrayBlock& array = arrayArgument(v);
-    if (array.dimensions() > 1) {
-        raise(ErrorNumber::InvalidCall);
+// An array of one dimension, or one that has none yet; raises 94 for Null, 13 for anything else.
+Value listArgument(Context& context, const Value& argument) {
+    refuseNull({&argument, 1});
+    Value list = arrayArgument(context, argument);
+    if (list.array()->dimensions() > 1) {
+        raise(ErrorNumber::TypeMismatch);
     }
-    return {array.elements(), array.count()};
+    return list;
+}
+
+std::span<const Value> elementsOf(const Value& list) {
+    return {list.array()->elements(), list.array()->count()};
+}
+
+// The text of an element; unlike an argument that is Null, such an element raises 13.
+TextArgument elementText(Context& context, const Value& element) {
+    if (element.isNull()) {
+        raise(ErrorNumber::TypeMismatch);
+    }
+    return {context, element};
 }
 
 // Join(list[, separator])
 Value join(Context& context, Arguments arguments) {
-    const auto list = listArgument(arguments[0]);
+    const Value held = listArgument(context, arguments[0]);
+    const auto list = elementsOf(held);
     const Value blank = context.character(u' ');
     const Value* given = optional(arguments, 1);
     const TextArgument separator(context, given != nullptr ? *given : blank);
@@ -62,7 +78,7 @@ Value join(Context& context, Arguments arguments) {
         if (i > 0) {
             out.append(separator.view());
         }
-        out.append(TextArgument(context, list[i]).view());
+        out.append(elementText(context, list[i]).view());
     }
     return Value::ofString(std::move(out));
 }
@@ -113,13 +129,14 @@ Value split(Context& context, Arguments arguments) {
 
 // Filter(list, part[, include[, comparison]]): the texts that contain the part, or those that do not.
 Value filter(Context& context, Arguments arguments) {
-    const auto list = listArgument(arguments[0]);
+    const Value held = listArgument(context, arguments[0]);
+    const auto list = elementsOf(held);
     const TextArgument needle(context, arguments[1]);
     const bool include = booleanArgument(context, arguments, 2, true);
     const TextComparison comparison = comparisonArgument(context, arguments, 3);
     std::vector<Value> kept;
     for (const Value& element : list) {
-        const TextArgument text(context, element);
+        const TextArgument text = elementText(context, element);
         if ((findText(context, text.view(), needle.view(), 0, comparison) != std::u16string_view::npos) == include) {
             kept.push_back(element.isString() ? element : Value::ofString(text.view()));
         }

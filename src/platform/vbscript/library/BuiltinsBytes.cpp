@@ -18,15 +18,11 @@ Value ascB(Context& context, Arguments arguments) {
     if (text.bytes().empty()) {
         raise(ErrorNumber::InvalidCall);
     }
-    return Value::ofInteger(text.bytes().front());
+    return Value::ofByte(text.bytes().front());
 }
 
 Value chrB(Context& context, Arguments arguments) {
-    const std::int32_t code = longArgument(context, arguments[0]);
-    if (code < 0 || code > 255) {
-        raise(ErrorNumber::InvalidCall);
-    }
-    const auto byte = static_cast<std::uint8_t>(code);
+    const std::uint8_t byte = toByte(context, arguments[0]);
     return textOf({&byte, 1});
 }
 
@@ -38,34 +34,31 @@ Value lenB(Context& context, Arguments arguments) {
 }
 
 Value leftB(Context& context, Arguments arguments) {
+    const std::size_t wanted = countArgument(context, arguments[1]);
     if (arguments[0].isNull()) {
         return Value::null();
     }
     const String text = toString(context, arguments[0]);
-    return textOf(text.bytes().first(std::min(countArgument(context, arguments[1]), text.bytes().size())));
+    return textOf(text.bytes().first(std::min(wanted, text.bytes().size())));
 }
 
 Value rightB(Context& context, Arguments arguments) {
+    const std::size_t wanted = countArgument(context, arguments[1]);
     if (arguments[0].isNull()) {
         return Value::null();
     }
     const String text = toString(context, arguments[0]);
-    return textOf(text.bytes().last(std::min(countArgument(context, arguments[1]), text.bytes().size())));
+    return textOf(text.bytes().last(std::min(wanted, text.bytes().size())));
 }
 
 Value midB(Context& context, Arguments arguments) {
+    const Section section = sectionArguments(context, arguments);
     if (arguments[0].isNull()) {
         return Value::null();
     }
     const String text = toString(context, arguments[0]);
-    const std::int32_t start = longArgument(context, arguments[1]);
-    const Value* length = optional(arguments, 2);
-    const std::size_t wanted = length != nullptr ? countArgument(context, *length) : text.bytes().size();
-    if (start < 1) {
-        raise(ErrorNumber::InvalidCall);
-    }
-    const Bytes rest = text.bytes().subspan(std::min(static_cast<std::size_t>(start) - 1, text.bytes().size()));
-    return textOf(rest.first(std::min(wanted, rest.size())));
+    const Bytes rest = text.bytes().subspan(std::min(section.from, text.bytes().size()));
+    return textOf(rest.first(std::min(section.length, rest.size())));
 }
 
 // InStrB([start, ]text, needle[, comparison]): bytes are compared as they are, whatever the comparison.

@@ -55,9 +55,6 @@ void appendHex(String& out, unsigned code, int digits) {
 
 // Escape(text): %XX for a code below 256, %uXXXX for the others.
 Value escape(Context& context, Arguments arguments) {
-    if (arguments[0].isNull()) {
-        return Value::null();
-    }
     const TextArgument text(context, arguments[0]);
     String out;
     for (const char16_t c : text.view()) {
@@ -91,9 +88,6 @@ std::optional<char16_t> hexAt(std::u16string_view text, std::size_t from, std::s
 }
 
 Value unescape(Context& context, Arguments arguments) {
-    if (arguments[0].isNull()) {
-        return Value::null();
-    }
     const TextArgument argument(context, arguments[0]);
     const std::u16string_view text = argument.view();
     String out;

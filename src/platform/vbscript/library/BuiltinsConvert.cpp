@@ -88,9 +88,18 @@ Value rgb(Context& context, Arguments arguments) {
 }
 
 constexpr Builtin table[] = {
-    {u"CBool", 1, 1, cbool}, {u"CByte", 1, 1, cbyte}, {u"CCur", 1, 1, ccur}, {u"CDate", 1, 1, cdate},
-    {u"CDbl", 1, 1, cdbl},   {u"CInt", 1, 1, cint},   {u"CLng", 1, 1, clng}, {u"CSng", 1, 1, csng},
-    {u"CStr", 1, 1, cstr},   {u"Hex", 1, 1, hex},     {u"Oct", 1, 1, oct},   {u"RGB", 3, 3, rgb},
+    {u"CBool", 1, 1, cbool},
+    {u"CByte", 1, 1, cbyte, Result::Needed},
+    {u"CCur", 1, 1, ccur, Result::Needed},
+    {u"CDate", 1, 1, cdate, Result::Needed},
+    {u"CDbl", 1, 1, cdbl, Result::Needed},
+    {u"CInt", 1, 1, cint, Result::Needed},
+    {u"CLng", 1, 1, clng, Result::Needed},
+    {u"CSng", 1, 1, csng, Result::Needed},
+    {u"CStr", 1, 1, cstr},
+    {u"Hex", 1, 1, hex},
+    {u"Oct", 1, 1, oct},
+    {u"RGB", 3, 3, rgb},
 };
 
 } // namespace

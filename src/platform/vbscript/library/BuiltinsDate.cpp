@@ -2,6 +2,8 @@
 #include "platform/vbscript/library/BuiltinArguments.h"
 #include "platform/vbscript/value/Dates.h"
 
+#include <optional>
+
 namespace vbs {
 
 namespace {
@@ -53,6 +55,7 @@ std::size_t nameNumber(Context& context, const Value& v, std::int32_t most) {
 
 // WeekdayName(weekday[, abbreviated[, first day]])
 Value weekdayName(Context& context, Arguments arguments) {
+    refuseNull(arguments);
     const std::size_t number = nameNumber(context, arguments[0], 7);
     const bool abbreviated = booleanArgument(context, arguments, 1, false);
     const auto first = static_cast<std::size_t>(firstDayArgument(context, arguments, 2));
@@ -64,6 +67,7 @@ Value weekdayName(Context& context, Arguments arguments) {
 
 // MonthName(month[, abbreviated])
 Value monthName(Context& context, Arguments arguments) {
+    refuseNull(arguments);
     const std::size_t month = nameNumber(context, arguments[0], 12) - 1;
     const bool abbreviated = booleanArgument(context, arguments, 1, false);
     const Locale& locale = context.locale();
@@ -85,15 +89,25 @@ Value timeSerialOf(Context& context, Arguments arguments) {
     return Value::ofDate(timeSerial(hour, minute, second));
 }
 
+// A date, or a text that is one: a number is none (13), nor is a text that holds one.
+double dateOrText(Context& context, const Value& argument) {
+    const Value v = withoutObject(context, argument);
+    if (v.type == Type::Date) {
+        return v.d;
+    }
+    const auto date = v.isString() ? textAsDate(context, v.text()) : std::nullopt;
+    if (!date) {
+        raise(v.isNull() ? ErrorNumber::InvalidNull : ErrorNumber::TypeMismatch);
+    }
+    return *date;
+}
+
 Value dateValue(Context& context, Arguments arguments) {
-    return Value::ofDate(daysOf(toDate(context, arguments[0])));
+    return Value::ofDate(daysOf(dateOrText(context, arguments[0])));
 }
 
 Value timeValue(Context& context, Arguments arguments) {
-    if (arguments[0].isNull()) {
-        return Value::null();
-    }
-    return Value::ofDate(timeOf(toDate(context, arguments[0])));
+    return Value::ofDate(timeOf(dateOrText(context, arguments[0])));
 }
 
 constexpr Builtin table[] = {

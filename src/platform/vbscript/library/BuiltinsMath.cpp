@@ -103,11 +103,14 @@ std::int64_t currencyRoundedTo(std::int64_t x, int places) noexcept {
     return quotient * unit;
 }
 
-// Round(number[, places]): half to even; 0 to 22 places.
+// Round(number[, places]): half to even; 0 to 22 places. A Boolean stays what it is.
 Value round(Context& context, Arguments arguments) {
     const std::int32_t places = longArgument(context, arguments, 1, 0);
     if (places < 0 || places > 22) {
         raise(ErrorNumber::InvalidCall);
+    }
+    if (const Value plain = withoutObject(context, arguments[0]); plain.type == Type::Boolean) {
+        return plain;
     }
     Value x = numberArgument(context, arguments[0]);
     if (x.type == Type::Single) {

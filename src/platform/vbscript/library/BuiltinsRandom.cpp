@@ -44,7 +44,7 @@ Value randomize(Context& context, Arguments arguments) {
 }
 
 constexpr Builtin table[] = {
-    {u"Randomize", 0, 1, randomize},
+    {u"Randomize", 0, 1, randomize, Result::None},
     {u"Rnd", 0, 1, rnd},
 };
 

@@ -36,13 +36,11 @@ Value inStr(Context& context, Arguments arguments) {
 
 // InStrRev(text, needle[, start[, comparison]]): looks backwards; the find ends at `start` at the latest.
 Value inStrRev(Context& context, Arguments arguments) {
+    refuseNull(arguments);
     const std::int32_t start = longArgument(context, arguments, 2, -1);
     const TextComparison comparison = comparisonArgument(context, arguments, 3);
     if (start == 0 || start < -1) {
         raise(ErrorNumber::InvalidCall);
-    }
-    if (arguments[0].isNull() || arguments[1].isNull()) {
-        return Value::null();
     }
     const TextArgument text(context, arguments[0]);
     const TextArgument needle(context, arguments[1]);

@@ -26,38 +26,36 @@ Value len(Context& context, Arguments arguments) {
     return Value::ofLong(static_cast<std::int32_t>(size));
 }
 
+// The numbers of Left, Right, Mid and String are checked before a Null text is let through.
 Value left(Context& context, Arguments arguments) {
+    const std::size_t wanted = countArgument(context, arguments[1]);
     if (arguments[0].isNull()) {
         return Value::null();
     }
     const TextArgument text(context, arguments[0]);
-    const std::size_t length = std::min(countArgument(context, arguments[1]), text.size());
+    const std::size_t length = std::min(wanted, text.size());
     return part(context, arguments[0], text.view(), 0, length);
 }
 
 Value right(Context& context, Arguments arguments) {
+    const std::size_t wanted = countArgument(context, arguments[1]);
     if (arguments[0].isNull()) {
         return Value::null();
     }
     const TextArgument text(context, arguments[0]);
-    const std::size_t length = std::min(countArgument(context, arguments[1]), text.size());
+    const std::size_t length = std::min(wanted, text.size());
     return part(context, arguments[0], text.view(), text.size() - length, length);
 }
 
 // Mid(text, start[, length]): start from 1; without a length up to the end.
 Value mid(Context& context, Arguments arguments) {
+    const Section section = sectionArguments(context, arguments);
     if (arguments[0].isNull()) {
         return Value::null();
     }
     const TextArgument text(context, arguments[0]);
-    const std::int32_t start = longArgument(context, arguments[1]);
-    const Value* length = optional(arguments, 2);
-    const std::size_t wanted = length != nullptr ? countArgument(context, *length) : String::maxLength;
-    if (start < 1) {
-        raise(ErrorNumber::InvalidCall);
-    }
-    const std::size_t from = std::min(static_cast<std::size_t>(start) - 1, text.size());
-    return part(context, arguments[0], text.view(), from, std::min(wanted, text.size() - from));
+    const std::size_t from = std::min(section.from, text.size());
+    return part(context, arguments[0], text.view(), from, std::min(section.length, text.size() - from));
 }
 
 // Only the blank is trimmed, not tabs or line ends.
@@ -120,10 +118,10 @@ Value space(Context& context, Arguments arguments) {
 
 // String(count, character): a text stands for its first character, a number for its code modulo 256.
 Value repeated(Context& context, Arguments arguments) {
+    const std::size_t count = arguments[0].isNull() ? 0 : countArgument(context, arguments[0]);
     if (arguments[0].isNull() || arguments[1].isNull()) {
         return Value::null();
     }
-    const std::size_t count = countArgument(context, arguments[0]);
     const Value character = withoutObject(context, arguments[1]);
     if (character.isString()) {
         if (character.text().empty()) {

@@ -10,7 +10,8 @@ struct NumberEntry {
     std::int32_t number;
 };
 
-constexpr NumberEntry numbers[] = {
+// Of type Long, whatever their size: colours and the flags beyond the reach of an Integer.
+constexpr NumberEntry longs[] = {
     {u"vbBlack", 0},
     {u"vbRed", 0xFF},
     {u"vbGreen", 0xFF00},
@@ -19,6 +20,14 @@ constexpr NumberEntry numbers[] = {
     {u"vbMagenta", 0xFF00FF},
     {u"vbCyan", 0xFFFF00},
     {u"vbWhite", 0xFFFFFF},
+    {u"vbObjectError", -2147221504},
+    {u"vbMsgBoxHelpButton", 16384},
+    {u"vbMsgBoxSetForeground", 65536},
+    {u"vbMsgBoxRight", 524288},
+    {u"vbMsgBoxRtlReading", 1048576},
+};
+
+constexpr NumberEntry integers[] = {
     {u"vbBinaryCompare", 0},
     {u"vbTextCompare", 1},
     {u"vbDatabaseCompare", 2},
@@ -39,7 +48,6 @@ constexpr NumberEntry numbers[] = {
     {u"vbShortDate", 2},
     {u"vbLongTime", 3},
     {u"vbShortTime", 4},
-    {u"vbObjectError", -2147221504},
     {u"vbOKOnly", 0},
     {u"vbOKCancel", 1},
     {u"vbAbortRetryIgnore", 2},
@@ -56,10 +64,6 @@ constexpr NumberEntry numbers[] = {
     {u"vbDefaultButton4", 768},
     {u"vbApplicationModal", 0},
     {u"vbSystemModal", 4096},
-    {u"vbMsgBoxHelpButton", 16384},
-    {u"vbMsgBoxSetForeground", 65536},
-    {u"vbMsgBoxRight", 524288},
-    {u"vbMsgBoxRtlReading", 1048576},
     {u"vbOK", 1},
     {u"vbCancel", 2},
     {u"vbAbort", 3},
@@ -85,6 +89,8 @@ constexpr NumberEntry numbers[] = {
     {u"vbDecimal", 14},
     {u"vbByte", 17},
     {u"vbArray", 8192},
+    {u"vbTrue", -1},
+    {u"vbFalse", 0},
 };
 
 struct TextEntry {
@@ -103,14 +109,15 @@ constexpr TextEntry texts[] = {
 const std::vector<NamedConstant>& constants() {
     static const std::vector<NamedConstant> all = [] {
         std::vector<NamedConstant> list;
-        for (const NumberEntry& entry : numbers) {
-            list.push_back({entry.name, Value::ofWhole(entry.number)});
+        for (const NumberEntry& entry : longs) {
+            list.push_back({entry.name, Value::ofLong(entry.number)});
+        }
+        for (const NumberEntry& entry : integers) {
+            list.push_back({entry.name, Value::ofInteger(static_cast<std::int16_t>(entry.number))});
         }
         for (const TextEntry& entry : texts) {
             list.push_back({entry.name, Value::ofString(entry.text)});
         }
-        list.push_back({u"vbTrue", Value::ofInteger(-1)});
-        list.push_back({u"vbFalse", Value::ofInteger(0)});
         return list;
     }();
     return all;

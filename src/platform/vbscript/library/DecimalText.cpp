@@ -83,7 +83,7 @@ DecimalText decimalText(Context& context, const Value& v) {
     const Value x = toNumber(context, v);
     switch (x.type) {
     case Type::Null:
-        raise(ErrorNumber::InvalidNull);
+        raise(ErrorNumber::TypeMismatch); // what is to be formatted, unlike the options, is converted the plain way
     case Type::Currency:
         return fromCurrency(x.n);
     case Type::Single:

@@ -17,6 +17,7 @@ Value makeRegExp(Context& /*context*/) {
 
 constexpr ObjectFactory table[] = {
     {u"Scripting.Dictionary", makeDictionary},
+    {u"VBScript.RegExp", makeRegExp},
     {u"RegExp", makeRegExp},
 };
 

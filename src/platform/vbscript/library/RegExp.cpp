@@ -93,6 +93,11 @@ bool isProcedure(const Value& v) {
     return v.isObject() && v.object() != nullptr && dynamic_cast<const Match*>(v.object()) == nullptr;
 }
 
+// A Boolean is written as its number.
+String replacementText(Context& context, const Value& by) {
+    return by.type == Type::Boolean ? wholeText(by.n) : toString(context, by);
+}
+
 } // namespace
 
 std::span<const RegExp::Member> RegExp::members() {
@@ -192,7 +197,7 @@ Value RegExp::replace(Context& context, Access /*access*/, Arguments arguments) 
     const String text = toString(context, arguments[0]);
     const Value by = arguments[1].deref();
     const bool calls = isProcedure(by);
-    const String byText = calls ? String() : toString(context, by);
+    const String byText = calls ? String() : replacementText(context, by);
     String out;
     std::size_t copied = 0;
     eachMatch(context, text, [&](const RegExpProgram& found) {

@@ -6,6 +6,12 @@
 
 namespace vbs {
 
+namespace {
+
+constexpr std::int32_t greatestNumber = 65535; // that a script may raise
+
+} // namespace
+
 std::span<const ErrObject::Member> ErrObject::members() {
     static constexpr Member table[] = {
         {u"Number", &ErrObject::number, readWrite, 0, 0},
@@ -116,7 +122,7 @@ Value ErrObject::raiseError(Context& context, Access /*access*/, Arguments argum
     }
     ScriptError raised;
     raised.number = scriptErrorNumber(toLong(context, *number));
-    if (raised.number == 0) {
+    if (raised.number == 0 || raised.number > greatestNumber) {
         raise(ErrorNumber::InvalidCall);
     }
     const bool kept = m_vm.error.number != 0;

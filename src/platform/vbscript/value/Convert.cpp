@@ -55,13 +55,11 @@ double toDoubleSlowly(Context& context, const Value& value) {
     case Type::Long:
     case Type::Boolean:
     case Type::Byte:
-        return static_cast<double>(v.n);
     case Type::Double:
     case Type::Single:
     case Type::Date:
-        return v.d;
     case Type::Currency:
-        return static_cast<double>(v.n) / 10000.0;
+        return plainNumber(v);
     case Type::Empty:
     case Type::Undefined:
         return 0.0;
@@ -103,13 +101,10 @@ bool toBoolean(Context& context, const Value& value) {
     case Type::Currency:
         return v.n != 0;
     case Type::String: {
-        if (equalNoCase(v.text(), u"true")) {
-            return true;
-        }
-        if (equalNoCase(v.text(), u"false")) {
-            return false;
-        }
-        return toDouble(context, v) != 0.0;
+        const auto isWord = [&v](std::u16string_view plain, std::u16string_view hashed) {
+            return equalNoCase(v.text(), plain) || equalNoCase(v.text(), hashed);
+        };
+        return isWord(u"true", u"#true#") || (!isWord(u"false", u"#false#") && toDouble(context, v) != 0.0);
     }
     case Type::Object:
         return toBoolean(context, context.defaultValue(v));
@@ -131,7 +126,7 @@ std::int64_t toCurrency(Context& context, const Value& value) {
     if (v.type == Type::Currency) {
         return v.n;
     }
-    if (v.isWhole() || v.type == Type::Byte || v.type == Type::Boolean) {
+    if (isWholeKind(v)) {
         return v.n * 10000;
     }
     return currencyFromDouble(toDouble(context, v));

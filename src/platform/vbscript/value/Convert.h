@@ -12,6 +12,17 @@
 
 namespace vbs {
 
+// Integer, Long, Byte or Boolean.
+inline bool isWholeKind(const Value& v) noexcept {
+    return v.isWhole() || v.type == Type::Byte || v.type == Type::Boolean;
+}
+// The value of any number: Integer, Long, Byte, Boolean, Double, Single, Date or Currency.
+inline double plainNumber(const Value& v) noexcept {
+    return isWholeKind(v)             ? static_cast<double>(v.n)
+           : v.type == Type::Currency ? static_cast<double>(v.n) / 10000.0
+                                      : v.d;
+}
+
 double toDoubleSlowly(Context& context, const Value& v); // toDouble of what is neither whole nor Double
 inline double toDouble(Context& context, const Value& v) {
     return v.isWhole() ? static_cast<double>(v.n) : v.type == Type::Double ? v.d : toDoubleSlowly(context, v);

@@ -129,6 +129,11 @@ const Entry* find(std::int32_t number) noexcept {
     return found != std::end(entries) && static_cast<std::int32_t>(found->number) == number ? found : nullptr;
 }
 
+std::u16string_view textOf(std::int32_t number) noexcept {
+    const Entry* entry = find(number);
+    return entry != nullptr ? entry->text : u"Error desconocido en tiempo de ejecución";
+}
+
 } // namespace
 
 bool hasErrorText(std::int32_t number) noexcept {
@@ -136,8 +141,7 @@ bool hasErrorText(std::int32_t number) noexcept {
 }
 
 String errorText(std::int32_t number) {
-    const Entry* entry = find(number);
-    return String(std::u16string_view(entry != nullptr ? entry->text : u"Error desconocido en tiempo de ejecución"));
+    return String(textOf(number));
 }
 
 String errorSource(std::int32_t number) {
@@ -146,16 +150,24 @@ String errorSource(std::int32_t number) {
                                                 : u"Error en tiempo de ejecución de VBScript"));
 }
 
+std::u16string shownDescription(const ScriptError& error) {
+    std::u16string text(error.description.empty() ? textOf(error.number) : error.description.view());
+    if (!error.detail.empty()) {
+        text.append(u": '").append(error.detail.view()).append(u"'");
+    }
+    return text;
+}
+
 void raise(ErrorNumber number) {
     throw ScriptError{.number = static_cast<std::int32_t>(number), .description = {}, .source = {}, .helpFile = {}};
 }
 
 void raise(ErrorNumber number, std::u16string_view detail) {
-    String text = errorText(static_cast<std::int32_t>(number));
-    text.append(u": '");
-    text.append(detail);
-    text.append(u"'");
-    throw ScriptError{.number = static_cast<std::int32_t>(number), .description = text, .source = {}, .helpFile = {}};
+    throw ScriptError{.number = static_cast<std::int32_t>(number),
+                      .description = {},
+                      .source = {},
+                      .helpFile = {},
+                      .detail = String(detail)};
 }
 
 } // namespace vbs

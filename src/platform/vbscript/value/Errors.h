@@ -5,6 +5,8 @@
 #include "platform/vbscript/value/String.h"
 
 #include <cstdint>
+#include <string>
+#include <string_view>
 
 namespace vbs {
 
@@ -136,10 +138,14 @@ struct ScriptError {
     std::int32_t helpContext = 0;
     std::uint32_t line = 0; // of the statement that failed, from 1; 0 while it is not known
     std::uint32_t column = 0;
+    String detail{}; // the name at fault, if there is one; not part of what the script sees
 };
 
+// The description with the name at fault behind it, for people to read.
+std::u16string shownDescription(const ScriptError& error);
+
 [[noreturn]] void raise(ErrorNumber number);
-// The standard text followed by ": 'detail'".
+// `detail`: the name at fault.
 [[noreturn]] void raise(ErrorNumber number, std::u16string_view detail);
 
 } // namespace vbs

@@ -18,11 +18,19 @@ namespace vbs {
 
 class Context;
 
+// What becomes of a builtin's result.
+enum class Result : std::uint8_t {
+    Usable, // it may be used or not
+    Needed, // a call as a statement raises 458 after it, since the result has nowhere to go
+    None,   // using it raises 13
+};
+
 struct Builtin {
     std::u16string_view name;
     std::uint8_t least;
     std::uint8_t most; // 255: any number
     Value (*function)(Context&, Arguments);
+    Result result = Result::Usable;
 };
 
 inline constexpr std::uint8_t anyNumber = 255;

@@ -1,6 +1,7 @@
-// The operators of the language on values of any type. Results take the documented types: Integer widens to Long and
-// Double on overflow, Null is contagious, Empty is 0 or "". The machine handles the common whole and Double cases
-// itself and calls these for the rest.
+// The operators of the language on values of any type (Arithmetic.cpp, Concatenation.cpp, Logic.cpp, Comparison.cpp).
+// Results take the documented types: Integer widens to Long and
+// Double on overflow, Null is contagious, Empty is "", in arithmetic the Integer 0, in logic the Long 0. The machine
+// handles the common whole and Double cases itself and calls these for the rest.
 #pragma once
 
 #include "platform/vbscript/value/Context.h"
@@ -25,7 +26,7 @@ Value logicalXor(Context& context, const Value& a, const Value& b);
 Value logicalEqv(Context& context, const Value& a, const Value& b);
 Value logicalImp(Context& context, const Value& a, const Value& b);
 
-// Which operand of a comparison is written as a literal; a number that is makes a text on the other side a number.
+// Which operand of a comparison is written as a literal: a number that is one makes a text beside it a number.
 enum class Literals : std::uint8_t { None = 0, Left = 1, Right = 2, Both = 3 };
 
 enum class Ordering : std::int8_t { Less = -1, Equal = 0, Greater = 1, Null = 2, Unordered = 3 };

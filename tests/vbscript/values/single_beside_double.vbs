@@ -1,0 +1,12 @@
+' A Single beside a Double is compared with the precision of a Single, on either side and by every operator.
+WScript.Echo CSng(0.1) = 0.1, 0.1 = CSng(0.1), CSng(0.7) = 0.7, CSng(0.5) = 0.5 '> True True True True
+WScript.Echo CSng(0.1) <> 0.1, CSng(0.1) < 0.1, CSng(0.1) > 0.1 '> False False False
+WScript.Echo CSng(0.1) <= 0.1, CSng(0.1) >= 0.1, 0.1 <= CSng(0.1) '> True True True
+s = CSng(0.1) : d = 0.1
+If s = d Then WScript.Echo "igual" '> igual
+Select Case s
+Case d WScript.Echo "caso" '> caso
+End Select
+WScript.Echo CSng(0.1) = 0.10001, CSng(16777216) = 16777217.0 '> False True
+' A difference is a Double again.
+WScript.Echo CSng(0.1) - 0.1 = 0 '> False
