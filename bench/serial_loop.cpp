@@ -212,6 +212,7 @@ void measure(int rounds) {
 
 int main(int argc, char** argv) {
     try {
+        setenv("QT_QPA_PLATFORM", "offscreen", 0);
         const QApplication application(argc, argv);
         measure(argc > 1 ? std::atoi(argv[1]) : 9);
         return 0;

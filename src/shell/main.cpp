@@ -2,30 +2,56 @@
 
 #include "platform/system/CarpetaPrograma.h"
 #include "platform/system/InstanciaPrevia.h"
+#include "platform/system/Pantalla.h"
 #include "platform/window/Contraste.h"
 #include "platform/window/TextosQt.h"
 #include "shell/Estacion.h"
 #include "shell/FrmPrincipal.h"
+#include "shell/LineaDeComandos.h"
 #include "shell/SenalesTermino.h"
 
 #include <QApplication>
 #include <QIcon>
+#include <QLibraryInfo>
 
 #include <csignal>
 #include <cstdio>
+#include <cstdlib>
 #include <filesystem>
+#include <span>
+#include <string>
 #include <sys/resource.h>
+#include <vector>
 
 namespace {
 
-// Without a screen the station serves all the same. Returns whether there is none.
-bool elegirPlataforma() {
-    if (qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY") ||
-        qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
-        return false;
-    std::fputs("esclavo-modbus: no hay pantalla; la estación atiende sin ventana.\n", stderr);
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    return true;
+// Prints what was asked for instead of a start, and returns the program's result then; -1: a start.
+int responder(const LineaDeComandos& linea) {
+    switch (linea.pedido) {
+    case Pedido::ayuda:
+        std::fputs(textoDeUso().c_str(), stdout);
+        return 0;
+    case Pedido::version:
+        std::puts("esclavo-modbus " ESCLAVO_VERSION);
+        return 0;
+    case Pedido::opcionDesconocida:
+        std::fprintf(stderr, "esclavo-modbus: opción desconocida: %s\n%s", linea.opcion.c_str(), textoDeUso().c_str());
+        return 2;
+    case Pedido::arrancar:
+        break;
+    }
+    return -1;
+}
+
+// Without a screen the station serves all the same.
+EleccionPantalla elegirPlataforma(const LineaDeComandos& linea) {
+    const char* const delEntorno = std::getenv("QT_QPA_PLATFORM");
+    const std::string pedida = linea.plataforma.empty() && delEntorno != nullptr ? delEntorno : linea.plataforma;
+    EleccionPantalla eleccion =
+        elegirPantalla(pedida, PantallasDelEntorno(QLibraryInfo::path(QLibraryInfo::PluginsPath).toStdString()));
+    if (!eleccion.motivo.empty())
+        std::fprintf(stderr, "esclavo-modbus: %s; la estación atiende sin ventana.\n", eleccion.motivo.c_str());
+    return eleccion;
 }
 
 // Every master takes a descriptor: use all that the system grants.
@@ -47,12 +73,23 @@ QIcon iconoPrograma() {
 } // namespace
 
 int main(int argc, char** argv) {
+    const LineaDeComandos linea =
+        leerLineaDeComandos(std::span<const char* const>(argv, static_cast<std::size_t>(argc)).subspan(1));
+    if (const int resultado = responder(linea); resultado >= 0)
+        return resultado;
     std::signal(SIGPIPE, SIG_IGN);
     SenalesTermino::retener();
     ampliarDescriptores();
-    const bool sinPantalla = elegirPlataforma();
+    EleccionPantalla pantalla = elegirPlataforma(linea);
 
-    QApplication aplicacion(argc, argv);
+    // The last option of a name holds, so that this one stands above what the user asked for.
+    std::vector<char*> palabras(argv, argv + argc);
+    std::string opcion = "-platform";
+    if (!pantalla.plataforma.empty())
+        palabras.insert(palabras.end(), {opcion.data(), pantalla.plataforma.data()});
+    int cuantas = static_cast<int>(palabras.size());
+    palabras.push_back(nullptr);
+    QApplication aplicacion(cuantas, palabras.data());
     // NOLINTNEXTLINE(clang-analyzer-cplusplus.NewDeleteLeaks): the application owns its style
     QApplication::setStyle(new EstiloLegible);
     QApplication::setApplicationName(QStringLiteral("esclavo-modbus"));
@@ -65,9 +102,9 @@ int main(int argc, char** argv) {
     const InstanciaPrevia instancia(ruta);
     Estacion estacion(carpetaPrograma(),
                       Arranque{.rutaPrograma = ruta.string(),
-                               .lineaDeComandos = QApplication::arguments().mid(1).join(QLatin1Char(' ')),
+                               .lineaDeComandos = QString::fromLocal8Bit(linea.texto),
                                .instanciaPrevia = instancia.hayOtra(),
-                               .sinPantalla = sinPantalla,
+                               .sinPantalla = !pantalla.motivo.empty(),
                                .depurar = qEnvironmentVariable("ESCLAVO_DEBUG") == QLatin1String("1")});
     FrmPrincipal principal(estacion);
     const SenalesTermino senales([&principal] { principal.detenerScript(); }, [&principal] { principal.apagar(); });

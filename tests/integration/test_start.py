@@ -4,11 +4,12 @@ import contextlib
 import os
 import signal
 import socket
+import subprocess
 import time
 import unittest
 
 from screen import Screen
-from station import Station, wait_for
+from station import BINARY, PATIENCE, Station, wait_for
 
 READ_TEN = bytes([0, 1, 0, 0, 0, 6, 1, 3, 0, 0, 0, 10])
 
@@ -20,6 +21,36 @@ class Start(unittest.TestCase):
         with Station(environment=environment) as station:
             self.assertEqual(len(station.ask(READ_TEN, 29)), 29)
             self.assertIn("no hay pantalla", station.errors())
+
+    def test_a_screen_that_cannot_be_reached_counts_as_none(self):
+        bare = {k: v for k, v in os.environ.items() if k not in ("DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM")}
+        for screen in ({"DISPLAY": ":9876"}, {"WAYLAND_DISPLAY": "wayland-9876"}, {"DISPLAY": "tonterías"},
+                       {"DISPLAY": ":9876", "QT_QPA_PLATFORM": "xcb"}):
+            with self.subTest(screen=screen), Station(environment={**bare, **screen}) as station:
+                self.assertEqual(len(station.ask(READ_TEN, 29)), 29)
+                self.assertIn("no se puede abrir la pantalla", station.errors())
+        with Station(environment={**bare, "DISPLAY": ":9876"}, arguments=["-platform", "xcb"]) as station:
+            self.assertEqual(len(station.ask(READ_TEN, 29)), 29)
+
+    def test_help_and_version_print_and_end_and_other_options_are_refused(self):
+        for option, result, printed in (("--help", 0, "Uso: esclavo-modbus"), ("-h", 0, "--version"),
+                                        ("--version", 0, "esclavo-modbus 3.")):
+            done = self.run_with(option)
+            self.assertEqual((done.returncode, done.stderr), (result, ""))
+            self.assertIn(printed, done.stdout)
+        for option in ("--veiw", "-x", "--help=1"):
+            done = self.run_with(option)
+            self.assertEqual((done.returncode, done.stdout), (2, ""))
+            self.assertIn(f"opción desconocida: {option}\nUso:", done.stderr)
+
+    @staticmethod
+    def run_with(option):
+        return subprocess.run([BINARY, option], text=True, capture_output=True, timeout=PATIENCE)
+
+    def test_the_word_view_counts_even_as_the_value_of_an_option_of_the_window_system(self):
+        with Station(config="[Trelvano]\r\nver=0\r\nPUERTO_VALOR=@PORT@\r\n",
+                     arguments=["-qwindowtitle", "Review"]) as station:
+            wait_for(lambda: station.setting("ver") == "1", "ver to become 1")
 
     def test_the_first_start_writes_the_defaults_into_the_file(self):
         with Station() as station:
