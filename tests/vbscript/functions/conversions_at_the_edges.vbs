@@ -2,7 +2,7 @@
 WScript.Echo CInt("32767"), CInt(32767.4), CInt(-32768.5), CInt("-32768"), CInt(0.5), CInt(1.5), CInt(2.5), CInt(-0.5), CInt(-1.5) '> 32767 32767 -32768 -32768 0 2 2 0 -2
 WScript.Echo CLng("2147483647"), CLng(2147483647.4), CLng(-2147483648.5), CLng("-2147483648") '> 2147483647 2147483647 -2147483648 -2147483648
 WScript.Echo CByte(255.4), CByte(-0.5), CByte("255"), CByte(254.5), CByte(True) '> 255 0 255 254 255
-WScript.Echo CCur(1.00005), CCur(1.00015), CCur(-0.00005) '> 1 1,0002 0
+WScript.Echo CCur(0.03125), CCur(0.09375), CCur(-0.03125) '> 0,0312 0,0938 -0,0312
 WScript.Echo CSng(3.4E38), CSng(1E-50), CSng("16777217") '> 3,4E+38 0 1,677722E+07
 WScript.Echo CDate("36526"), CDate(2958465.5), Year(CDate(-657434)) '> 01/01/2000 31/12/9999 12:00:00 100
 WScript.Echo TypeName(CInt(True)), CInt(True), CDbl(#1/1/2000#), CLng(#1/1/2000 18:00#), CCur(#1/1/2000#) '> Integer -1 36526 36527 36526
