@@ -4,7 +4,7 @@
 // The relays take turns in slices, so that what else the machine does falls upon all; a row is the median of the ratios
 // of neighbouring slices.
 #include "bridge/FrmConexionesPuentes.h"
-#include "platform/window/Eventos.h"
+#include "platform/window/EventosQt.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -125,7 +125,7 @@ void serveBridge(Ports ports, bool display) {
     std::array<char*, 2> argv{name.data(), nullptr};
     QApplication application(argc, argv.data());
     Reactor reactor;
-    Eventos events;
+    EventosQt events;
     QWidget principal;
     FrmConexionesPuentes window(principal, reactor, events, ports[0], ports[1]);
     QSocketNotifier notifier(reactor.descriptor(), QSocketNotifier::Read);

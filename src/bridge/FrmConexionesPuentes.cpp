@@ -1,8 +1,8 @@
 #include "bridge/FrmConexionesPuentes.h"
 
+#include "platform/events/Eventos.h"
 #include "platform/profile/Ansi.h"
 #include "platform/window/Contraste.h"
-#include "platform/window/Eventos.h"
 #include "platform/window/VistaTexto.h"
 
 #include <QCheckBox>
@@ -63,7 +63,7 @@ QTreeWidgetItem* nodo(QTreeWidgetItem* padre, const QString& clave, const QStrin
 
 FrmConexionesPuentes::FrmConexionesPuentes(QWidget& principal, Reactor& reactor, Eventos& eventos, double puerto1,
                                            double puerto2)
-    : QWidget(&principal, Qt::Window), eventos_(eventos), puente_(reactor, *this, puerto1, puerto2) {
+    : QWidget(&principal, Qt::Window), puente_(reactor, *this, eventos, puerto1, puerto2) {
     setObjectName(QStringLiteral("FrmConexionesPuentes"));
     setWindowTitle(QStringLiteral("Conexion Puente"));
     setWindowIcon(principal.windowIcon());
@@ -198,8 +198,4 @@ void FrmConexionesPuentes::puertoRechazado(Lado lado, const std::error_code& fal
                  fallo == std::errc::address_in_use      ? "está ocupado por otro programa"
                  : fallo == std::errc::permission_denied ? "sin permiso para puertos menores que 1024"
                                                          : fallo.message().c_str());
-}
-
-void FrmConexionesPuentes::dejarPasarEventos() {
-    eventos_.dejarPasarEventos();
 }

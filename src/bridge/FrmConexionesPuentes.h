@@ -35,14 +35,12 @@ private:
     void mostrar(Lado lado, std::string_view texto) override;
     void colorear(Lado lado, ColorPuerto color) override;
     void puertoRechazado(Lado lado, const std::error_code& fallo) override;
-    void dejarPasarEventos() override;
 
     void crearArbol();
     QWidget* crearMonitores();
     QWidget* crearBotones();
     void borrar();
 
-    Eventos& eventos_;
     QTreeWidget* TreeView1_;
     std::array<QTreeWidgetItem*, 2> nodosPuerto_{};
     std::array<VistaTexto*, 2> txtTramas_{};

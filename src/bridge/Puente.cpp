@@ -8,8 +8,9 @@ Puente::Extremo::Extremo(Reactor& reactor, WinsockEvents& eventos, double puerto
     socket.readWhileSending(true); // each direction flows by itself; contener() bounds what waits
 }
 
-Puente::Puente(Reactor& reactor, VentanaPuente& ventana, double puerto1, double puerto2)
-    : ventana_(ventana), lados_{Extremo(reactor, *this, puerto1), Extremo(reactor, *this, puerto2)} {}
+Puente::Puente(Reactor& reactor, VentanaPuente& ventana, Eventos& eventos, double puerto1, double puerto2)
+    : ventana_(ventana), eventos_(eventos), lados_{Extremo(reactor, *this, puerto1), Extremo(reactor, *this, puerto2)} {
+}
 
 void Puente::verificarEstado() {
     verificarLado(Lado::uno);
@@ -100,5 +101,5 @@ void Puente::mostrarBloque(Lado lado, std::span<const std::uint8_t> bloque) {
         agregarCaracteres(texto, bloque);
     }
     ventana_.mostrar(lado, texto);
-    ventana_.dejarPasarEventos();
+    eventos_.dejarPasarEventos();
 }

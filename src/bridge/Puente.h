@@ -7,6 +7,7 @@
 // what waits stays bounded.
 #pragma once
 
+#include "platform/events/Eventos.h"
 #include "platform/net/Winsock.h"
 
 #include <array>
@@ -32,7 +33,6 @@ public:
     virtual void colorear(Lado lado, ColorPuerto color) = 0;
     // The port could not be opened. Told at every failed attempt.
     virtual void puertoRechazado(Lado lado, const std::error_code& fallo) = 0;
-    virtual void dejarPasarEventos() = 0;
 
 protected:
     ~VentanaPuente() = default;
@@ -46,8 +46,9 @@ public:
     // Bytes that may wait for a slow side before the one that feeds it is no longer read.
     static constexpr std::size_t maxPendiente = 256 * 1024;
 
-    // Both are borrowed. Nothing listens before the first verificarEstado().
-    Puente(Reactor& reactor, VentanaPuente& ventana, double puerto1 = puertoLado1, double puerto2 = puertoLado2);
+    // All borrowed. Nothing listens before the first verificarEstado().
+    Puente(Reactor& reactor, VentanaPuente& ventana, Eventos& eventos, double puerto1 = puertoLado1,
+           double puerto2 = puertoLado2);
 
     // The state check, run once a second: colours both nodes, and opens the port of a side that is neither listening
     // nor connected.
@@ -86,6 +87,7 @@ private:
     void mostrarBloque(Lado lado, std::span<const std::uint8_t> bloque);
 
     VentanaPuente& ventana_;
+    Eventos& eventos_;
     std::array<Extremo, 2> lados_;
     double primerByteModbus_ = 0;
 };

@@ -16,9 +16,8 @@ public:
     std::string_view direccionRemota() const override { return socket.RemoteHostIP(); }
     bool enviar(std::span<const std::uint8_t> respuesta) override { return socket.SendData(respuesta); }
 
-    bool libre() const { return !conectada() && socket.State() != WinsockState::connecting; }
-
     Winsock socket;
+    bool libre = false; // stands in the list of the free ones
 };
 
 namespace {
@@ -48,10 +47,11 @@ std::string motivoDeRechazo(const std::error_code& fallo, const std::string& pue
 
 } // namespace
 
-Escucha::Escucha(Reactor& reactor, Peticiones& peticiones, EntornoEscucha& entorno, std::string rutaPrograma)
-    : reactor_(reactor), peticiones_(peticiones), entorno_(entorno), rutaPrograma_(std::move(rutaPrograma)),
-      WinSockEscucha_(reactor, *this) {
-    agregarLevantado();
+Escucha::Escucha(Reactor& reactor, Peticiones& peticiones, EntornoEscucha& entorno, Eventos& eventos,
+                 std::string rutaPrograma)
+    : reactor_(reactor), peticiones_(peticiones), entorno_(entorno), eventos_(eventos),
+      rutaPrograma_(std::move(rutaPrograma)), WinSockEscucha_(reactor, *this) {
+    liberar(*WinSockLevantados_[tomarLibre()]);
 }
 
 Escucha::~Escucha() = default;
@@ -90,34 +90,36 @@ void Escucha::onConnectionRequest(Winsock&, std::uint32_t requestId) {
     aceptarConexion(requestId);
 }
 
-// The walk does not stop at the first free socket: every free one is closed and asked, and all but the first are
-// refused the request, which changes nothing. A socket that got a connection while events passed keeps it.
+// The lowest free socket takes the request. Events pass when the connection stands, since a handler that runs then may
+// wait for a person; other masters come in meanwhile.
 void Escucha::aceptarConexion(std::uint32_t requestId) {
-    bool encontrado = false;
-    for (std::size_t j = 0; j < WinSockLevantados_.size(); ++j) {
-        if (!WinSockLevantados_[j]->libre())
-            continue;
-        WinSockLevantados_[j]->socket.Close();
-        entorno_.dejarPasarEventos();
-        WinSockLevantados_[j]->socket.LocalPort(0);
-        for (int vez = 0; vez < 8; ++vez)
-            entorno_.dejarPasarEventos();
-        encontrado = WinSockLevantados_[j]->socket.Accept(requestId) || encontrado;
-        asegurarFila(j);
-    }
-    if (encontrado)
-        return;
-    agregarLevantado();
-    const std::size_t nuevo = WinSockLevantados_.size() - 1;
-    WinSockLevantados_[nuevo]->socket.LocalPort(0);
-    entorno_.dejarPasarEventos();
-    WinSockLevantados_[nuevo]->socket.Accept(requestId);
-    asegurarFila(nuevo);
+    const std::size_t j = tomarLibre();
+    Levantado& levantado = *WinSockLevantados_[j];
+    levantado.socket.Close();
+    levantado.socket.LocalPort(0);
+    if (!levantado.socket.Accept(requestId))
+        liberar(levantado);
+    asegurarFila(j);
+    eventos_.dejarPasarEventos();
 }
 
-void Escucha::agregarLevantado() {
-    WinsockEvents& eventos = *this;
-    WinSockLevantados_.push_back(std::make_unique<Levantado>(reactor_, eventos, WinSockLevantados_.size()));
+// A new element where none is free.
+std::size_t Escucha::tomarLibre() {
+    if (libres_.empty()) {
+        WinsockEvents& eventos = *this;
+        WinSockLevantados_.push_back(std::make_unique<Levantado>(reactor_, eventos, WinSockLevantados_.size()));
+        return WinSockLevantados_.size() - 1;
+    }
+    const std::size_t menor = libres_.top();
+    libres_.pop();
+    WinSockLevantados_[menor]->libre = false;
+    return menor;
+}
+
+void Escucha::liberar(Levantado& levantado) {
+    if (!levantado.libre)
+        libres_.push(static_cast<std::size_t>(levantado.socket.Index()));
+    levantado.libre = true;
 }
 
 void Escucha::asegurarFila(std::size_t j) {
@@ -133,9 +135,9 @@ void Escucha::onDataArrival(Winsock& socket, std::span<const std::uint8_t> data)
 
 void Escucha::onClose(Winsock& socket) {
     socket.Close();
-    entorno_.dejarPasarEventos();
     socket.LocalPort(0);
-    entorno_.dejarPasarEventos();
+    liberar(*WinSockLevantados_[static_cast<std::size_t>(socket.Index())]);
+    eventos_.dejarPasarEventos();
 }
 
 void Escucha::refrescarConexiones() {

@@ -1,13 +1,17 @@
 // The listener and the pool of connections: takes masters in, hands their arrivals to the request handler.
 //
 // One listening socket, and a growing array of connection sockets of which element 0 exists from the start. Elements
-// are reused, never removed; an element's index is its row in the connection list. A socket that is neither connecting
-// nor connected is free.
+// are reused, the lowest free one first, and never removed; an element's index is its row in the connection list. A
+// socket is free from the moment its connection is known to have ended.
 #pragma once
 
 #include "modbus/Peticiones.h"
+#include "platform/events/Eventos.h"
 #include "platform/net/Winsock.h"
 
+#include <queue>
+
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -22,7 +26,6 @@ public:
     virtual void avisar(const std::string& motivo) = 0;       // why the port is refused (UTF-8); empty: it no longer is
     virtual void agregarFila() = 0;                           // an empty row at the end of the connection list
     virtual void mostrarFila(std::size_t fila, const std::string& ip, const std::string& estado) = 0; // row from 0
-    virtual void dejarPasarEventos() = 0;
 
 protected:
     ~EntornoEscucha() = default;
@@ -31,7 +34,8 @@ protected:
 class Escucha final : private WinsockEvents {
 public:
     // All borrowed. `rutaPrograma` is the executable, named in the advice about ports below 1024.
-    Escucha(Reactor& reactor, Peticiones& peticiones, EntornoEscucha& entorno, std::string rutaPrograma);
+    Escucha(Reactor& reactor, Peticiones& peticiones, EntornoEscucha& entorno, Eventos& eventos,
+            std::string rutaPrograma);
     ~Escucha() override;
 
     // Listens on the configured port unless it does so already, and writes the port in use back to the settings. Run
@@ -52,7 +56,8 @@ private:
     void onClose(Winsock& socket) override;
 
     void aceptarConexion(std::uint32_t requestId);
-    void agregarLevantado();
+    std::size_t tomarLibre();
+    void liberar(Levantado& levantado);
     void asegurarFila(std::size_t j);
     std::string abrirPuerto(double puerto);
     void avisar(std::string motivo);
@@ -60,9 +65,11 @@ private:
     Reactor& reactor_;
     Peticiones& peticiones_;
     EntornoEscucha& entorno_;
+    Eventos& eventos_;
     std::string rutaPrograma_;
     Winsock WinSockEscucha_;
     std::vector<std::unique_ptr<Levantado>> WinSockLevantados_;
+    std::priority_queue<std::size_t, std::vector<std::size_t>, std::greater<>> libres_; // indices, the lowest on top
     std::size_t filas_ = 0;
     double puertoEnUso_ = 0; // 0 until the first start
     std::string aviso_;

@@ -1,7 +1,7 @@
 #include "script/AutomatizacionScript.h"
 
+#include "platform/events/Eventos.h"
 #include "platform/profile/Numeros.h"
-#include "platform/window/Eventos.h"
 #include "platform/window/MsgBox.h"
 #include "registers/Palabra.h"
 #include "script/FrmEdicionCodigo.h"
@@ -27,13 +27,20 @@ AutomatizacionScript::AutomatizacionScript(Esclavos& esclavos, ConfiguracionScri
                                            const Ventana& ventana, std::chrono::milliseconds limite)
     : QObject(&ventana.principal), configuracion_(configuracion), eventos_(eventos), ventana_(ventana),
       host_(&ventana.principal, ventana.sinPantalla), codigo_(configuracion, carpetaPrograma),
-      mw_(vbs::makeObject<ObjetoMW>(esclavos, [this](double num) { ejecucion_timers(num); })), ScriptControl1_(host_),
-      ejecutor_(ScriptControl1_, codigo_, *this) {
+      mw_(vbs::makeObject<ObjetoMW>(esclavos, [this](double num) { ejecutor_.ejecucionPedidaPorScript(num); })),
+      ScriptControl1_(host_), ejecutor_(ScriptControl1_, codigo_, *this, eventos_) {
     ScriptControl1_.setTimeout(limite);
+    prepararTimers();
+    connect(&ventana_.chScript, &QCheckBox::toggled, this, &AutomatizacionScript::clicChScript);
+}
+
+void AutomatizacionScript::prepararTimers() {
     timerScript_.setObjectName(QStringLiteral("timerScript"));
     timerScript_.setTimerType(Qt::PreciseTimer);
     connect(&timerScript_, &QTimer::timeout, this, &AutomatizacionScript::alVencer);
-    connect(&ventana_.chScript, &QCheckBox::toggled, this, &AutomatizacionScript::clicChScript);
+    timerAplazada_.setObjectName(QStringLiteral("timerAplazada"));
+    timerAplazada_.setSingleShot(true);
+    connect(&timerAplazada_, &QTimer::timeout, this, &AutomatizacionScript::ejecutarScript);
 }
 
 AutomatizacionScript::~AutomatizacionScript() {
@@ -73,10 +80,12 @@ void AutomatizacionScript::clicChScript() {
 }
 
 void AutomatizacionScript::armarTimer(double periodo) {
-    if (ventana_.chScript.isChecked())
+    if (ventana_.chScript.isChecked()) {
         timerScript_.start(intervaloDeTimer(periodo));
-    else
+    } else {
         timerScript_.stop();
+        timerAplazada_.stop();
+    }
 }
 
 void AutomatizacionScript::alVencer() {
@@ -105,6 +114,6 @@ void AutomatizacionScript::mostrarResultado(bool sinError) {
     ventana_.chScript.setPalette(colores);
 }
 
-void AutomatizacionScript::dejarPasarEventos() {
-    eventos_.dejarPasarEventos();
+void AutomatizacionScript::aplazarPasada() {
+    timerAplazada_.start();
 }

@@ -67,9 +67,10 @@ private:
     // EntornoScript
     bool ejecucionActiva() const override;
     void mostrarResultado(bool sinError) override;
-    void dejarPasarEventos() override;
+    void aplazarPasada() override;
 
     void clicChScript();
+    void prepararTimers();
     void armarTimer(double periodo);
     void alVencer();
 
@@ -82,6 +83,7 @@ private:
     vbs::ScriptControl ScriptControl1_;
     EjecutorScript ejecutor_;
     QTimer timerScript_{this};
+    QTimer timerAplazada_{this}; // a pass that was put off
     QPointer<FrmEdicionCodigo> editor_;
     bool puedePasar_ = false;
 };

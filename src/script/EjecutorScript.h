@@ -1,9 +1,11 @@
 // The script runner: one pass reads the script file again and hands its text to the engine.
 //
 // Errors are swallowed; the pass is coloured by its outcome, and the last error is kept for the editor. A pass that is
-// still running when another is asked for is finished first: the other is dropped, so that slow passes never pile up.
+// asked for while one runs is dropped, so that slow passes never pile up. One that is asked for from inside a handler
+// is put off until the handler is through: the script may last, or wait for a person in a box.
 #pragma once
 
+#include "platform/events/Eventos.h"
 #include "platform/vbscript/ScriptControl.h"
 #include "script/Modulo_Codigo.h"
 
@@ -11,7 +13,7 @@ class EntornoScript {
 public:
     virtual bool ejecucionActiva() const = 0;         // chScript is ticked
     virtual void mostrarResultado(bool sinError) = 0; // the colour of chScript: green or red
-    virtual void dejarPasarEventos() = 0;
+    virtual void aplazarPasada() = 0;                 // call ejecutarScript() again from the event loop
 
 protected:
     ~EntornoScript() = default;
@@ -22,10 +24,13 @@ public:
     static constexpr double TIMER_SCRIPT = 1; // id of the script timer
 
     // All borrowed.
-    EjecutorScript(vbs::ScriptControl& motor, const Modulo_Codigo& codigo, EntornoScript& entorno);
+    EjecutorScript(vbs::ScriptControl& motor, const Modulo_Codigo& codigo, EntornoScript& entorno, Eventos& eventos);
 
     // What the program's timer callback does with every timer: a pass when `num` is exactly TIMER_SCRIPT.
     void ejecucion_timers(double num);
+
+    // The same, asked for by a script, so the engine is busy: a pass follows when it is not, but none follows a pass.
+    void ejecucionPedidaPorScript(double num);
 
     // One pass.
     void ejecutarScript();
@@ -34,9 +39,12 @@ public:
     const vbs::ScriptFailure& ultimoError() const { return ultimoError_; }
 
 private:
+    void pasar();
+
     vbs::ScriptControl& motor_;
     const Modulo_Codigo& codigo_;
     EntornoScript& entorno_;
+    Eventos& eventos_;
     vbs::ScriptFailure ultimoError_;
     bool enPasada_ = false;
 };

@@ -1,8 +1,8 @@
 #include "script/FrmEdicionCodigo.h"
 
+#include "platform/events/Eventos.h"
 #include "platform/profile/Archivos.h"
 #include "platform/profile/Numeros.h"
-#include "platform/window/Eventos.h"
 #include "platform/window/MsgBox.h"
 #include "registers/Palabra.h"
 #include "script/AyudaMW.h"

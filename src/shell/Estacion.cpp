@@ -6,7 +6,8 @@
 #include <utility>
 
 Estacion::Estacion(const std::filesystem::path& carpeta, Arranque conQue)
-    : arranque(std::move(conQue)), config(carpeta), escucha_(reactor, peticiones_, *this, arranque.rutaPrograma),
+    : arranque(std::move(conQue)), config(carpeta),
+      escucha_(reactor, peticiones_, *this, eventos, arranque.rutaPrograma),
       avisador_(reactor.descriptor(), QSocketNotifier::Read) {
     QObject::connect(&avisador_, &QSocketNotifier::activated, &avisador_, [this] { reactor.turn(); });
 }

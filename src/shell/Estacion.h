@@ -11,7 +11,7 @@
 #include "modbus/Monitores.h"
 #include "modbus/Peticiones.h"
 #include "platform/net/Reactor.h"
-#include "platform/window/Eventos.h"
+#include "platform/window/EventosQt.h"
 #include "registers/Esclavos.h"
 #include "script/AutomatizacionScript.h"
 #include "shell/ConfiguracionScriptIni.h"
@@ -73,7 +73,7 @@ public:
     const Modulo_Config config;
     Esclavos esclavos;
     Monitores monitores;
-    Eventos eventos;
+    EventosQt eventos;
     Reactor reactor;
 
 private:
@@ -85,7 +85,6 @@ private:
     void avisar(const std::string& motivo) override;
     void agregarFila() override;
     void mostrarFila(std::size_t fila, const std::string& ip, const std::string& estado) override;
-    void dejarPasarEventos() override { eventos.dejarPasarEventos(); }
 
     RelojSistema reloj_;
     Peticiones peticiones_{esclavos, monitores, reloj_};

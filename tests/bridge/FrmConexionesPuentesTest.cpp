@@ -1,7 +1,7 @@
 #include "bridge/FrmConexionesPuentes.h"
 
 #include "VentanaFalsa.h"
-#include "platform/window/Eventos.h"
+#include "platform/window/EventosQt.h"
 #include "platform/window/VistaTexto.h"
 
 #include <QCheckBox>
@@ -51,7 +51,7 @@ struct Puesto {
 
     Reactor reactor;
     QSocketNotifier avisador{reactor.descriptor(), QSocketNotifier::Read};
-    Eventos eventos;
+    EventosQt eventos;
     QWidget principal;
     std::unique_ptr<FrmConexionesPuentes> ventana = std::make_unique<FrmConexionesPuentes>(
         principal, reactor, eventos, static_cast<double>(puertoLibre()), static_cast<double>(puertoLibre()));
@@ -74,7 +74,7 @@ class TestFrmConexionesPuentes : public QObject {
 private Q_SLOTS:
     void windowIsNotShownByLoadingIt() {
         Reactor reactor;
-        Eventos eventos;
+        EventosQt eventos;
         QWidget principal;
         const FrmConexionesPuentes ventana(principal, reactor, eventos);
         QVERIFY(!ventana.isVisible());
@@ -86,7 +86,7 @@ private Q_SLOTS:
 
     void windowTakesTheIconOfTheMainWindow() {
         Reactor reactor;
-        Eventos eventos;
+        EventosQt eventos;
         QWidget principal;
         QPixmap dibujo(16, 16);
         dibujo.fill(Qt::red);
@@ -97,7 +97,7 @@ private Q_SLOTS:
 
     void treeHoldsTheConnectionAndItsPortsExpanded() {
         Reactor reactor;
-        Eventos eventos;
+        EventosQt eventos;
         QWidget principal;
         const FrmConexionesPuentes ventana(principal, reactor, eventos);
         const auto* arbol = ventana.findChild<QTreeWidget*>(QStringLiteral("TreeView1"));
@@ -257,7 +257,7 @@ private Q_SLOTS:
         WinsockEvents nadie;
         Winsock ocupante(reactor, nadie);
         QVERIFY(!ocupante.Listen());
-        Eventos eventos;
+        EventosQt eventos;
         QWidget principal;
         const FrmConexionesPuentes ventana(principal, reactor, eventos, ocupante.LocalPort(), puertoLibre());
         auto* reloj = ventana.findChild<QTimer*>(QStringLiteral("timerVerificarEstado"));

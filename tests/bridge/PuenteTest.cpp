@@ -5,7 +5,8 @@
 TEST(Puente, fixedPortsAre500And501) {
     Reactor reactor;
     VentanaFalsa ventana;
-    const Puente puente(reactor, ventana);
+    EventosFalsos eventos;
+    const Puente puente(reactor, ventana, eventos);
     EXPECT_EQ(puente.puerto(Lado::uno), 500);
     EXPECT_EQ(puente.puerto(Lado::dos), 501);
 }
@@ -14,7 +15,8 @@ TEST(Puente, nothingListensBeforeTheFirstStateCheck) {
     Reactor reactor;
     VentanaFalsa ventana;
     const std::uint16_t puerto = puertoLibre();
-    const Puente puente(reactor, ventana, puerto, puertoLibre());
+    EventosFalsos eventos;
+    const Puente puente(reactor, ventana, eventos, puerto, puertoLibre());
     EXPECT_EQ(puente.estado(Lado::uno), WinsockState::closed);
     EXPECT_EQ(puente.estado(Lado::dos), WinsockState::closed);
     EXPECT_FALSE(Peer(puerto).connected());
@@ -227,7 +229,7 @@ TEST(Puente, blocksAreShownInTheOrderOfArrivalAlthoughEventsRunBetween) {
     Banco b;
     b.ventana.conModbus = true;
     const Peer c1 = b.conectar(Lado::uno);
-    b.ventana.alPasarEventos = [&] { b.reactor.turn(); };
+    b.eventos.alPasarEventos = [&] { b.reactor.turn(); };
     std::string esperado;
     for (int i = 0; i < 50; ++i) {
         c1.send(std::string(1, static_cast<char>('0' + i % 10)));
@@ -248,7 +250,8 @@ TEST(Puente, takenPortStaysRedAndIsTriedAtEveryCheck) {
     Winsock ocupante(reactor, otro);
     ASSERT_FALSE(ocupante.Listen());
     VentanaFalsa ventana;
-    Puente puente(reactor, ventana, ocupante.LocalPort(), puertoLibre());
+    EventosFalsos eventos;
+    Puente puente(reactor, ventana, eventos, ocupante.LocalPort(), puertoLibre());
     for (int vez = 0; vez < 3; ++vez)
         puente.verificarEstado();
     EXPECT_EQ(ventana.colores[0], std::vector(3, ColorPuerto::rojo));

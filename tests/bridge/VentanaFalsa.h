@@ -1,6 +1,7 @@
 // A bridge on two free ports with a window that only records, driven by plain client sockets.
 #pragma once
 
+#include "EventosFalsos.h"
 #include "bridge/Puente.h"
 #include "platform/net/Peer.h"
 
@@ -18,10 +19,6 @@ struct VentanaFalsa final : VentanaPuente {
     void puertoRechazado(Lado lado, const std::error_code& fallo) override {
         fallos[static_cast<std::size_t>(lado)].push_back(fallo);
     }
-    void dejarPasarEventos() override {
-        if (alPasarEventos)
-            alPasarEventos();
-    }
 
     bool conEcho = false;
     bool conModbus = false;
@@ -29,7 +26,6 @@ struct VentanaFalsa final : VentanaPuente {
     std::array<std::string, 2> textos;
     std::array<std::vector<ColorPuerto>, 2> colores;
     std::array<std::vector<std::error_code>, 2> fallos;
-    std::function<void()> alPasarEventos;
 };
 
 inline std::uint16_t puertoLibre() {
@@ -71,5 +67,6 @@ struct Banco {
 
     Reactor reactor;
     VentanaFalsa ventana;
-    Puente puente{reactor, ventana, static_cast<double>(puertoLibre()), static_cast<double>(puertoLibre())};
+    EventosFalsos eventos;
+    Puente puente{reactor, ventana, eventos, static_cast<double>(puertoLibre()), static_cast<double>(puertoLibre())};
 };

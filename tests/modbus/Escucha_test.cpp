@@ -1,3 +1,4 @@
+#include "EventosFalsos.h"
 #include "modbus/Escucha.h"
 #include "tests/platform/net/Peer.h"
 
@@ -26,10 +27,6 @@ struct Ventana : EntornoEscucha {
     void mostrarFila(std::size_t fila, const std::string& ip, const std::string& estado) override {
         filas.at(fila) = {ip, estado};
     }
-    void dejarPasarEventos() override {
-        if (alPasarEventos)
-            alPasarEventos();
-    }
 
     double puerto = 0;
     double guardado = -1;
@@ -37,7 +34,6 @@ struct Ventana : EntornoEscucha {
     bool verde = false;
     std::vector<std::string> avisos;
     std::vector<Fila> filas;
-    std::function<void()> alPasarEventos;
 };
 
 struct HoraFija : Reloj {
@@ -89,7 +85,10 @@ protected:
     Monitores monitores;
     Peticiones peticiones{esclavos, monitores, reloj};
     Reactor reactor;
-    Escucha escucha{reactor, peticiones, ventana, "/opt/esclavo-modbus"};
+    EventosFalsos eventos;
+    std::unique_ptr<Escucha> dueno =
+        std::make_unique<Escucha>(reactor, peticiones, ventana, eventos, "/opt/esclavo-modbus");
+    Escucha& escucha = *dueno;
 };
 
 TEST_F(EscuchaTest, listensShowsThePortAndWritesItBack) {
@@ -158,7 +157,7 @@ TEST_F(EscuchaTest, rowKeepsItsTextUntilTheNextRefresh) {
 }
 
 TEST_F(EscuchaTest, acceptsWhileHandlersLetEventsPass) {
-    ventana.alPasarEventos = [this] { reactor.turn(); };
+    eventos.alPasarEventos = [this] { reactor.turn(); };
     escucha.levantarEscucha();
     std::vector<std::unique_ptr<Peer>> maestros;
     for (int i = 0; i < 40; ++i) {
@@ -168,6 +167,88 @@ TEST_F(EscuchaTest, acceptsWhileHandlersLetEventsPass) {
     for (auto& maestro : maestros)
         EXPECT_TRUE(runUntil(reactor, [&] { return !maestro->receive().empty(); }));
     EXPECT_EQ(escucha.conexiones(), 40U);
+}
+
+TEST_F(EscuchaTest, newMastersAreServedWhileAnAcceptWaitsForAPerson) {
+    escucha.levantarEscucha();
+    std::vector<std::unique_ptr<Peer>> dentro;
+    eventos.alPasarEventos = [&] {
+        eventos.alPasarEventos = nullptr;
+        for (int i = 0; i < 3; ++i)
+            dentro.push_back(conectar()); // as the loop of an open box would
+    };
+    const auto primero = conectar();
+    EXPECT_EQ(dentro.size(), 3U);
+    EXPECT_EQ(escucha.conexiones(), 4U);
+    EXPECT_THAT(ventana.filas, ElementsAre(conectado, conectado, conectado, conectado));
+}
+
+TEST_F(EscuchaTest, newMastersAreServedWhileACloseWaitsForAPerson) {
+    escucha.levantarEscucha();
+    auto a = conectar();
+    std::unique_ptr<Peer> nuevo;
+    eventos.alPasarEventos = [&] {
+        eventos.alPasarEventos = nullptr;
+        nuevo = conectar();
+    };
+    a.reset();
+    EXPECT_TRUE(runUntil(reactor, [&] { return nuevo != nullptr; }));
+    EXPECT_EQ(escucha.conexiones(), 1U); // the socket was free by then
+}
+
+TEST_F(EscuchaTest, eventsPassWhenTheConnectionStands) {
+    escucha.levantarEscucha();
+    std::size_t filas = 0;
+    std::string respuesta;
+    std::unique_ptr<Peer> maestro;
+    eventos.alPasarEventos = [&] {
+        eventos.alPasarEventos = nullptr;
+        filas = ventana.filas.size();
+        EXPECT_TRUE(runUntil(reactor, [&] { return !(respuesta += maestro->receive()).empty(); }));
+    };
+    maestro = std::make_unique<Peer>(puerto());
+    maestro->send(peticion);
+    EXPECT_TRUE(runUntil(reactor, [&] { return filas == 1; }));
+    EXPECT_EQ(respuesta.size(), 29U);
+}
+
+TEST_F(EscuchaTest, mayBeGoneWhenEventsHavePassedInAnAccept) {
+    escucha.levantarEscucha();
+    const Peer maestro(puerto());
+    eventos.alPasarEventos = [&] { dueno.reset(); };
+    EXPECT_TRUE(runUntil(reactor, [&] { return dueno == nullptr; }));
+    EXPECT_TRUE(runUntil(reactor, [&] { return maestro.ended(); }));
+}
+
+TEST_F(EscuchaTest, mayBeGoneWhenEventsHavePassedInAClose) {
+    escucha.levantarEscucha();
+    auto maestro = conectar();
+    eventos.alPasarEventos = [&] { dueno.reset(); };
+    maestro.reset();
+    EXPECT_TRUE(runUntil(reactor, [&] { return dueno == nullptr; }));
+}
+
+TEST_F(EscuchaTest, acceptsAtTheSameCostHoweverManySocketsAreFree) {
+    escucha.levantarEscucha();
+    constexpr std::size_t muchos = 1000;
+    std::vector<std::unique_ptr<Peer>> maestros;
+    for (std::size_t i = 0; i < muchos; ++i) {
+        maestros.push_back(std::make_unique<Peer>(puerto()));
+        ASSERT_TRUE(runUntil(reactor, [&] { return escucha.conexiones() == i + 1; }));
+    }
+    const int alCrecer = eventos.veces;
+    maestros.clear();
+    ASSERT_TRUE(runUntil(reactor, [&] {
+        escucha.refrescarConexiones();
+        return conectadas() == 0;
+    }));
+    const int alCerrar = eventos.veces - alCrecer;
+    maestros.push_back(conectar());
+    EXPECT_EQ(alCrecer, static_cast<int>(muchos));
+    EXPECT_EQ(alCerrar, static_cast<int>(muchos));
+    EXPECT_EQ(eventos.veces, alCrecer + alCerrar + 1);
+    EXPECT_EQ(escucha.conexiones(), muchos);
+    EXPECT_EQ(ventana.filas.front(), conectado);
 }
 
 TEST_F(EscuchaTest, takenPortStaysRedIsRetriedAndSaidOnce) {

@@ -1,30 +1,40 @@
 #include "script/EjecutorScript.h"
 
 #include "CarpetaTemporal.h"
+#include "EventosFalsos.h"
 #include "script/MotorConMW.h"
 
 #include <chrono>
 #include <filesystem>
 #include <functional>
 #include <gtest/gtest.h>
+#include <new>
 #include <string>
 #include <string_view>
 
 namespace {
 
-// A runner whose window only notes what it is told: "+" a green pass, "-" a red one, "e" pending events.
+// A runner whose window only notes what it is told: "+" a green pass, "-" a red one, "e" pending events,
+// ">" a pass put off.
 class Runner : public testing::Test, protected AjustesCodigo, protected EntornoScript {
 protected:
-    Runner() { station_.esclavos.crearEsclavo(1, 0, 99); }
+    Runner() {
+        station_.esclavos.crearEsclavo(1, 0, 99);
+        events_.alPasarEventos = [this] {
+            told_ += 'e';
+            if (const auto action = onEvents_)
+                action();
+        };
+    }
 
     std::filesystem::path rutaProyecto() const override { return {}; }
     bool ejecucionActiva() const override { return active_; }
-    void mostrarResultado(bool good) override { told_ += good ? '+' : '-'; }
-    void dejarPasarEventos() override {
-        told_ += 'e';
-        if (onEvents_)
-            onEvents_();
+    void mostrarResultado(bool good) override {
+        told_ += good ? '+' : '-';
+        if (onResult_)
+            onResult_();
     }
+    void aplazarPasada() override { told_ += '>'; }
 
     void script(std::string_view text) { escribirArchivo(file_, text); }
     // What the window is told by one pass.
@@ -41,8 +51,10 @@ protected:
     bool active_ = true;
     std::string told_;
     std::function<void()> onEvents_;
+    std::function<void()> onResult_;
+    EventosFalsos events_;
     Modulo_Codigo code_{*this, folder_.ruta()};
-    EjecutorScript runner_{station_.motor, code_, *this};
+    EjecutorScript runner_{station_.motor, code_, *this, events_};
 };
 
 } // namespace
@@ -140,9 +152,51 @@ TEST_F(Runner, onlyTimerOneIsAPass) {
 
 TEST_F(Runner, aPassAskedForWithinAPassIsDropped) {
     script("n = n + 1 : mw.escribir 1, 5, n");
-    onEvents_ = [this] { runner_.ejecutarScript(); };
+    onResult_ = [this] { runner_.ejecutarScript(); };
     EXPECT_EQ(pass(), "+eee");
     EXPECT_EQ(at(5), 1);
+}
+
+TEST_F(Runner, aPassThatAScriptAsksForWithinAPassIsDropped) {
+    script("n = n + 1 : mw.escribir 1, 5, n");
+    onResult_ = [this] { runner_.ejecucionPedidaPorScript(1); };
+    EXPECT_EQ(pass(), "+eee");
+    EXPECT_EQ(at(5), 1);
+}
+
+TEST_F(Runner, aPassThatAScriptAsksForOutsideAPassWaitsForItsEnd) {
+    runner_.ejecucionPedidaPorScript(1);
+    EXPECT_EQ(told_, ">");
+    runner_.ejecucionPedidaPorScript(2);
+    EXPECT_EQ(told_, ">");
+}
+
+TEST_F(Runner, aPassAskedForInsideAHandlerIsPutOff) {
+    script("mw.escribir 1, 5, 42");
+    events_.fondo = false;
+    EXPECT_EQ(pass(), ">");
+    EXPECT_EQ(at(5), 0);
+    events_.fondo = true;
+    EXPECT_EQ(pass(), "+eee");
+    EXPECT_EQ(at(5), 42);
+}
+
+TEST_F(Runner, thePassIsOverBeforeEventsPass) {
+    script("n = n + 1 : mw.escribir 1, 5, n");
+    onEvents_ = [this] {
+        onEvents_ = nullptr;
+        runner_.ejecutarScript(); // as from the loop of a box that a handler has opened
+    };
+    EXPECT_EQ(pass(), "+e+eeeee");
+    EXPECT_EQ(at(5), 2);
+}
+
+TEST_F(Runner, aPassThatIsCutShortByAnExceptionDoesNotLockTheNextOut) {
+    script("mw.escribir 1, 5, 42");
+    onResult_ = [] { throw std::bad_alloc(); };
+    EXPECT_THROW(pass(), std::bad_alloc);
+    onResult_ = nullptr;
+    EXPECT_EQ(pass(), "+eee");
 }
 
 TEST_F(Runner, theBoxUntickedDuringAPassKeepsTheNextFromRunning) {

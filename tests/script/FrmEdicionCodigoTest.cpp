@@ -5,7 +5,7 @@
 #include "CajaDeMensaje.h"
 #include "CarpetaTemporal.h"
 #include "ConfiguracionFalsa.h"
-#include "platform/window/Eventos.h"
+#include "platform/window/EventosQt.h"
 #include "script/BarraBusqueda.h"
 #include "script/EditorCodigo.h"
 
@@ -44,7 +44,7 @@ class TestFrmEdicionCodigo : public QObject {
     std::unique_ptr<QWidget> principal_;
     QCheckBox* chScript_ = nullptr;
     std::vector<bool> clics_; // of chScript
-    Eventos eventos_;
+    EventosQt eventos_;
     QPointer<FrmEdicionCodigo> frm_;
 
     std::filesystem::path archivo() const { return *carpeta_ / "codigoTrelvano.txt"; }

@@ -316,6 +316,28 @@ private Q_SLOTS:
         QCOMPARE(botones.size(), 2);
     }
 
+    // A pass is due while a master is being accepted and the accept lets events pass.
+    void newMastersAreServedWhileTheBoxOfAScriptIsOpen() {
+        EstacionConScript e("Codigo_Ejecutar=1\r\nEjecucion_Codigo_Milisegundos=10\r\n");
+        e.script("mw.escribir 1, 0, 7\r\nMsgBox \"a\"");
+        QVERIFY(e.cargar());
+        QTest::qSleep(15); // the timer is due
+        const auto primero = e.conectarMaestro();
+        int servidos = 0;
+        const AlVerCaja atender([&](QWidget& caja) {
+            for (int i = 0; i < 5; ++i) {
+                const auto maestro = e.conectarMaestro();
+                if (PrincipalDePrueba::pedir(*maestro, PrincipalDePrueba::lectura(1), 13).mid(9, 2) ==
+                    QByteArray("\0\7", 2))
+                    ++servidos;
+            }
+            e.chScript().setChecked(false);
+            QTest::keyClick(&caja, Qt::Key_Return);
+        });
+        QTRY_COMPARE(e.color(), verde);
+        QCOMPARE(servidos, 5);
+    }
+
     void slowPassWaitsAWholePeriodBeforeTheNext() {
         EstacionConScript e("Codigo_Ejecutar=1\r\nEjecucion_Codigo_Milisegundos=20\r\n");
         e.script("n = n + 1\r\nmw.escribir 1, 0, n\r\nt = Timer\r\nDo While Timer - t < 0.06\r\nLoop");

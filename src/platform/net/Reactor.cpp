@@ -152,6 +152,10 @@ std::uint32_t Reactor::offer(Incoming incoming) {
     return lastRequestId_;
 }
 
+bool Reactor::offered(std::uint32_t requestId) const {
+    return std::ranges::find(offers_, requestId, &Offer::requestId) != offers_.end();
+}
+
 std::optional<Reactor::Incoming> Reactor::take(std::uint32_t requestId) {
     const auto found = std::ranges::find(offers_, requestId, &Offer::requestId);
     if (found == offers_.end())

@@ -82,6 +82,8 @@ public:
 
     /// Keeps a connection until take() or withdraw(); returns its request number, never used twice and never 0.
     std::uint32_t offer(Incoming incoming);
+    /// Whether the connection of that number is still kept.
+    bool offered(std::uint32_t requestId) const;
     /// The connection of that number, once.
     std::optional<Incoming> take(std::uint32_t requestId);
     /// Closes the connection of that number unless it was taken.

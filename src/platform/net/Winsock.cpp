@@ -162,7 +162,7 @@ void Winsock::onReadable() {
         readArrival();
     else if (state_ != WinsockState::listening)
         endConnection(state_); // a send has found the connection broken
-    else if (reporting_)
+    else if (reactor_.offered(reported_))
         reactor_.change(watch_, Reactor::Interest::none); // until the request that is being reported is decided
     else
         takeRequests();
@@ -208,13 +208,13 @@ bool Winsock::reportRequest(Descriptor connection, std::uint32_t address) {
     Reactor& reactor = reactor_;
     const Reactor::Watch self = watch_;
     remoteHostIP_ = dottedText(address);
-    reporting_ = true;
     const std::uint32_t requestId = reactor.offer({std::move(connection), address});
+    const std::uint32_t outer = std::exchange(reported_, requestId);
     events_.onConnectionRequest(*this, requestId);
     reactor.withdraw(requestId);
     if (!reactor.alive(self))
         return false;
-    reporting_ = false;
+    reported_ = outer;
     reactor.change(self, Reactor::Interest::read);
     return true;
 }
@@ -265,7 +265,8 @@ void Winsock::release() {
     watch_ = {};
     queue_.clear();
     arrival_ = {};
-    kernelFull_ = streamEnded_ = reporting_ = false;
+    kernelFull_ = streamEnded_ = false;
+    reported_ = 0;
     if (descriptor_) {
         descriptor_.reset();
         reactor_.descriptorFreed();

@@ -31,7 +31,8 @@ class WinsockEvents {
 public:
     virtual ~WinsockEvents() = default;
     /// A peer wants to connect to the listening `socket`: Accept(requestId) on any closed socket of the reactor before
-    /// this returns, or the connection is closed. While this runs, the same listener reports no other request.
+    /// this returns, or the connection is closed. Until it is accepted the same listener reports no other request; a
+    /// handler that runs another turn after that may be called again inside itself.
     virtual void onConnectionRequest(Winsock& socket, std::uint32_t requestId);
     /// One arrival: what one read of the connection gave, 1 to 65,536 bytes, valid until this returns. With another
     /// turn within, a further arrival of the same socket may be reported inside this one.
@@ -130,9 +131,9 @@ private:
     std::string remoteHostIP_;
     std::span<const std::uint8_t> arrival_;
     SendQueue queue_;
-    bool kernelFull_ = false;  // bytes wait until the kernel reports room
-    bool streamEnded_ = false; // the peer has closed its side, and bytes still wait for it
-    bool reporting_ = false;   // a connection request is being reported
+    bool kernelFull_ = false;    // bytes wait until the kernel reports room
+    bool streamEnded_ = false;   // the peer has closed its side, and bytes still wait for it
+    std::uint32_t reported_ = 0; // the connection request that is being reported, the innermost
     bool paused_ = false;
     bool readWhileSending_ = false;
 };

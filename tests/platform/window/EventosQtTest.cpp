@@ -1,8 +1,11 @@
-#include "platform/window/Eventos.h"
+#include "platform/window/EventosQt.h"
 
 #include <QElapsedTimer>
+#include <QEventLoop>
 #include <QTest>
 #include <QTimer>
+
+using namespace std::chrono_literals;
 
 namespace {
 
@@ -33,7 +36,7 @@ private:
 
 } // namespace
 
-class TestEventos : public QObject {
+class TestEventosQt : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -42,13 +45,13 @@ private Q_SLOTS:
         QTimer reloj;
         connect(&reloj, &QTimer::timeout, this, [&corrio] { corrio = true; });
         reloj.start(0);
-        Eventos eventos;
+        EventosQt eventos;
         eventos.dejarPasarEventos();
         QVERIFY(corrio);
     }
 
     void nothingPendingIsNoWait() {
-        Eventos eventos;
+        EventosQt eventos;
         QElapsedTimer reloj;
         reloj.start();
         eventos.dejarPasarEventos();
@@ -60,17 +63,63 @@ private Q_SLOTS:
         QTimer reloj;
         connect(&reloj, &QTimer::timeout, this, [&turnos] { ++turnos; });
         reloj.start(0);
-        Eventos eventos;
-        QElapsedTimer transcurrido;
-        transcurrido.start();
-        for (int i = 0; i < 100'000; ++i)
+        static EventosQt::Instante hora;
+        hora = EventosQt::Instante(1h);
+        EventosQt eventos([] { return hora; });
+        for (int i = 0; i < 100; ++i)
             eventos.dejarPasarEventos();
-        QVERIFY(turnos >= 1);
-        QVERIFY(turnos <= transcurrido.elapsed() + 2);
+        QCOMPARE(turnos, 1);
+        hora += EventosQt::pausa;
+        for (int i = 0; i < 100; ++i)
+            eventos.dejarPasarEventos();
+        QCOMPARE(turnos, 2);
+    }
+
+    void insideItIsNotTheBottom() {
+        EventosQt eventos;
+        bool dentro = true;
+        QTimer::singleShot(0, this, [&] { dentro = eventos.enElFondo(); });
+        QVERIFY(eventos.enElFondo());
+        eventos.dejarPasarEventos();
+        QVERIFY(!dentro);
+        QVERIFY(eventos.enElFondo());
+    }
+
+    void theLoopOfABoxThatWaitsInsideItIsABottomAgain() {
+        EventosQt eventos;
+        bool enLaCaja = false;
+        bool despues = true;
+        QTimer::singleShot(0, this, [&] {
+            QEventLoop caja;
+            QTimer::singleShot(0, &caja, [&] {
+                enLaCaja = eventos.enElFondo();
+                caja.quit();
+            });
+            caja.exec();
+            despues = eventos.enElFondo();
+        });
+        eventos.dejarPasarEventos();
+        QVERIFY(enLaCaja);
+        QVERIFY(!despues);
+    }
+
+    void insideABoxTooItIsNotTheBottom() {
+        EventosQt eventos;
+        bool dentro = true;
+        QEventLoop caja;
+        QTimer::singleShot(0, &caja, [&] {
+            QTimer::singleShot(0, &caja, [&] {
+                dentro = eventos.enElFondo();
+                caja.quit();
+            });
+            eventos.dejarPasarEventos();
+        });
+        caja.exec();
+        QVERIFY(!dentro);
     }
 
     void itCanBeCalledByAHandlerThatItStarted() {
-        Eventos eventos;
+        EventosQt eventos;
         int nivel = 0;
         int mayor = 0;
         QTimer reloj;
@@ -92,14 +141,14 @@ private Q_SLOTS:
     }
 
     void handlersDoNotPileUp() {
-        Eventos eventos;
+        EventosQt eventos;
         Apilador apilador(eventos);
         apilador.llamar();
         eventos.dejarPasarEventos();
-        QCOMPARE(apilador.mayor, Eventos::maxNivel);
+        QCOMPARE(apilador.mayor, EventosQt::maxNivel);
         QCOMPARE(apilador.nivel, 0);
     }
 };
 
-QTEST_MAIN(TestEventos)
-#include "EventosTest.moc"
+QTEST_MAIN(TestEventosQt)
+#include "EventosQtTest.moc"

@@ -1,0 +1,25 @@
+#include "platform/window/EventosQt.h"
+
+#include <QCoreApplication>
+#include <QScopeGuard>
+#include <QThread>
+
+#include <utility>
+
+void EventosQt::dejarPasarEventos() {
+    if (nivel_ >= maxNivel || ahora_() - ultima_ < pausa)
+        return;
+    const int anterior = std::exchange(bucle_, QThread::currentThread()->loopLevel());
+    ++nivel_;
+    const auto salida = qScopeGuard([this, anterior] {
+        --nivel_;
+        bucle_ = anterior;
+        ultima_ = ahora_();
+    });
+    QCoreApplication::processEvents();
+}
+
+// A box that was opened inside runs a loop of its own.
+bool EventosQt::enElFondo() const {
+    return nivel_ == 0 || QThread::currentThread()->loopLevel() > bucle_;
+}
