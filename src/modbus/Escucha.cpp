@@ -76,6 +76,11 @@ std::string Escucha::abrirPuerto(double puerto) {
         return "El puerto " + texto + " no es válido: escriba en PUERTO_VALOR un número de 1 a 65535.";
     WinSockEscucha_.LocalPort(static_cast<std::uint16_t>(entero));
     const std::error_code fallo = WinSockEscucha_.Listen();
+    if (!fallo)
+        entorno_.anunciar("escucha en el puerto " + std::to_string(WinSockEscucha_.LocalPort()));
+    if (entorno_.esDelPuente(entero) && (!fallo || fallo == std::errc::address_in_use))
+        return "El puerto " + texto + " es del puente de esta estación" + (fallo ? "" : ", que se queda sin él") +
+               ": escriba otro en PUERTO_VALOR.";
     return fallo ? motivoDeRechazo(fallo, texto, rutaPrograma_) : std::string();
 }
 

@@ -23,7 +23,9 @@ public:
     virtual void guardarPuerto(double puerto) = 0;
     virtual void mostrarPuerto(const std::string& texto) = 0; // caption of LblPuertoLocal
     virtual void mostrarEscuchando(bool escuchando) = 0;      // its colour
-    virtual void avisar(const std::string& motivo) = 0;       // why the port is refused (UTF-8); empty: it no longer is
+    virtual bool esDelPuente(double puerto) const = 0;        // the bridge of this station uses that port
+    virtual void avisar(const std::string& motivo) = 0;       // what is wrong with the port (UTF-8); empty: nothing is
+    virtual void anunciar(const std::string& texto) = 0;      // the station has begun to listen (UTF-8)
     virtual void agregarFila() = 0;                           // an empty row at the end of the connection list
     virtual void mostrarFila(std::size_t fila, const std::string& ip, const std::string& estado) = 0; // row from 0
 
@@ -39,7 +41,8 @@ public:
     ~Escucha() override;
 
     // Listens on the configured port unless it does so already, and writes the port in use back to the settings. Run
-    // at start and on every tick of TimerCambioPuerto. A refused port is tried again by the next call.
+    // at start and on every tick of TimerCambioPuerto. A refused port is tried again by the next call. A port of the
+    // bridge is listened on where it is free, with a notice.
     void levantarEscucha();
 
     // Brings the rows of the connection list and the colour of the port label up to date.

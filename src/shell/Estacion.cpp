@@ -1,5 +1,6 @@
 #include "shell/Estacion.h"
 
+#include "bridge/Puente.h"
 #include "registers/Palabra.h"
 
 #include <cstdio>
@@ -48,6 +49,14 @@ void Estacion::mostrarPuerto(const std::string& texto) {
 void Estacion::mostrarEscuchando(bool escuchando) {
     if (ventana_ != nullptr)
         ventana_->mostrarEscuchando(escuchando);
+}
+
+bool Estacion::esDelPuente(double puerto) const {
+    return puerto == Puente::puertoLado1 || puerto == Puente::puertoLado2;
+}
+
+void Estacion::anunciar(const std::string& texto) {
+    std::fprintf(stderr, "esclavo-modbus: %s\n", texto.c_str());
 }
 
 void Estacion::avisar(const std::string& motivo) {

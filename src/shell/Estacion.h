@@ -82,7 +82,9 @@ private:
     void guardarPuerto(double puerto) override;
     void mostrarPuerto(const std::string& texto) override;
     void mostrarEscuchando(bool escuchando) override;
+    bool esDelPuente(double puerto) const override;
     void avisar(const std::string& motivo) override;
+    void anunciar(const std::string& texto) override;
     void agregarFila() override;
     void mostrarFila(std::size_t fila, const std::string& ip, const std::string& estado) override;
 

@@ -23,6 +23,8 @@ struct Ventana : EntornoEscucha {
     void mostrarPuerto(const std::string& texto) override { etiqueta = texto; }
     void mostrarEscuchando(bool valor) override { verde = valor; }
     void avisar(const std::string& motivo) override { avisos.push_back(motivo); }
+    bool esDelPuente(double p) const override { return p == puertoDelPuente; }
+    void anunciar(const std::string& texto) override { anuncios.push_back(texto); }
     void agregarFila() override { filas.emplace_back(); }
     void mostrarFila(std::size_t fila, const std::string& ip, const std::string& estado) override {
         filas.at(fila) = {ip, estado};
@@ -32,7 +34,9 @@ struct Ventana : EntornoEscucha {
     double guardado = -1;
     std::string etiqueta;
     bool verde = false;
+    double puertoDelPuente = 500;
     std::vector<std::string> avisos;
+    std::vector<std::string> anuncios;
     std::vector<Fila> filas;
 };
 
@@ -264,11 +268,43 @@ TEST_F(EscuchaTest, takenPortStaysRedIsRetriedAndSaidOnce) {
     EXPECT_FALSE(escucha.escuchando());
     EXPECT_FALSE(ventana.verde);
     EXPECT_THAT(ventana.avisos, ElementsAre(HasSubstr("ocupado por otro programa")));
+    EXPECT_THAT(ventana.anuncios, IsEmpty());
 
     ocupante.Close();
     escucha.levantarEscucha();
     EXPECT_TRUE(escucha.escuchando());
     EXPECT_EQ(ventana.avisos.back(), "");
+    EXPECT_THAT(ventana.anuncios, ElementsAre("escucha en el puerto " + std::to_string(puerto())));
+}
+
+TEST_F(EscuchaTest, announcesThePortOnceAtTheStartAndAgainWhenItMoves) {
+    escucha.levantarEscucha();
+    escucha.levantarEscucha();
+    const std::string primero = "escucha en el puerto " + std::to_string(puerto());
+    EXPECT_THAT(ventana.anuncios, ElementsAre(primero));
+    ventana.puerto = puertoLibre();
+    escucha.levantarEscucha();
+    EXPECT_THAT(ventana.anuncios, ElementsAre(primero, "escucha en el puerto " + std::to_string(puerto())));
+}
+
+TEST_F(EscuchaTest, aPortOfTheBridgeIsToldAsWhatItIs) {
+    Reactor otro;
+    Recorder nadie;
+    Winsock puente(otro, nadie);
+    puente.LocalPort(puerto());
+    ASSERT_FALSE(puente.Listen());
+    ventana.puertoDelPuente = ventana.puerto;
+    escucha.levantarEscucha();
+    EXPECT_FALSE(escucha.escuchando());
+    const std::string numero = std::to_string(puerto());
+    EXPECT_THAT(ventana.avisos,
+                ElementsAre("El puerto " + numero + " es del puente de esta estación: escriba otro en PUERTO_VALOR."));
+    puente.Close();
+    escucha.levantarEscucha();
+    EXPECT_TRUE(escucha.escuchando());
+    EXPECT_EQ(ventana.avisos.back(),
+              "El puerto " + numero +
+                  " es del puente de esta estación, que se queda sin él: escriba otro en PUERTO_VALOR.");
 }
 
 TEST_F(EscuchaTest, editedPortMovesTheListener) {

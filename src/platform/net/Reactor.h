@@ -9,6 +9,7 @@
 #include <memory>
 #include <optional>
 #include <span>
+#include <string>
 #include <sys/epoll.h>
 #include <vector>
 
@@ -45,7 +46,7 @@ public:
     /// A connection that was taken from the kernel and that nobody has accepted yet.
     struct Incoming {
         Descriptor descriptor;
-        std::uint32_t address = 0; ///< IPv4 address of the peer, network byte order
+        std::string address; ///< of the peer, as text
     };
 
     static constexpr std::chrono::microseconds turnBudget{4000};

@@ -11,7 +11,7 @@
 namespace {
 
 constexpr int listenBacklog = 4096;
-constexpr int requestsPerTurn = 16;
+constexpr int requestsPerTurn = 64;
 constexpr std::size_t gatherLimit = 65536;
 
 void setOption(const Descriptor& socket, int level, int option, int value) {
@@ -28,14 +28,47 @@ void setListenerOptions(const Descriptor& socket) {
     setOption(socket, IPPROTO_TCP, TCP_KEEPCNT, 6);
 }
 
-std::string dottedText(std::uint32_t address) {
-    std::array<char, INET_ADDRSTRLEN> text{};
-    inet_ntop(AF_INET, &address, text.data(), text.size());
+/// An IPv4 peer of an IPv6 listener bears its address in the last four bytes.
+std::string addressText(const sockaddr_storage& peer) {
+    std::array<char, INET6_ADDRSTRLEN> text{};
+    if (peer.ss_family == AF_INET) {
+        inet_ntop(AF_INET, &reinterpret_cast<const sockaddr_in&>(peer).sin_addr, text.data(), text.size());
+    } else {
+        const in6_addr& address = reinterpret_cast<const sockaddr_in6&>(peer).sin6_addr;
+        if (IN6_IS_ADDR_V4MAPPED(&address))
+            inet_ntop(AF_INET, &address.s6_addr[12], text.data(), text.size());
+        else
+            inet_ntop(AF_INET6, &address, text.data(), text.size());
+    }
     return text.data();
 }
 
 std::error_code lastError() {
     return {errno, std::system_category()};
+}
+
+sockaddr_in6 anyIPv6(std::uint16_t port) {
+    sockaddr_in6 local{};
+    local.sin6_family = AF_INET6;
+    local.sin6_addr = in6addr_any;
+    local.sin6_port = htons(port);
+    return local;
+}
+
+sockaddr_in anyIPv4(std::uint16_t port) {
+    sockaddr_in local{};
+    local.sin_family = AF_INET;
+    local.sin_addr.s_addr = htonl(INADDR_ANY);
+    local.sin_port = htons(port);
+    return local;
+}
+
+template <typename Address>
+std::error_code bindTo(const Descriptor& socket, const Address& local) {
+    setListenerOptions(socket);
+    if (bind(socket.number(), reinterpret_cast<const sockaddr*>(&local), sizeof local) != 0)
+        return lastError();
+    return {};
 }
 
 /// The call may succeed later on the same connection.
@@ -64,11 +97,12 @@ void Winsock::Close() {
 }
 
 std::uint16_t Winsock::LocalPort() const {
-    sockaddr_in local{};
+    sockaddr_storage local{};
     socklen_t size = sizeof local;
-    if (descriptor_ && getsockname(descriptor_.number(), reinterpret_cast<sockaddr*>(&local), &size) == 0)
-        return ntohs(local.sin_port);
-    return localPort_;
+    if (!descriptor_ || getsockname(descriptor_.number(), reinterpret_cast<sockaddr*>(&local), &size) != 0)
+        return localPort_;
+    return ntohs(local.ss_family == AF_INET ? reinterpret_cast<const sockaddr_in&>(local).sin_port
+                                            : reinterpret_cast<const sockaddr_in6&>(local).sin6_port);
 }
 
 std::error_code Winsock::Listen() {
@@ -81,19 +115,27 @@ std::error_code Winsock::Listen() {
 }
 
 std::error_code Winsock::openListener() {
-    descriptor_ = Descriptor(socket(AF_INET, SOCK_STREAM | SOCK_NONBLOCK | SOCK_CLOEXEC, 0));
-    if (!descriptor_)
-        return lastError();
-    setListenerOptions(descriptor_);
-    sockaddr_in local{};
-    local.sin_family = AF_INET;
-    local.sin_addr.s_addr = htonl(INADDR_ANY);
-    local.sin_port = htons(localPort_);
-    if (bind(descriptor_.number(), reinterpret_cast<sockaddr*>(&local), sizeof local) != 0 ||
-        listen(descriptor_.number(), listenBacklog) != 0)
+    if (const std::error_code failure = bindToPort())
+        return failure;
+    if (listen(descriptor_.number(), listenBacklog) != 0)
         return lastError();
     watch_ = reactor_.add(descriptor_.number(), *this, Reactor::Interest::read);
     return reactor_.alive(watch_) ? std::error_code() : lastError();
+}
+
+/// One IPv6 socket takes both kinds of peers; where the system knows no IPv6, or has no address of it, IPv4 alone.
+std::error_code Winsock::bindToPort() {
+    descriptor_ = Descriptor(socket(AF_INET6, SOCK_STREAM | SOCK_NONBLOCK | SOCK_CLOEXEC, 0));
+    if (descriptor_) {
+        setOption(descriptor_, IPPROTO_IPV6, IPV6_V6ONLY, 0);
+        const std::error_code failure = bindTo(descriptor_, anyIPv6(localPort_));
+        if (failure != std::errc::address_not_available)
+            return failure;
+    } else if (errno != EAFNOSUPPORT) {
+        return lastError();
+    }
+    descriptor_ = Descriptor(socket(AF_INET, SOCK_STREAM | SOCK_NONBLOCK | SOCK_CLOEXEC, 0));
+    return descriptor_ ? bindTo(descriptor_, anyIPv4(localPort_)) : lastError();
 }
 
 bool Winsock::Accept(std::uint32_t requestId) {
@@ -108,7 +150,7 @@ bool Winsock::Accept(std::uint32_t requestId) {
         return false;
     }
     descriptor_ = std::move(incoming->descriptor);
-    remoteHostIP_ = dottedText(incoming->address);
+    remoteHostIP_ = std::move(incoming->address);
     paused_ = false;
     state_ = WinsockState::connected;
     return true;
@@ -188,7 +230,7 @@ void Winsock::onNestedTurn() {
 
 void Winsock::takeRequests() {
     for (int count = 0; count < requestsPerTurn; ++count) {
-        sockaddr_in peer{};
+        sockaddr_storage peer{};
         socklen_t size = sizeof peer;
         Descriptor connection(
             accept4(descriptor_.number(), reinterpret_cast<sockaddr*>(&peer), &size, SOCK_NONBLOCK | SOCK_CLOEXEC));
@@ -198,17 +240,17 @@ void Winsock::takeRequests() {
                 reactor_.waitForDescriptor(watch_);
             return;
         }
-        if (!reportRequest(std::move(connection), peer.sin_addr.s_addr))
+        if (!reportRequest(std::move(connection), addressText(peer)))
             return;
     }
 }
 
 /// Returns whether the listener still listens.
-bool Winsock::reportRequest(Descriptor connection, std::uint32_t address) {
+bool Winsock::reportRequest(Descriptor connection, std::string address) {
     Reactor& reactor = reactor_;
     const Reactor::Watch self = watch_;
-    remoteHostIP_ = dottedText(address);
-    const std::uint32_t requestId = reactor.offer({std::move(connection), address});
+    remoteHostIP_ = address;
+    const std::uint32_t requestId = reactor.offer({std::move(connection), std::move(address)});
     const std::uint32_t outer = std::exchange(reported_, requestId);
     events_.onConnectionRequest(*this, requestId);
     reactor.withdraw(requestId);

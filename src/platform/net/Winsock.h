@@ -43,7 +43,8 @@ public:
     virtual void onSendComplete(Winsock& socket);
 };
 
-/// The socket control: a TCP socket over IPv4 that listens or serves one accepted connection. Operations that bear a
+/// The socket control: a TCP socket that listens or serves one accepted connection, over IPv4 and, where the system
+/// has it, IPv6. Operations that bear a
 /// capital letter are the documented ones of the control; the others are additions. It never blocks.
 ///
 ///     Winsock listener(reactor, events);
@@ -65,7 +66,8 @@ public:
     WinsockState State() const { return state_; }
 
     /// Ends listening or the connection and makes the socket closed, from any state. What the kernel has taken is still
-    /// delivered; what it has not is dropped. No event is reported.
+    /// delivered, unless the peer has sent what was not read: then the system ends with a reset. The rest is dropped.
+    /// No event is reported.
     void Close();
 
     /// Sets the port for the next Listen; 0 = any free one.
@@ -82,7 +84,8 @@ public:
     /// watch it.
     bool Accept(std::uint32_t requestId);
 
-    /// Dotted text of the last peer: of the connection, also after it ended; of a listener, who requested last.
+    /// Address of the last peer as text, an IPv4 one dotted: of the connection, also after it ended; of a listener, who
+    /// requested last.
     const std::string& RemoteHostIP() const { return remoteHostIP_; }
 
     /// The arrival that is being reported; empty at any other time and after Close.
@@ -111,8 +114,9 @@ private:
     void onNestedTurn() override;
 
     std::error_code openListener();
+    std::error_code bindToPort();
     void takeRequests();
-    bool reportRequest(Descriptor connection, std::uint32_t address);
+    bool reportRequest(Descriptor connection, std::string address);
     void readArrival();
     void reportArrival(std::span<const std::uint8_t> data);
     std::size_t sendNow(std::span<const std::uint8_t> data);

@@ -5,8 +5,10 @@
 #include <fcntl.h>
 #include <gtest/gtest.h>
 #include <memory>
+#include <netinet/in.h>
 #include <optional>
 #include <sys/resource.h>
+#include <sys/socket.h>
 #include <system_error>
 
 using WinsockState::closed;
@@ -64,6 +66,71 @@ TEST(Listener, aTakenPortIsRefusedWithItsCause) {
     station.listener.Close();
     EXPECT_FALSE(second.Listen());
     EXPECT_EQ(second.State(), listening);
+}
+
+/// Whether this machine has an IPv6 loopback.
+bool hasIPv6() {
+    const Descriptor probe(socket(AF_INET6, SOCK_STREAM | SOCK_CLOEXEC, 0));
+    sockaddr_in6 address{};
+    address.sin6_family = AF_INET6;
+    address.sin6_addr = in6addr_loopback;
+    return bind(probe.number(), reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0;
+}
+
+TEST(Listener, takesPeersOverIPv6AsWellAsIPv4) {
+    if (!hasIPv6())
+        GTEST_SKIP() << "no IPv6 here";
+    Station station;
+    const Peer peer = Peer::overIPv6(station.listener.LocalPort());
+    ASSERT_TRUE(peer.connected());
+    EXPECT_TRUE(runUntil(station.reactor, [&] { return station.connection.State() == connected; }));
+    EXPECT_EQ(station.connection.RemoteHostIP(), "::1");
+    EXPECT_EQ(station.connection.LocalPort(), station.listener.LocalPort());
+    station.connection.Close();
+    const Peer old = station.connect();
+    EXPECT_EQ(station.connection.RemoteHostIP(), "127.0.0.1");
+}
+
+TEST(Listener, aPortTakenOverIPv4AloneIsRefused) {
+    const Descriptor other(socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0));
+    sockaddr_in address{};
+    address.sin_family = AF_INET;
+    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+    socklen_t size = sizeof address;
+    ASSERT_EQ(bind(other.number(), reinterpret_cast<sockaddr*>(&address), size), 0);
+    ASSERT_EQ(listen(other.number(), 1), 0);
+    ASSERT_EQ(getsockname(other.number(), reinterpret_cast<sockaddr*>(&address), &size), 0);
+    Station station;
+    station.listener.LocalPort(ntohs(address.sin_port));
+    EXPECT_EQ(station.listener.Listen(), std::errc::address_in_use);
+}
+
+TEST(Listener, isNotStarvedByLoadedConnections) {
+    Station station;
+    constexpr std::size_t loaded = 400;
+    std::vector<std::unique_ptr<Winsock>> sockets;
+    std::vector<Peer> peers;
+    station.events.request = [&](Winsock&, std::uint32_t requestId) {
+        sockets.push_back(std::make_unique<Winsock>(station.reactor, station.events, static_cast<int>(sockets.size())));
+        EXPECT_TRUE(sockets.back()->Accept(requestId));
+    };
+    std::size_t served = 0;
+    station.events.arrival = [&](Winsock& socket, auto) {
+        ++served;
+        peers[static_cast<std::size_t>(socket.Index())].send("again"); // always ready
+    };
+    for (std::size_t i = 0; i < loaded; ++i) {
+        peers.emplace_back(station.listener.LocalPort());
+        ASSERT_TRUE(runUntil(station.reactor, [&] { return sockets.size() == i + 1; }));
+    }
+    for (const Peer& peer : peers)
+        peer.send("first");
+    station.reactor.turn();
+    for (int i = 0; i < 50; ++i)
+        peers.emplace_back(station.listener.LocalPort());
+    served = 0;
+    EXPECT_TRUE(runUntil(station.reactor, [&] { return sockets.size() == loaded + 50; }));
+    EXPECT_LE(served, 2 * loaded); // all of them within two rounds
 }
 
 TEST(Listener, listensAgainOnThePortOfAnEstablishedConnection) {

@@ -18,6 +18,17 @@ Peer::Peer(std::uint16_t port, int receiveBuffer) : descriptor_(::socket(AF_INET
     connected_ = ::connect(descriptor_.number(), reinterpret_cast<sockaddr*>(&address), sizeof address) == 0;
 }
 
+Peer Peer::overIPv6(std::uint16_t port) {
+    Peer peer;
+    peer.descriptor_ = Descriptor(::socket(AF_INET6, SOCK_STREAM | SOCK_CLOEXEC, 0));
+    sockaddr_in6 address{};
+    address.sin6_family = AF_INET6;
+    address.sin6_addr = in6addr_loopback;
+    address.sin6_port = htons(port);
+    peer.connected_ = ::connect(peer.descriptor_.number(), reinterpret_cast<sockaddr*>(&address), sizeof address) == 0;
+    return peer;
+}
+
 void Peer::send(std::string_view data) const {
     while (!data.empty()) {
         const ssize_t count = ::send(descriptor_.number(), data.data(), data.size(), MSG_NOSIGNAL);

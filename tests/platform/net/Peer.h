@@ -20,6 +20,9 @@ public:
     /// kernel fills quickly.
     explicit Peer(std::uint16_t port, int receiveBuffer = 0);
 
+    /// Connects to ::1 instead.
+    static Peer overIPv6(std::uint16_t port);
+
     bool connected() const { return connected_; }
     /// Sends all of it, blocking.
     void send(std::string_view data) const;
@@ -35,6 +38,8 @@ public:
     void close() { descriptor_.reset(); }
 
 private:
+    Peer() = default;
+
     Descriptor descriptor_;
     bool connected_ = false;
 };
