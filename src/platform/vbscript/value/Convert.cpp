@@ -139,14 +139,9 @@ std::optional<double> textAsDate(Context& context, std::u16string_view text) {
 double toDate(Context& context, const Value& value) {
     const Value& v = value.deref();
     if (v.isString()) {
-        auto date = textAsDate(context, v.text());
-        if (!date) {
-            date = parseNumber(v.text(), context.locale());
+        if (const auto date = textAsDate(context, v.text())) {
+            return *date;
         }
-        if (!date) {
-            raise(ErrorNumber::TypeMismatch);
-        }
-        return *date;
     }
     if (v.isObject()) {
         return toDate(context, context.defaultValue(v));
