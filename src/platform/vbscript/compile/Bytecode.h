@@ -87,7 +87,7 @@ enum class Store : std::uint8_t { Raw = 0, Let = 1, Set = 2, Discard = 3 };
     OP(UnlessLessEqual)                                                                                                \
     OP(UnlessGreaterEqual)                                                                                             \
     OP(Back)           /* J, at the end of a loop: polls */                                                            \
-    OP(ForPrepare)     /* A variable, B limit, B+1 step; J past the loop if it does not run */                         \
+    OP(ForPrepare)     /* A variable, B limit, B+1 step, B+2 start; J past the loop if it does not run */              \
     OP(ForLoop)        /* A variable, B limit, B+1 step; J to the body while it runs */                                \
     OP(EachPrepare)    /* A = iterator over B */                                                                       \
     OP(EachNext)       /* A = next element of iterator B and J to the body, if there is one */                         \

@@ -176,6 +176,7 @@ private:
     void statement(const Stmt& s);
     void ifStatement(const Stmt& s);
     void selectStatement(const Stmt& s);
+    Operand counterOf(Symbol symbol, Operand instead);
     void forStatement(const Stmt& s);
     void forEachStatement(const Stmt& s);
     void whileStatement(const Stmt& s);

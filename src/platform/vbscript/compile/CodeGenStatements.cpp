@@ -125,31 +125,48 @@ void CodeGen::selectStatement(const Stmt& s) {
     m_hidden = hidden;
 }
 
+// The variable that a loop assigns. What cannot be assigned fails here, and `instead` takes its place.
+Operand CodeGen::counterOf(Symbol symbol, Operand instead) {
+    const Resolved r = resolve(symbol);
+    if (r.kind == Resolved::Kind::Unknown) {
+        if (m_scope.ast.optionExplicit) {
+            emit(encode(Opcode::CheckDefined, 0, 0, r.operand));
+        }
+        return r.operand;
+    }
+    if (r.kind != Resolved::Kind::Variable || isFixedArray(symbol)) {
+        raiseAtRun(r.kind == Resolved::Kind::Variable ? ErrorNumber::TypeMismatch : ErrorNumber::IllegalAssignment,
+                   symbol);
+        return instead;
+    }
+    return r.operand;
+}
+
 void CodeGen::forStatement(const Stmt& s) {
     const std::size_t hiddenMark = m_hidden;
     const Operand limit = newHidden();
     const Operand step = newHidden();
+    const Operand start = newHidden();
     if (m_decl.resumesNext) {
-        emit(encode(Opcode::Clear, limit)); // Next after a failed header finds a loop that was never set up
-        emit(encode(Opcode::Clear, step));
+        emit(encode(Opcode::Clear, step)); // Next after a failed header finds a loop that was never set up
     }
-    assign(s.target, s.value, Store::Let);
+    const Operand variable = counterOf(s.target->symbol, start);
+    exprTo(s.value, start, Store::Let);
     exprTo(s.limit, limit, Store::Let);
     if (s.step != nullptr) {
         exprTo(s.step, step, Store::Let);
     } else {
         emit(encode(Opcode::Move, step, constant(Value::ofInteger(1))));
     }
-    const Resolved variable = resolve(s.target->symbol);
     Label exit;
-    emitJump(Opcode::ForPrepare, variable.operand, limit, exit);
+    emitJump(Opcode::ForPrepare, variable, limit, exit);
     endMark();
     m_exitFor.push_back(&exit);
     const std::size_t body = m_procedure.code.size();
     block(s.body);
     m_exitFor.pop_back();
     beginMark(s.closing);
-    emitJumpTo(Opcode::ForLoop, variable.operand, limit, body);
+    emitJumpTo(Opcode::ForLoop, variable, limit, body);
     endMark();
     bind(exit);
     m_hidden = hiddenMark;
@@ -159,8 +176,9 @@ void CodeGen::forEachStatement(const Stmt& s) {
     const std::size_t hiddenMark = m_hidden;
     const Operand iterator = newHidden();
     if (m_decl.resumesNext) {
-        emit(encode(Opcode::Clear, iterator));
+        emit(encode(Opcode::Clear, iterator)); // Next after a failed header leaves at once
     }
+    const Operand variable = counterOf(s.target->symbol, iterator);
     const std::size_t temporaries = m_temporary;
     const Operand collection = expr(s.value);
     emit(encode(Opcode::EachPrepare, iterator, collection));
@@ -175,11 +193,7 @@ void CodeGen::forEachStatement(const Stmt& s) {
     m_exitFor.pop_back();
     bind(next);
     beginMark(s.closing);
-    const Resolved variable = resolve(s.target->symbol);
-    if (variable.kind != Resolved::Kind::Variable && variable.kind != Resolved::Kind::Unknown) {
-        raiseAtRun(ErrorNumber::IllegalAssignment, s.target->symbol);
-    }
-    emitJumpTo(Opcode::EachNext, variable.operand, iterator, body);
+    emitJumpTo(Opcode::EachNext, variable, iterator, body);
     endMark();
     bind(exit);
     emit(encode(Opcode::Clear, iterator));
@@ -234,7 +248,7 @@ void CodeGen::withStatement(const Stmt& s) {
     if (m_decl.resumesNext) {
         emit(encode(Opcode::Clear, object));
     }
-    exprTo(s.value, object, Store::Raw);
+    exprTo(s.value, object, Store::Set);
     endMark();
     m_withs.push_back(object);
     block(s.body);

@@ -362,9 +362,10 @@ labelBack:
     JUMP_ON_FORMS(GreaterEqual, Opcode::GreaterEqual)
 
 labelForPrepare : {
-    const Value& variable = R(A);
+    Value& variable = R(A);
     const Value* limits = &R(B);
-    if (bothWhole(variable, limits[0]) && limits[1].isWhole()) [[likely]] {
+    if (bothWhole(limits[2], limits[0]) && limits[1].isWhole() && isPlain(variable)) [[likely]] {
+        put(variable, limits[2].type, limits[2].n);
         if (limits[1].n >= 0 ? variable.n > limits[0].n : variable.n < limits[0].n) {
             pc += J;
         }

@@ -321,7 +321,8 @@ void Vm::join(Instruction instruction, bool append) {
     target = std::move(result);
 }
 
-// Readies a For loop: numbers all, and whether its body runs at all.
+// Readies a For loop: the bounds as numbers, then the variable, and whether the body runs at all. After a failure Next
+// finds no step and so a loop that was never set up.
 bool Vm::forPrepare(Value& variable, Value* limits) {
     const auto numeric = [this](Value& v) {
         v = toNumber(*this, v);
@@ -329,9 +330,15 @@ bool Vm::forPrepare(Value& variable, Value* limits) {
             raise(ErrorNumber::InvalidNull);
         }
     };
-    numeric(variable);
-    numeric(limits[0]);
-    numeric(limits[1]);
+    try {
+        numeric(limits[2]);
+        numeric(limits[0]);
+        numeric(limits[1]);
+    } catch (const ScriptError&) {
+        limits[1].clear();
+        throw;
+    }
+    variable = limits[2];
     const bool upward = compare(*this, limits[1], Value::ofInteger(0)) != Ordering::Less;
     const Ordering order = compare(*this, variable, limits[0]);
     return order == Ordering::Equal || order == (upward ? Ordering::Less : Ordering::Greater);
@@ -364,11 +371,8 @@ void Vm::eachPrepare(Instruction instruction) {
 }
 
 bool Vm::eachNext(Value& variable, Value& iterator) {
-    if (!iterator.isObject()) {
-        raise(ErrorNumber::ForNotInitialized);
-    }
     Value element;
-    if (!static_cast<Iterator*>(iterator.object())->next(*this, element)) {
+    if (!iterator.isObject() || !static_cast<Iterator*>(iterator.object())->next(*this, element)) {
         return false;
     }
     variable = std::move(element);

@@ -124,7 +124,7 @@ Stmt* Parser::parseFor() {
         statement->step = parseExpr();
     }
     endStatement();
-    const Hidden hidden(*this, 2);
+    const Hidden hidden(*this, 3);
     const Within loop(m_forLoops);
     parseBlock(statement->body);
     statement->closing = here();

@@ -1,0 +1,4 @@
+With Nothing
+  WScript.Echo "entra" '> entra
+  .Haz '! 424
+End With
