@@ -1,2 +1,2 @@
 Set o = Nothing
-o.Algo '! 91
+o.Algo '! 424

@@ -1,2 +1,2 @@
 Set o = Nothing
-x = o.Nombre '! 91
+x = o & "a" '! 91

@@ -47,7 +47,7 @@ caja.Propia(2) = 8        '> let False 2
                           '> 8
 On Error Resume Next
 caja.Propia(3) = deshace(9) '> caja fuera
-WScript.Echo Err.Number   '> 91
+WScript.Echo Err.Number   '> 424
 Err.Clear
 a = Array(1, 2, 3)
 a(1) = v                  '> valor

@@ -108,13 +108,14 @@ enum class Store : std::uint8_t { Raw = 0, Let = 1, Set = 2, Discard = 3 };
     OP(SetMemberN)     /* A.site C(B ... X of them) = the value after them */                                          \
     OP(GetName)        /* A = C, a name that may be variable or function */                                            \
     OP(CheckDefined)   /* error 500 if nothing has defined global C */                                                 \
+    OP(FindName)       /* A = reference to what global name C is in this call; X = 1: error 500 if it is nothing */    \
     OP(New)            /* A = new object of class C (global) */                                                        \
     OP(NewNamed)       /* A = new object of the built-in class whose name is constant C */                             \
     OP(Me)             /* A = Me */                                                                                    \
     OP(ReDim)          /* A gets the upper bounds B, B+1 ... (X of them) */                                            \
     OP(ReDimPreserve)                                                                                                  \
     OP(Erase)     /* A */                                                                                              \
-    OP(MakeArray) /* A = fixed array of shape C; X = 1: unless A is an array already */                                \
+    OP(MakeArray) /* A = array of shape C, unless it is one already */                                                 \
     OP(Execute)   /* A = result of running text B; X: 0 Execute, 1 ExecuteGlobal, 2 Eval */                            \
     OP(GetRef)    /* A = reference to the procedure whose name is B */                                                 \
     OP(OnError)   /* A = 1: resume next, 0: stop */                                                                    \
@@ -129,15 +130,19 @@ enum class Store : std::uint8_t { Raw = 0, Let = 1, Set = 2, Discard = 3 };
 #define VBS_LOCAL_FORMS(OP)                                                                                            \
     OP(Move)                                                                                                           \
     OP(Let)                                                                                                            \
-    OP(Add) OP(Subtract) OP(Multiply) OP(Divide) OP(IntegerDivide) OP(Modulo) OP(And) OP(Or) OP(Xor) OP(Equal)         \
-        OP(NotEqual) OP(Less) OP(Greater) OP(LessEqual) OP(GreaterEqual) OP(Index) OP(Index2) OP(SetIndex)             \
-            OP(SetIndex2) OP(JumpIf) OP(JumpUnless) OP(ForLoop) VBS_JUMPS_ON(OP)
+    OP(Add)                                                                                                            \
+    OP(Subtract)                                                                                                       \
+    OP(Multiply) OP(Divide) OP(IntegerDivide) OP(Modulo) OP(And) OP(Or) OP(Xor) OP(Equal) OP(NotEqual) OP(Less)        \
+        OP(Greater) OP(LessEqual) OP(GreaterEqual) OP(Index) OP(Index2) OP(SetIndex) OP(SetIndex2) OP(JumpIf)          \
+            OP(JumpUnless) OP(ForLoop) VBS_JUMPS_ON(OP)
 #define VBS_SMALL_FORMS(OP) OP(Add) OP(Subtract) OP(Multiply) OP(IntegerDivide) OP(Modulo) OP(And) VBS_JUMPS_ON(OP)
 #define VBS_JUMPS_ON(OP)                                                                                               \
     OP(JumpEqual)                                                                                                      \
     OP(JumpNotEqual)                                                                                                   \
-    OP(JumpLess) OP(JumpGreater) OP(JumpLessEqual) OP(JumpGreaterEqual) OP(UnlessEqual) OP(UnlessNotEqual)             \
-        OP(UnlessLess) OP(UnlessGreater) OP(UnlessLessEqual) OP(UnlessGreaterEqual)
+    OP(JumpLess)                                                                                                       \
+    OP(JumpGreater)                                                                                                    \
+    OP(JumpLessEqual) OP(JumpGreaterEqual) OP(UnlessEqual) OP(UnlessNotEqual) OP(UnlessLess) OP(UnlessGreater)         \
+        OP(UnlessLessEqual) OP(UnlessGreaterEqual)
 
 enum class Opcode : std::uint8_t {
 #define VBS_OPCODE(name) name,

@@ -103,11 +103,6 @@ void CodeGen::addImplicitLocals() {
             consider(passed.name);
         }
     }
-    for (const Symbol symbol : m_decl.dynamicScope ? m_decl.mentioned : std::vector<Symbol>()) {
-        if (!called.contains(symbol)) {
-            consider(symbol);
-        }
-    }
 }
 
 bool CodeGen::isMember(Symbol symbol) const {
@@ -165,6 +160,21 @@ Resolved CodeGen::resolveCallee(Symbol symbol) {
         }
     }
     return resolve(symbol);
+}
+
+// Where the value of a name is that nothing has defined yet. In a procedure that uses Execute it is searched when the
+// instruction before its use runs.
+Operand CodeGen::unresolved(const Resolved& name) {
+    const bool checked = m_scope.ast.optionExplicit;
+    if (m_decl.dynamicScope && (m_decl.kind != ProcedureDecl::Kind::Main || m_procedure.parameters > 0)) {
+        const Operand to = newTemporary();
+        emit(encode(Opcode::FindName, to, 0, name.operand, checked ? 1 : 0));
+        return to;
+    }
+    if (checked) {
+        emit(encode(Opcode::CheckDefined, 0, 0, name.operand));
+    }
+    return name.operand;
 }
 
 Operand CodeGen::newTemporary() {
@@ -305,17 +315,6 @@ void CodeGen::prologue() {
         if (m_decl.dynamicScope) { // for Execute; code of this text holds the literal
             emit(encode(Opcode::Move, operand, constantOf(*literal)));
         }
-    }
-    for (const Variable& variable : m_decl.variables) {
-        if (!variable.array) {
-            continue;
-        }
-        const Resolved r = resolve(variable.name);
-        m_procedure.shapes.push_back(variable.sizes);
-        const auto shape = static_cast<Operand>(m_procedure.shapes.size() - 1);
-        beginMark(variable.at);
-        emit(encode(Opcode::MakeArray, r.operand, 0, shape, placeOf(r.operand) == Place::Global ? 1 : 0));
-        endMark();
     }
 }
 

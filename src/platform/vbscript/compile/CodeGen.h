@@ -86,6 +86,7 @@ private:
     void addImplicitLocals();
     Resolved resolve(Symbol symbol);
     Resolved resolveCallee(Symbol symbol);
+    Operand unresolved(const Resolved& name);
     Operand newTemporary();
     Operand newHidden();
     bool isTemporary(Operand o) const noexcept { return placeOf(o) == Place::Frame && indexOf(o) >= m_hiddenEnd; }
@@ -176,6 +177,8 @@ private:
     void statement(const Stmt& s);
     void ifStatement(const Stmt& s);
     void selectStatement(const Stmt& s);
+    void dimStatement(const Stmt& s);
+    void searchAgain(Symbol symbol, Operand variable);
     Operand counterOf(Symbol symbol, Operand instead);
     void forStatement(const Stmt& s);
     void forEachStatement(const Stmt& s);

@@ -49,10 +49,11 @@ void CodeGen::assignName(const Expr* target, const Expr* value, Store store) {
         assignOwn(*r.member, {}, value, store);
         return;
     case Resolved::Kind::Unknown:
-        if (m_scope.ast.optionExplicit) {
-            emit(encode(Opcode::CheckDefined, 0, 0, r.operand));
+        if (const Operand variable = unresolved(r); isTemporary(variable)) {
+            emit(encode(store == Store::Set ? Opcode::StoreSet : Opcode::StoreLet, variable, expr(value)));
+        } else {
+            exprTo(value, variable, store);
         }
-        exprTo(value, r.operand, store);
         return;
     default:
         raiseAtRun(ErrorNumber::IllegalAssignment, target->symbol);
@@ -96,10 +97,7 @@ void CodeGen::assignCall(const Expr* target, const Expr* value, Store store) {
     case Resolved::Kind::Variable:
     case Resolved::Kind::Constant:
     case Resolved::Kind::Unknown:
-        if (r.kind == Resolved::Kind::Unknown && m_scope.ast.optionExplicit) {
-            emit(encode(Opcode::CheckDefined, 0, 0, r.operand));
-        }
-        storeElement(r.operand, target->args, value, store);
+        storeElement(r.kind == Resolved::Kind::Unknown ? unresolved(r) : r.operand, target->args, value, store);
         return;
     case Resolved::Kind::OwnMember:
         assignOwn(*r.member, target->args, value, store);

@@ -66,13 +66,11 @@ void CodeGen::callNameTo(const Expr* e, const Resolved& callee, Operand to, Stor
     default:
         break;
     }
-    if (callee.kind == Kind::Unknown && m_scope.ast.optionExplicit) {
-        emit(encode(Opcode::CheckDefined, 0, 0, callee.operand));
-    }
+    const Operand called = callee.kind == Kind::Unknown ? unresolved(callee) : callee.operand;
     const std::size_t count = countOf(e->args, e->at);
     const Prepared prepared =
         arguments(e->args, &callee, callee.kind == Kind::Callable ? Passing::Known : Passing::Unknown);
-    emit(encode(Opcode::Call, to, prepared.first, callee.operand, packed(count, store)));
+    emit(encode(Opcode::Call, to, prepared.first, called, packed(count, store)));
     copyBack(prepared);
 }
 
@@ -141,6 +139,9 @@ void CodeGen::specialTo(const Expr* e, Special special, Operand to, Store store)
         return;
     }
     const Operand text = expr(e->args[0]);
+    if (special == Special::GetRef && store == Store::Discard) {
+        return; // a reference that nobody takes
+    }
     const Operand value = store == Store::Raw ? to : newTemporary();
     if (special == Special::GetRef) {
         emit(encode(Opcode::GetRef, value, text));
@@ -157,7 +158,11 @@ void CodeGen::specialTo(const Expr* e, Special special, Operand to, Store store)
 
 void CodeGen::callMemberTo(const Expr* e, const Expr* callee, Operand to, Store store) {
     if (const ClassMember* own = ownMember(callee)) {
-        ownMemberTo(*own, e->args, to, store);
+        if (own->field >= 0 && e->args.empty() && store != Store::Discard) {
+            raiseAtRun(ErrorNumber::InvalidCall, noSymbol); // Me.size()
+        } else {
+            ownMemberTo(*own, e->args, to, store);
+        }
         return;
     }
     const Operand object = callee->a != nullptr ? expr(callee->a) : withObject();

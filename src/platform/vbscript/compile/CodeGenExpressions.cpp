@@ -150,10 +150,8 @@ void CodeGen::nameTo(const Expr* e, Operand to, Store store) {
     if (r.kind == Resolved::Kind::Variable || r.kind == Resolved::Kind::Constant) {
         deliver(r.operand, to, store);
     } else if (r.kind == Resolved::Kind::Unknown) {
-        if (m_scope.ast.optionExplicit) {
-            emit(encode(Opcode::CheckDefined, 0, 0, r.operand));
-        }
-        emit(encode(Opcode::GetName, to, newTemporary(), r.operand, packed(0, store)));
+        const Operand name = unresolved(r);
+        emit(encode(Opcode::GetName, to, newTemporary(), name, packed(0, store)));
     } else {
         Expr call;
         call.kind = Expr::Kind::Call;

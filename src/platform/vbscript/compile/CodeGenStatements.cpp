@@ -60,12 +60,25 @@ void CodeGen::statement(const Stmt& s) {
     case Stmt::Kind::OnErrorGoTo0:
         emit(encode(Opcode::OnError, 0));
         break;
-    case Stmt::Kind::Const:
     case Stmt::Kind::Dim:
+        dimStatement(s);
+        break;
+    case Stmt::Kind::Const:
         break;
     }
     endMark();
     m_temporary = temporaries;
+}
+
+void CodeGen::dimStatement(const Stmt& s) {
+    for (std::size_t i = s.first; i < s.first + s.count; ++i) {
+        const Variable& variable = m_decl.variables[i];
+        if (variable.array) {
+            m_procedure.shapes.push_back(variable.sizes);
+            const auto shape = static_cast<Operand>(m_procedure.shapes.size() - 1);
+            emit(encode(Opcode::MakeArray, resolve(variable.name).operand, 0, shape));
+        }
+    }
 }
 
 void CodeGen::ifStatement(const Stmt& s) {
@@ -129,10 +142,7 @@ void CodeGen::selectStatement(const Stmt& s) {
 Operand CodeGen::counterOf(Symbol symbol, Operand instead) {
     const Resolved r = resolve(symbol);
     if (r.kind == Resolved::Kind::Unknown) {
-        if (m_scope.ast.optionExplicit) {
-            emit(encode(Opcode::CheckDefined, 0, 0, r.operand));
-        }
-        return r.operand;
+        return unresolved(r);
     }
     if (r.kind != Resolved::Kind::Variable || isFixedArray(symbol)) {
         raiseAtRun(r.kind == Resolved::Kind::Variable ? ErrorNumber::TypeMismatch : ErrorNumber::IllegalAssignment,
@@ -140,6 +150,13 @@ Operand CodeGen::counterOf(Symbol symbol, Operand instead) {
         return instead;
     }
     return r.operand;
+}
+
+// The search for a loop's variable in a temporary, which an error in the body may have given up.
+void CodeGen::searchAgain(Symbol symbol, Operand variable) {
+    if (isTemporary(variable)) {
+        emit(encode(Opcode::FindName, variable, 0, resolve(symbol).operand, m_scope.ast.optionExplicit ? 1 : 0));
+    }
 }
 
 void CodeGen::forStatement(const Stmt& s) {
@@ -166,6 +183,7 @@ void CodeGen::forStatement(const Stmt& s) {
     block(s.body);
     m_exitFor.pop_back();
     beginMark(s.closing);
+    searchAgain(s.target->symbol, variable);
     emitJumpTo(Opcode::ForLoop, variable, limit, body);
     endMark();
     bind(exit);
@@ -182,7 +200,7 @@ void CodeGen::forEachStatement(const Stmt& s) {
     const std::size_t temporaries = m_temporary;
     const Operand collection = expr(s.value);
     emit(encode(Opcode::EachPrepare, iterator, collection));
-    m_temporary = temporaries;
+    m_temporary = temporaries; // above a variable that is searched
     Label next;
     emitJump(Opcode::Jump, 0, 0, next);
     endMark();
@@ -193,6 +211,7 @@ void CodeGen::forEachStatement(const Stmt& s) {
     m_exitFor.pop_back();
     bind(next);
     beginMark(s.closing);
+    searchAgain(s.target->symbol, variable);
     emitJumpTo(Opcode::EachNext, variable, iterator, body);
     endMark();
     bind(exit);
@@ -277,11 +296,9 @@ void CodeGen::reDimStatement(const Stmt& s) {
         if (named && variable.kind != Resolved::Kind::Variable && variable.kind != Resolved::Kind::Unknown) {
             raiseAtRun(ErrorNumber::IllegalAssignment, target->a->symbol);
         } else if (named) {
-            if (variable.kind == Resolved::Kind::Unknown && m_scope.ast.optionExplicit) {
-                emit(encode(Opcode::CheckDefined, 0, 0, variable.operand));
-            }
+            const Operand array = variable.kind == Resolved::Kind::Unknown ? unresolved(variable) : variable.operand;
             const Operand first = contiguous(target->args);
-            emit(encode(op, variable.operand, first, 0, packed(target->args.size(), Store::Raw)));
+            emit(encode(op, array, first, 0, packed(target->args.size(), Store::Raw)));
         } else {
             // A member or element: take it out, change it, put it back.
             const Operand copy = newTemporary();

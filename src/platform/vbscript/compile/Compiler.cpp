@@ -161,6 +161,9 @@ void declareGlobals(UnitScope& scope) {
     }
     for (const Variable& variable : main.variables) {
         scope.unit.variables.push_back(scope.globals.slotOf(variable.name));
+        if (variable.array) {
+            scope.unit.arrays.push_back(scope.unit.variables.back());
+        }
     }
     if (scope.ast.optionExplicit) {
         for (const Symbol symbol : main.redimmed) {

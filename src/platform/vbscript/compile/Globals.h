@@ -31,6 +31,13 @@ public:
     Symbol symbol(std::uint32_t slot) const noexcept { return m_info[slot].symbol; }
     // Takes back the slots from number `size` on; none of them may be defined or in use by code.
     void forgetFrom(std::size_t size);
+    // The pass that last declared or made the variable, and whether as an array.
+    struct Declared {
+        std::uint32_t pass = 0;
+        bool array = false;
+    };
+    Declared& declared(std::uint32_t slot) noexcept { return m_info[slot].declared; }
+    Declared declared(std::uint32_t slot) const noexcept { return m_info[slot].declared; }
     void define(std::uint32_t slot, GlobalKind kind, Value value, bool predefined = false);
 
     Value& operator[](std::uint32_t slot) noexcept { return m_values[slot]; }
@@ -42,6 +49,7 @@ private:
         Symbol symbol;
         GlobalKind kind = GlobalKind::Undefined;
         bool predefined = false;
+        Declared declared{};
     };
     Value* m_values;
     std::vector<Info> m_info;

@@ -105,6 +105,7 @@ public:
     std::vector<std::pair<std::uint32_t, Callable*>> callables; // slot and what it becomes
     std::vector<std::pair<std::uint32_t, Value>> constants;
     std::vector<std::uint32_t> variables; // declared
+    std::vector<std::uint32_t> arrays;    // those of them that are declared with parentheses
     std::vector<std::uint32_t> implicit;  // made by their use
 
     // Names that procedures took as local because no global of that name was known.

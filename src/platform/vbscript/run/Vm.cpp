@@ -175,6 +175,24 @@ void Vm::define(std::uint32_t slot, GlobalKind kind, Value value) {
     m_globals.define(slot, kind, std::move(value));
 }
 
+// A text that another one runs declares beside what that pass has declared so far. A new pass starts afresh.
+void Vm::checkLater(const Unit& unit) {
+    const auto ofThisPass = [this](std::uint32_t slot) { return m_globals.declared(slot).pass == m_pass; };
+    const auto used = [this](std::uint32_t slot) { // without a declaration
+        return m_globals.declared(slot).pass == 0 && m_globals.values()[slot].type != Type::Empty;
+    };
+    for (const auto& [slot, value] : unit.constants) {
+        if (m_globals.kind(slot) == GlobalKind::Variable && (ofThisPass(slot) || used(slot))) {
+            throw CompileError{ErrorNumber::NameRedefined, {1, 1}};
+        }
+    }
+    for (const std::uint32_t slot : unit.arrays) {
+        if (m_globals.kind(slot) == GlobalKind::Variable && ofThisPass(slot) && m_globals.declared(slot).array) {
+            raise(ErrorNumber::TypeMismatch);
+        }
+    }
+}
+
 void Vm::bind(Unit* unit) {
     for (const auto& [slot, callable] : unit->callables) {
         if (m_globals[slot].type == Type::Procedure && m_globals[slot].pointer == callable) {
@@ -194,6 +212,12 @@ void Vm::bind(Unit* unit) {
         if (m_globals.kind(slot) != GlobalKind::Variable) {
             define(slot, GlobalKind::Variable, {});
         }
+        if (m_globals.declared(slot).pass != m_pass) {
+            m_globals.declared(slot) = {m_pass, false};
+        }
+    }
+    for (const std::uint32_t slot : unit->arrays) {
+        m_globals.declared(slot).array = true;
     }
     for (const std::uint32_t slot : unit->implicit) {
         if (m_globals.kind(slot) == GlobalKind::Undefined) {
@@ -221,6 +245,11 @@ void Vm::runUnit(Unit* unit) {
             }
         }
     } releaseAtEnd{*this, unit};
+    if (m_depth == 0) {
+        ++m_pass;
+    } else {
+        checkLater(*unit);
+    }
     bind(unit);
     const std::size_t floor = m_depth;
     pushFrame(&unit->main, freeRegisters(), 0, nullptr, nullptr, Store::Discard);

@@ -165,6 +165,7 @@ private:
     const ClassMember& instanceMember(const Instance& instance, MemberSite& site) const;
     int nativeMember(Object& object, MemberSite& site) const;
     void getName(Instruction instruction);
+    void findName(Instruction instruction);
     void makeNew(Instruction instruction);
     void makeNamed(Instruction instruction);
     void makeMe(Instruction instruction);
@@ -181,6 +182,7 @@ private:
 
     // Units
     void bind(Unit* unit);
+    void checkLater(const Unit& unit);
     void define(std::uint32_t slot, GlobalKind kind, Value value);
     void forgetCache(const Unit* except);
     void trimCache();
@@ -204,6 +206,7 @@ private:
     std::list<Unit*> m_recent; // most recently used first
     std::unordered_map<std::u16string_view, std::list<Unit*>::iterator> m_cache;
     bool m_cacheStale = false;
+    std::uint32_t m_pass = 0; // counts the texts that the host runs; what they run in turn belongs to them
     std::unordered_set<Symbol> m_assumedLocal;
     std::vector<Unit*> m_retired;
     std::unordered_map<std::uint32_t, Unit*> m_owners; // of global callables

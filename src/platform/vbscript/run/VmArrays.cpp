@@ -229,6 +229,9 @@ void Vm::setDeep(Value& base, Value* indexes, std::span<const std::int32_t> leve
         for (; level + 1 < levels.size() && leadsOn(); row += levels[level++]) {
             container = &elementOf(*this, *container, row, levels[level]);
         }
+        if (level > 0 && container->isObject() && container->object() == nullptr) {
+            raise(ErrorNumber::TypeMismatch);
+        }
         const auto count = static_cast<std::size_t>(levels[level]);
         if (container->isArray() && anyObject(row, levels[level])) {
             for (Value* index = row; index != row + count; ++index) {
@@ -261,6 +264,9 @@ void Vm::redim(Instruction instruction, bool preserve) {
     Value& variable = at(operandA(instruction)).deref();
     Value* first = &at(operandB(instruction));
     const std::size_t count = countOf(instruction);
+    if (!preserve) {
+        requireUnlocked(variable); // before the bounds are looked at
+    }
     std::array<std::int32_t, maxIndexes> sizes{};
     for (std::size_t i = 0; i < count; ++i) {
         const std::int32_t bound = toLong(*this, first[i]);
@@ -309,19 +315,17 @@ void Vm::erase(Operand o) {
     consume(o);
 }
 
+// Dim with bounds, or with empty ones. Executed again, in a loop or by the next pass, it changes nothing.
 void Vm::makeArray(Instruction instruction) {
-    Value& variable = at(operandA(instruction));
+    Value& variable = at(operandA(instruction)).deref();
     const std::vector<std::int32_t>& shape = top().procedure->shapes[operandC(instruction)];
-    const bool keep = (instruction >> 56) == 1;
-    if (keep && variable.isArray()) {
+    if (variable.isArray() && variable.array()->fixed() == !shape.empty()) {
         const ArrayBlock& array = *variable.array();
-        const bool same = shape.empty() ? !array.fixed()
-                                        : array.fixed() && static_cast<std::size_t>(array.dimensions()) == shape.size();
-        bool equal = same;
-        for (std::size_t i = 0; equal && i < shape.size(); ++i) {
-            equal = array.size(static_cast<int>(i)) == shape[i];
+        bool same = shape.empty() || static_cast<std::size_t>(array.dimensions()) == shape.size();
+        for (std::size_t i = 0; same && i < shape.size(); ++i) {
+            same = array.size(static_cast<int>(i)) == shape[i];
         }
-        if (equal) {
+        if (same) {
             return;
         }
     }

@@ -43,16 +43,20 @@ const Procedure* readerOf(const ClassMember& member) noexcept {
     return member.method != nullptr ? member.method : member.get;
 }
 
-// The object behind a value. Raises 424 for what is no object and 91 for Nothing.
+// The object behind a value. Raises 424 for what is no object and for Nothing.
 Object& objectOf(const Value& v) {
     const Value& value = v.deref();
-    if (!value.isObject()) {
+    if (!value.isObject() || value.object() == nullptr) {
         raise(ErrorNumber::ObjectRequired);
     }
-    if (value.object() == nullptr) {
-        raise(ErrorNumber::ObjectNotSet);
-    }
     return *value.object();
+}
+
+// A public variable may be indexed where it holds an array, or an object that has a default member.
+void requireIndexable(const Value& field) {
+    if (!field.isArray() && !field.isObject()) {
+        raise(ErrorNumber::MemberNotFound);
+    }
 }
 
 } // namespace
@@ -76,6 +80,12 @@ void Vm::callOther(Instruction instruction) {
     const std::size_t count = countOf(instruction);
     const Store store = storeOf(instruction);
     Value& to = at(operandA(instruction));
+    if (callee.type == Type::Procedure &&
+        static_cast<const Callable*>(callee.pointer)->kind == Callable::Kind::Procedure) {
+        const auto* procedure = static_cast<const Procedure*>(static_cast<const Callable*>(callee.pointer));
+        pushFrame(procedure, first, count, nullptr, &to, store);
+        return;
+    }
     if (callee.isObject() && callee.object() != nullptr) {
         Object& object = *callee.object();
         if (object.role == Object::Role::ProcedureReference) {
@@ -121,6 +131,25 @@ void Vm::callOther(Instruction instruction) {
         raise(ErrorNumber::TypeMismatch, m_symbols.name(m_globals.symbol(static_cast<std::uint32_t>(indexOf(c)))));
     }
     raise(ErrorNumber::TypeMismatch);
+}
+
+// A name that the compiler could not resolve: what Execute made in this call, or the global.
+void Vm::findName(Instruction instruction) {
+    const auto slot = static_cast<std::uint32_t>(indexOf(operandC(instruction)));
+    Value& to = at(operandA(instruction));
+    Value* found = &m_globals[slot];
+    if (const auto* made = top().extra; made != nullptr) {
+        if (const auto entry = made->find(m_globals.symbol(slot)); entry != made->end()) {
+            found = entry->second.get();
+        }
+    }
+    to.clear();
+    if (found->type != Type::Undefined) {
+        to.type = Type::Reference;
+        to.target = found;
+    } else if ((instruction >> 56) == 1) {
+        raiseUndefined(slot);
+    }
 }
 
 // --------------------------------------------------------------------------------------------------------------
@@ -214,12 +243,12 @@ void Vm::callMember(Instruction instruction, Operand firstOperand) {
     }
     const Value& field = instance.fields()[member.field];
     if (count == 0) {
-        if (field.isArray()) {
-            raise(ErrorNumber::OutOfRange);
+        if (store != Store::Discard) {
+            raise(ErrorNumber::InvalidCall); // o.size()
         }
-        deliver(field, to, store);
         return;
     }
+    requireIndexable(field);
     std::array<Value*, 64> places{};
     for (std::size_t i = 0; i < count; ++i) {
         places[i] = first + i;
@@ -295,13 +324,11 @@ void Vm::assignMember(Object* object, MemberSite& site, Value* first, std::size_
         for (std::size_t i = 0; i < count; ++i) {
             places[i] = first + i;
         }
+        requireIndexable(field);
         setIndex(field, {places.data(), count}, std::move(value), store);
         return;
     }
-    const Procedure* procedure = set && member.set != nullptr ? member.set : member.let;
-    if (!set && procedure == nullptr && value.isObject()) {
-        procedure = member.set;
-    }
+    const Procedure* procedure = set ? member.set : member.let;
     if (procedure == nullptr) {
         // A property that hands out an object or array may still be assigned through.
         raise(count == 0 || readerOf(member) == nullptr ? ErrorNumber::MemberNotFound : ErrorNumber::WrongArgumentCount,
@@ -330,9 +357,7 @@ Value Vm::invokeInstance(Instance& instance, const ClassMember& member, Access a
         }
         return result;
     }
-    const Procedure* procedure = access == Access::Set && member.set != nullptr ? member.set
-                                 : assigns                                      ? member.let
-                                                                                : readerOf(member);
+    const Procedure* procedure = access == Access::Set ? member.set : assigns ? member.let : readerOf(member);
     if (procedure == nullptr) {
         raise(ErrorNumber::MemberNotFound);
     }
@@ -389,7 +414,7 @@ Value Vm::useGlobal(std::uint32_t slot, Access access, Arguments arguments) {
 
 // A name that may be a variable, a function, or nothing yet.
 void Vm::getName(Instruction instruction) {
-    const Value& named = at(operandC(instruction));
+    const Value& named = at(operandC(instruction)).deref();
     if (named.type == Type::Procedure &&
         static_cast<const Callable*>(named.pointer)->kind == Callable::Kind::Procedure) {
         pushFrame(static_cast<const Procedure*>(static_cast<const Callable*>(named.pointer)),
@@ -421,8 +446,12 @@ void Vm::makeNamed(Instruction instruction) {
 }
 
 void Vm::getRef(Instruction instruction) {
-    const String name = toString(*this, at(operandB(instruction)));
+    const Value given = at(operandB(instruction)).deref();
     consume(operandB(instruction));
+    if (!given.isString()) {
+        raise(ErrorNumber::TypeMismatch);
+    }
+    const String name = toString(*this, given);
     const std::uint32_t slot = m_globals.find(m_symbols.intern(name.view()));
     const Value* named = slot == Globals::none ? nullptr : &m_globals[slot];
     if (named == nullptr || named->type != Type::Procedure ||
@@ -435,9 +464,18 @@ void Vm::getRef(Instruction instruction) {
 
 void Vm::executeText(Instruction instruction) {
     const Operand b = operandB(instruction);
-    const String text = toString(*this, at(b));
+    Value given = taken(b);
     consume(b);
     const auto kind = instruction >> 56;
+    if (kind == 2 && !given.isString()) {
+        at(operandA(instruction)) = std::move(given); // Eval gives back what is no text
+        return;
+    }
+    given = withoutObject(*this, given);
+    if (!given.isString()) {
+        raise(ErrorNumber::TypeMismatch);
+    }
+    const String text = toString(*this, given);
     const bool local =
         kind != 1 && (top().procedure->dynamicScope || top().me != nullptr || kind == 2) &&
         (kind == 2 || top().procedure->form != ProcedureDecl::Kind::Main || top().procedure->parameters > 0);

@@ -590,6 +590,9 @@ labelCheckDefined:
     }
     NEXT;
 
+labelFindName:
+    SLOW(findName(i));
+
 labelNew:
     SLOW(makeNew(i));
 

@@ -140,7 +140,7 @@ struct Stmt {
         Const,   // constants (kept for the line table only)
         OnErrorResumeNext,
         OnErrorGoTo0,
-        Dim, // sets no more than a line mark
+        Dim, // variables: those of the procedure from `first` on, `count` of them
     };
 
     Kind kind = Kind::Call;
@@ -152,6 +152,8 @@ struct Stmt {
     LoopTest test = LoopTest::None;
     ExitKind exit = ExitKind::Do;
     bool preserve = false;
+    std::size_t first = 0;
+    std::size_t count = 0;
     Position closing; // of Next, Loop, Wend
     std::vector<Expr*> targets;
     std::vector<IfBranch> branches;

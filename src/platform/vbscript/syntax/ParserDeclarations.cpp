@@ -105,14 +105,16 @@ void Parser::parseVariables(std::vector<Variable>& into, bool isPrivate) {
     } while (accept(Sign::Comma));
 }
 
-// Dim variable {, variable}; hoisted to the procedure around
+// Dim variable {, variable}; the names are hoisted to the procedure around
 Stmt* Parser::parseDim(bool isPrivate) {
     Stmt* statement = m_ast->stmt(Stmt::Kind::Dim, here());
+    statement->first = m_procedure->variables.size();
     do {
         const Variable variable = parseVariable(isPrivate);
         declare(variable.name, variable.at);
         m_procedure->variables.push_back(variable);
     } while (accept(Sign::Comma));
+    statement->count = m_procedure->variables.size() - statement->first;
     return statement;
 }
 

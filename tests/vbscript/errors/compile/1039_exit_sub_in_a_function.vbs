@@ -1,0 +1,3 @@
+Function F
+  Exit Sub '! 1039
+End Function

@@ -1,0 +1,4 @@
+Const c = 1
+If True Then
+  Dim c '! 1041
+End If
