@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <utility>
 
 namespace {
 
@@ -12,6 +13,13 @@ std::size_t indice(double x, int limite) {
     if (entero < 0 || entero > limite)
         throw ErrorEjecucion(ErrorEjecucion::indiceFueraDeIntervalo);
     return static_cast<std::size_t>(entero);
+}
+
+// Which cell (numbered as its register) shows a write of register `i` at `direccion`: the row follows from the address
+// as it was given, the column from the rounded one. So 9.5, which is register 10, is shown where register 0 stands.
+int celdaDe(double direccion, int i) {
+    const int porFila = Pagina::registrosPorFila;
+    return i % porFila == 0 && direccion < i ? std::max(0, i - porFila) : i;
 }
 
 // High byte first. The high byte is the integer part of value / 256, the low byte the rounded value modulo 256.
@@ -38,8 +46,12 @@ void Esclavos::darValorEsclavoLogico(double esclavo, double direccion, double va
         return;
     EsclavoMW& destino = registro(esclavo);
     const std::size_t i = indice(direccion, destino.limite());
-    destino.Valores[i] = valor;
-    destino.pagina->mostrar(static_cast<int>(i));
+    const double anterior = std::exchange(destino.Valores[i], valor);
+    const int celda = celdaDe(direccion, static_cast<int>(i));
+    if (celda == static_cast<int>(i))
+        destino.pagina->mostrarEnSuCelda(celda);
+    else
+        destino.pagina->mostrarEnOtraCelda(static_cast<int>(i), anterior, celda, valor);
 }
 
 void Esclavos::escribir_C2(double sclavo, double direccion, double valor) {

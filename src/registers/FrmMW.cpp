@@ -13,6 +13,8 @@
 #include <QLineEdit>
 #include <QPushButton>
 
+#include <utility>
+
 namespace {
 
 constexpr double valorMinimo = -32768;
@@ -190,6 +192,9 @@ bool FrmMW::eventFilter(QObject* objeto, QEvent* evento) {
         if (auto* caja = qobject_cast<QLineEdit*>(objeto);
             caja != nullptr && !conOrden && !texto.isEmpty() && texto.at(0).isPrint())
             return !teclaAdmitida(*caja, texto);
+        signoPendiente_ = signoPendiente_ && texto.isEmpty();
+    } else if (evento->type() == QEvent::FocusOut || evento->type() == QEvent::MouseButtonPress) {
+        signoPendiente_ = false;
     }
     return QDialog::eventFilter(objeto, evento);
 }
@@ -199,13 +204,17 @@ bool FrmMW::teclaAdmitida(QLineEdit& caja, const QString& texto) {
     const bool esValor = &caja == TxtValor_;
     if (letra > 127 || ValidarIngresoDeNumeros(static_cast<std::int16_t>(letra), esValor) == teclaIgnorada)
         return false;
-    // A minus sign alone is no number and would turn into 0 at once; so that -5 can be typed over the whole text, the
-    // sign brings a 0 along that the next digit replaces.
-    if (letra == u'-' && caja.selectedText() == caja.text()) {
-        caja.setText(QStringLiteral("-0"));
-        caja.setSelection(1, 1);
+    return !(esValor && signoPuesto(caja, letra));
+}
+
+// A minus sign alone is no number and turns into 0 at once. So that -5 can be typed over the whole text all the same,
+// the sign is kept for the digit that comes next. Returns whether the text has got what the key stands for.
+bool FrmMW::signoPuesto(QLineEdit& caja, char16_t letra) {
+    const bool encima = caja.selectedText() == caja.text();
+    const bool pendiente = std::exchange(signoPendiente_, encima && letra == u'-');
+    if (!encima || !pendiente || letra < u'1' || letra > u'9')
         return false;
-    }
+    caja.setText(QStringLiteral("-") + QChar(letra));
     return true;
 }
 

@@ -54,6 +54,7 @@ private:
     QPushButton* crearBoton(const char* nombre, const QString& titulo);
     QWidget* crearBits();
     bool teclaAdmitida(QLineEdit& caja, const QString& texto);
+    bool signoPuesto(QLineEdit& caja, char16_t letra);
     void mostrarBits(double valor);
     void clicEnBit(int bit);
     void aceptar();
@@ -64,6 +65,7 @@ private:
     QLineEdit* TxtPlc_;
     QLineEdit* TxtDireccion_;
     QLineEdit* TxtValor_;
+    bool signoPendiente_ = false; // "-" was typed over the whole value: the digit that follows gets it
     std::array<QCheckBox*, bits> CheckBin_{};
     QLabel* lblC2_;
     QLabel* LblBinario_;

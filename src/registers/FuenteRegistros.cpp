@@ -5,6 +5,8 @@
 
 std::optional<double> FuenteRegistros::valor(int fila, int columna) const {
     const auto valores = esclavos_.valores(pagina_.numero());
+    if (const auto ajena = pagina_.ajena(direccion(fila, columna)))
+        return ajena;
     const auto i = static_cast<std::size_t>(direccion(fila, columna));
     return i < valores.size() ? std::optional(valores[i]) : std::nullopt;
 }

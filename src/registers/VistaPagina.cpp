@@ -12,7 +12,6 @@
 namespace {
 
 constexpr qint64 entreRepintados = 17; // ms: at most 60 a second
-constexpr int esperaOculta = 200;      // ms
 
 } // namespace
 
@@ -84,11 +83,15 @@ QCheckBox* VistaPagina::crearCasilla(const char* nombre, const QString& titulo, 
 
 void VistaPagina::paginaCambiada(Pagina& /*pagina*/) {
     if (!isVisible())
-        espera_.start(esperaOculta);
-    else if (desdeUltima_.isValid())
+        return; // stays marked until it is shown
+    if (desdeUltima_.isValid())
         espera_.start(static_cast<int>(std::max<qint64>(0, entreRepintados - desdeUltima_.elapsed())));
     else
         espera_.start(0);
+}
+
+void VistaPagina::filasAgregadas(Pagina& /*pagina*/) {
+    cuadricula_->agregarFilas();
 }
 
 void VistaPagina::ponerAlDia() {

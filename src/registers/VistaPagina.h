@@ -1,7 +1,7 @@
 // The page of a slave in the main window: its grid, the frame with its four check boxes, its frame monitor.
 //
 // The page follows its Pagina: the first mark starts a timer, so that a burst of writes costs one repaint, at most 60
-// a second, and an idle page costs nothing. A page that cannot be seen only keeps its rows up to date, seldom. The
+// a second, and an idle page costs nothing. New rows are there at once, whether the page can be seen or not. The
 // check boxes write the Pagina. The controls bear the slave number in their names: MSFlexGrid(3), ChRecibir(3) ...
 #pragma once
 
@@ -34,6 +34,7 @@ protected:
 
 private:
     void paginaCambiada(Pagina& pagina) override;
+    void filasAgregadas(Pagina& pagina) override;
     void ponerAlDia();
     QWidget* crearMarco();
     QCheckBox* crearCasilla(const char* nombre, const QString& titulo, bool Pagina::*campo);

@@ -179,6 +179,26 @@ private Q_SLOTS:
         QCOMPARE(valor(), QStringLiteral("-57"));
     }
 
+    void aMinusAloneOverTheWholeTextIsNoNumberAndTurnsIntoZero() {
+        abrir(QStringLiteral("1234"));
+        caja("TxtValor")->selectAll();
+        QTest::keyClicks(caja("TxtValor"), QStringLiteral("-"));
+        QCOMPARE(valor(), QStringLiteral("0"));
+        QTest::keyClicks(caja("TxtValor"), QStringLiteral("0"));
+        QTest::keyClicks(caja("TxtValor"), QStringLiteral("7"));
+        QCOMPARE(valor(), QStringLiteral("07"));
+    }
+
+    void aMinusIsForgottenWhenSomethingElseComesBetween() {
+        abrir(QStringLiteral("1234"));
+        caja("TxtValor")->selectAll();
+        QTest::keyClicks(caja("TxtValor"), QStringLiteral("-"));
+        QTest::mouseClick(caja("TxtValor"), Qt::LeftButton);
+        caja("TxtValor")->selectAll();
+        QTest::keyClicks(caja("TxtValor"), QStringLiteral("5"));
+        QCOMPARE(valor(), QStringLiteral("5"));
+    }
+
     void digitsAndBackspaceAreKept() {
         QTest::keyClicks(caja("TxtDireccion"), QStringLiteral("13"));
         QTest::keyClick(caja("TxtDireccion"), Qt::Key_Backspace);

@@ -2,6 +2,7 @@
 #include "registers/Pagina.h"
 
 #include <gtest/gtest.h>
+#include <vector>
 
 namespace {
 
@@ -11,9 +12,11 @@ public:
         ++llamadas;
         ultima = &pagina;
     }
+    void filasAgregadas(Pagina& pagina) override { filas.push_back(pagina.filas()); }
 
     int llamadas = 0;
     Pagina* ultima = nullptr;
+    std::vector<int> filas; // at each call
 };
 
 TEST(Page, startsWithSevenRowsAndEveryBoxChecked) {
@@ -73,6 +76,33 @@ TEST(Page, detachedObserverHearsNothing) {
     pagina.mostrar(1);
     EXPECT_EQ(contador.llamadas, 0);
     EXPECT_TRUE(pagina.marcada());
+}
+
+TEST(Page, observerHearsOfNewRowsAtOnce) {
+    Pagina pagina(0);
+    Contador contador;
+    pagina.observar(&contador);
+    pagina.mostrar(59);
+    pagina.mostrar(60);
+    pagina.mostrar(61);
+    pagina.mostrar(499);
+    EXPECT_EQ(contador.filas, (std::vector{8, 51}));
+    EXPECT_EQ(contador.llamadas, 1);
+}
+
+TEST(Page, aCellThatShowsAnotherValueDoesSoUntilItIsWritten) {
+    Pagina pagina(0);
+    pagina.mostrarEnOtraCelda(10, 5, 0, 7);
+    EXPECT_EQ(pagina.ajena(0), 7);
+    EXPECT_EQ(pagina.ajena(10), 5);
+    pagina.mostrarEnOtraCelda(10, 7, 0, 8);
+    EXPECT_EQ(pagina.ajena(0), 8);
+    EXPECT_EQ(pagina.ajena(10), 5);
+    pagina.mostrarEnSuCelda(10);
+    EXPECT_EQ(pagina.ajena(10), std::nullopt);
+    EXPECT_EQ(pagina.ajena(0), 8);
+    pagina.mostrarEnSuCelda(0);
+    EXPECT_EQ(pagina.ajena(0), std::nullopt);
 }
 
 } // namespace

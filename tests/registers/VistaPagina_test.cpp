@@ -195,19 +195,51 @@ private Q_SLOTS:
         QVERIFY(pinturas_ >= 2);
     }
 
-    void aHiddenPageCatchesUpWhenItIsShown() {
+    void newRowsAreThereAtOnceWhetherThePageIsSeenOrNot() {
+        esclavos_->ampliarTablaMW(2, 200, 9);
+        QCOMPARE(grid().model()->rowCount(), 21);
         vista_->hide();
         esclavos_->ampliarTablaMW(2, 400, 9);
-        QCOMPARE(grid().model()->rowCount(), 10);
-        vista_->show();
         QCOMPARE(grid().model()->rowCount(), 41);
+        vista_->show();
+        QVERIFY(!pagina().marcada());
     }
 
-    void aHiddenPageLearnsOfItsRowsAllTheSame() {
+    void rowsComeOneByOneWithoutATurnOfTheEventLoop() {
         vista_->hide();
-        esclavos_->ampliarTablaMW(2, 400, 9);
-        QTRY_COMPARE(grid().model()->rowCount(), 41);
-        QVERIFY(!pagina().marcada());
+        for (int fila = 10; fila < 2000; ++fila) {
+            esclavos_->ampliarTablaMW(2, fila * 10, 0);
+            QCOMPARE(grid().model()->rowCount(), fila + 1);
+        }
+    }
+
+    void registerZeroStandsInTheFirstCellWithAValueOfItsOwn() {
+        esclavos_->escribir(2, 0, 4711);
+        esclavos_->escribir(2, 1, 11);
+        esclavos_->escribir(2, 10, 12);
+        QCOMPARE(celda(1, 1), QStringLiteral("4711"));
+        QCOMPARE(celda(1, 2), QStringLiteral("11"));
+        QCOMPARE(celda(2, 1), QStringLiteral("12"));
+    }
+
+    void aFractionalAddressIsShownInTheRowOfTheUnroundedOne() {
+        esclavos_->escribir(2, 0, 100);
+        esclavos_->escribir(2, 10, 110);
+        esclavos_->escribir(2, 9.5, 5); // register 10, row of 9, column of 10
+        QCOMPARE(esclavos_->leer(2, 10), 5.0);
+        QCOMPARE(esclavos_->leer(2, 0), 100.0);
+        QCOMPARE(celda(1, 1), QStringLiteral("5"));
+        QCOMPARE(celda(2, 1), QStringLiteral("110"));
+        esclavos_->escribir(2, 0, 101);
+        esclavos_->escribir(2, 10, 6);
+        QCOMPARE(celda(1, 1), QStringLiteral("101"));
+        QCOMPARE(celda(2, 1), QStringLiteral("6"));
+        esclavos_->escribir(2, 5.4, 54);
+        esclavos_->escribir(2, 10.5, 55); // rounds to 10, whose row it is
+        QCOMPARE(celda(1, 6), QStringLiteral("54"));
+        QCOMPARE(celda(2, 1), QStringLiteral("55"));
+        esclavos_->escribir(2, -0.5, 3);
+        QCOMPARE(celda(1, 1), QStringLiteral("3"));
     }
 
     void a65661RegisterTableShowsItsLastRegister() {

@@ -84,6 +84,10 @@ int MSFlexGrid::Col() const {
     return currentIndex().isValid() ? currentIndex().column() + 1 : 1;
 }
 
+void MSFlexGrid::agregarFilas() {
+    modelo_->agregarFilas();
+}
+
 void MSFlexGrid::refrescar() {
     modelo_->agregarFilas();
     if (isVisible())

@@ -36,7 +36,10 @@ public:
     int Row() const;
     int Col() const;
 
-    // Appends the rows that the source has gained and repaints what can be seen.
+    // The source has gained rows: the model has them from now on.
+    void agregarFilas();
+
+    // The source has changed: repaints what can be seen.
     void refrescar();
 
     // The selected cells: a tab between columns, a line feed between rows, nothing for a cell that is not selected.

@@ -12,6 +12,8 @@ int ModeloCuadricula::columnCount(const QModelIndex& padre) const {
 }
 
 QVariant ModeloCuadricula::data(const QModelIndex& indice, int papel) const {
+    if (!checkIndex(indice, CheckIndexOption::IndexIsValid | CheckIndexOption::ParentIsInvalid))
+        return {};
     switch (papel) {
     case Qt::DisplayRole:
         return fuente_.texto(indice.row() + 1, indice.column() + 1);
@@ -26,7 +28,8 @@ QVariant ModeloCuadricula::data(const QModelIndex& indice, int papel) const {
 }
 
 QVariant ModeloCuadricula::headerData(int seccion, Qt::Orientation orientacion, int papel) const {
-    if (papel != Qt::DisplayRole)
+    const int cuantas = orientacion == Qt::Horizontal ? columnCount() : rowCount();
+    if (papel != Qt::DisplayRole || seccion < 0 || seccion >= cuantas)
         return {};
     return orientacion == Qt::Horizontal ? fuente_.texto(0, seccion + 1) : fuente_.texto(seccion + 1, 0);
 }

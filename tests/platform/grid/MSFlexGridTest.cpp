@@ -125,6 +125,17 @@ private Q_SLOTS:
         QCOMPARE(esquina->accessibleName(), QStringLiteral("MW - PLC 255"));
     }
 
+    void outsideItsRowsTheModelHasNothingToSay() {
+        const QAbstractItemModel& modelo = *grid_->model();
+        QVERIFY(!modelo.data(QModelIndex()).isValid());
+        QVERIFY(!modelo.data(modelo.index(modelo.rowCount(), 0)).isValid());
+        QVERIFY(!modelo.data(modelo.index(0, modelo.columnCount())).isValid());
+        QVERIFY(!modelo.headerData(modelo.rowCount(), Qt::Vertical).isValid());
+        QVERIFY(!modelo.headerData(-1, Qt::Vertical).isValid());
+        QVERIFY(!modelo.headerData(modelo.columnCount(), Qt::Horizontal).isValid());
+        QVERIFY(modelo.headerData(modelo.rowCount() - 1, Qt::Vertical).isValid());
+    }
+
     void appendedRowsLeaveSelectionAndScrollPosition() {
         fuente_.filas_ = 100;
         grid_->refrescar();
