@@ -38,10 +38,6 @@ Moment momentOf(const CivilTime& t) {
     return {static_cast<long long>(dateSerial(t.year, t.month, t.day)), t.hour * 3600LL + t.minute * 60LL + t.second};
 }
 
-long long floorDivide(long long a, long long b) noexcept {
-    return a / b - (a % b < 0 ? 1 : 0);
-}
-
 double dateOf(long long seconds) {
     constexpr long long day = 86400;
     const long long days = floorDivide(seconds, day);

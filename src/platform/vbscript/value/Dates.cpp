@@ -34,11 +34,11 @@ void civilFromDays(long long days, CivilTime& out) noexcept {
     out.year = static_cast<int>(yearOfEra + era * 400 + (out.month <= 2 ? 1 : 0));
 }
 
-long long floorDivide(long long a, long long b) noexcept {
-    return a / b - (a % b != 0 && (a < 0) != (b < 0) ? 1 : 0);
-}
-
 } // namespace
+
+long long floorDivide(long long a, long long b) noexcept {
+    return a / b - (a % b < 0 ? 1 : 0);
+}
 
 double daysOf(double date) noexcept {
     return std::trunc(date);

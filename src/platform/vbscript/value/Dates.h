@@ -20,6 +20,9 @@ struct CivilTime {
 inline constexpr double leastDate = -657434.0;    // 0100-01-01
 inline constexpr double greatestDate = 2958466.0; // 10000-01-01, exclusive
 
+// The quotient rounded down; b is positive.
+long long floorDivide(long long a, long long b) noexcept;
+
 // Rounds to the nearest second. Raises 5 outside the range.
 CivilTime civilTime(double date);
 

@@ -1,5 +1,6 @@
 #include "platform/vbscript/value/KeyedTable.h"
 
+#include "platform/vbscript/value/Convert.h"
 #include "platform/vbscript/value/Errors.h"
 #include "platform/vbscript/value/Memory.h"
 
@@ -80,18 +81,12 @@ bool holdsReal(const Value& v) noexcept {
     return v.type == Type::Double || v.type == Type::Single || v.type == Type::Date;
 }
 
-double numberOf(const Value& v) noexcept {
-    return holdsReal(v)               ? v.d
-           : v.type == Type::Currency ? static_cast<double>(v.n) / 10000.0
-                                      : static_cast<double>(v.n);
-}
-
 // Equal numbers have equal hashes, so a whole real counts as integer.
 std::uint64_t hashOfNumber(const Value& v) noexcept {
     if (!holdsReal(v) && v.type != Type::Currency) {
         return mixed(1, static_cast<std::uint64_t>(v.n));
     }
-    const double x = numberOf(v);
+    const double x = plainNumber(v);
     const bool whole = std::fabs(x) < 9e15 && x == std::trunc(x);
     return mixed(1, whole ? static_cast<std::uint64_t>(static_cast<std::int64_t>(x)) : std::bit_cast<std::uint64_t>(x));
 }
@@ -140,7 +135,7 @@ bool KeyedTable::same(const Value& a, const Value& b) const noexcept {
     if (kindOf(a) != kindOf(b)) {
         return false;
     }
-    return isNumber(a) ? numberOf(a) == numberOf(b) : !a.isObject() || a.counted == b.counted;
+    return isNumber(a) ? plainNumber(a) == plainNumber(b) : !a.isObject() || a.counted == b.counted;
 }
 
 KeyedTable::Entry* KeyedTable::probe(const Value& key, std::uint32_t hash) noexcept {
