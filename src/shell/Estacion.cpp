@@ -17,6 +17,7 @@ void Estacion::abrirVentana(VentanaEstacion& ventana, const AutomatizacionScript
     ventana_ = &ventana;
     script_ = std::make_unique<AutomatizacionScript>(esclavos, configuracionScript_, config.rutaArchivo().parent_path(),
                                                      eventos, controles, arranque.limiteScript);
+    decir(avisoCarpeta_, arranque.avisoCarpeta);
     enlaceSerie_ = std::make_unique<EnlaceSerie>(controles.principal, config, script_->ScriptControl1(),
                                                  std::filesystem::path(arranque.rutaPrograma).filename().string(),
                                                  arranque.depurar);
@@ -31,6 +32,7 @@ void Estacion::cerrarVentana() {
 void Estacion::comprobarPuerto() {
     escucha_.levantarEscucha();
     escucha_.refrescarConexiones();
+    decir(avisoConfig_, config.fallo());
 }
 
 double Estacion::leerPuerto() {
@@ -60,10 +62,22 @@ void Estacion::anunciar(const std::string& texto) {
 }
 
 void Estacion::avisar(const std::string& motivo) {
-    if (!motivo.empty())
-        std::fprintf(stderr, "esclavo-modbus: %s\n", motivo.c_str());
+    decir(avisoPuerto_, motivo);
+}
+
+// Sets one of the notices; a new one goes to stderr, and the window shows all that there are.
+void Estacion::decir(std::string& aviso, const std::string& texto) {
+    if (aviso == texto)
+        return;
+    aviso = texto;
+    if (!texto.empty())
+        std::fprintf(stderr, "esclavo-modbus: %s\n", texto.c_str());
+    std::string todos;
+    for (const std::string* const otro : {&avisoCarpeta_, &avisoConfig_, &avisoPuerto_})
+        if (!otro->empty())
+            todos += (todos.empty() ? "" : "\n") + *otro;
     if (ventana_ != nullptr)
-        ventana_->mostrarAviso(motivo);
+        ventana_->mostrarAviso(todos);
 }
 
 void Estacion::agregarFila() {

@@ -29,11 +29,12 @@
 
 // What the program was started with.
 struct Arranque {
-    std::string rutaPrograma;     // the executable's real path
-    QString lineaDeComandos;      // the arguments as one text
-    bool instanciaPrevia = false; // another copy of the same executable is running
-    bool sinPantalla = false;     // nobody sees the windows
-    bool depurar = false;         // show every logged error in a message box
+    std::string rutaPrograma = {}; // the executable's real path
+    QString lineaDeComandos = {};  // the arguments as one text
+    std::string avisoCarpeta = {}; // what the operator must know about the folder of the settings
+    bool instanciaPrevia = false;  // another copy of the same executable is running
+    bool sinPantalla = false;      // nobody sees the windows
+    bool depurar = false;          // show every logged error in a message box
     std::chrono::milliseconds limiteScript = AutomatizacionScript::tiempoLimite; // of one script pass
 };
 
@@ -88,11 +89,16 @@ private:
     void agregarFila() override;
     void mostrarFila(std::size_t fila, const std::string& ip, const std::string& estado) override;
 
+    void decir(std::string& aviso, const std::string& texto);
+
     RelojSistema reloj_;
     Peticiones peticiones_{esclavos, monitores, reloj_};
     VentanaEstacion* ventana_ = nullptr; // borrowed; null: what there is to show is dropped
     Escucha escucha_;
     QSocketNotifier avisador_; // wakes the event loop for the reactor's sockets
+    std::string avisoCarpeta_;
+    std::string avisoConfig_; // the configuration file cannot be read or written
+    std::string avisoPuerto_;
     ConfiguracionScriptIni configuracionScript_{config};
     std::unique_ptr<AutomatizacionScript> script_;
     std::unique_ptr<EnlaceSerie> enlaceSerie_;

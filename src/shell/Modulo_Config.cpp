@@ -1,5 +1,7 @@
 #include "shell/Modulo_Config.h"
 
+#include "platform/profile/ArchivoBytes.h"
+#include "platform/profile/Archivos.h"
 #include "platform/profile/Numeros.h"
 #include "shell/Modulo_modINI.h"
 
@@ -21,7 +23,7 @@ std::filesystem::path Modulo_Config::rutaArchivo() const {
 std::string Modulo_Config::leerConfiguracion(std::string_view clave, std::string_view porDefecto) const {
     std::string valor = sGetINI(rutaArchivo(), seccionPrincipal, clave, porDefecto);
     if (valor == porDefecto)
-        WriteINI(rutaArchivo(), seccionPrincipal, clave, valor);
+        escribir(clave, valor);
     return valor;
 }
 
@@ -30,7 +32,25 @@ std::string Modulo_Config::leerConfiguracionRS232(std::string_view clave, std::s
 }
 
 void Modulo_Config::escribirConfiguracion(std::string_view clave, std::string_view valor) const {
-    WriteINI(rutaArchivo(), seccionPrincipal, clave, valor);
+    escribir(clave, valor);
+}
+
+void Modulo_Config::escribir(std::string_view clave, std::string_view valor) const {
+    const std::string_view ausente = "\n"; // no value has a line end
+    if (sGetINI(rutaArchivo(), seccionPrincipal, clave, ausente) != valor)
+        ultimaEscritura_ = WriteINI(rutaArchivo(), seccionPrincipal, clave, valor);
+}
+
+std::string Modulo_Config::fallo() const {
+    std::string bytes;
+    const std::error_code lectura = leerBytes(rutaArchivo(), bytes);
+    if (lectura && lectura != std::errc::no_such_file_or_directory)
+        return "No se puede leer " + rutaArchivo().string() + ": " + textoDeError(lectura) +
+               ". Valen los valores por defecto.";
+    if (ultimaEscritura_)
+        return "No se puede escribir " + rutaArchivo().string() + ": " + textoDeError(ultimaEscritura_) +
+               ". Los cambios no se guardan.";
+    return {};
 }
 
 std::optional<double> Modulo_Config::leerNumero(std::string_view clave, std::string_view porDefecto) const {

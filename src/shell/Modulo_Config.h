@@ -11,6 +11,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <system_error>
 
 class Modulo_Config {
 public:
@@ -18,6 +19,10 @@ public:
     explicit Modulo_Config(std::filesystem::path carpetaPrograma, char signoDecimal = '.');
 
     std::filesystem::path rutaArchivo() const;
+
+    // Why the file cannot be read, or why the last value that was to be stored could not be (Spanish); empty: all is
+    // well. Looks at the file.
+    std::string fallo() const;
 
     // The value of a key, or the default, written back when the value read equals it character for character.
     std::string leerConfiguracion(std::string_view clave, std::string_view porDefecto) const;
@@ -34,6 +39,9 @@ public:
     std::string rutaProyecto() const;
 
 private:
+    void escribir(std::string_view clave, std::string_view valor) const;
+
     std::filesystem::path carpeta_;
     char signoDecimal_;
+    mutable std::error_code ultimaEscritura_;
 };

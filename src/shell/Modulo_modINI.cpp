@@ -10,8 +10,7 @@ std::string sGetINI(const std::filesystem::path& archivo, std::string_view secci
                                                tamanoPedido, archivo));
 }
 
-void WriteINI(const std::filesystem::path& archivo, std::string_view seccion, std::string_view clave,
-              std::string_view valor) {
-    // The result is ignored on purpose: a station whose folder is read-only runs with its defaults.
-    WritePrivateProfileStringA(ansiDeUtf8(seccion), ansiDeUtf8(clave), ansiDeUtf8(valor), archivo);
+std::error_code WriteINI(const std::filesystem::path& archivo, std::string_view seccion, std::string_view clave,
+                         std::string_view valor) {
+    return WritePrivateProfileStringA(ansiDeUtf8(seccion), ansiDeUtf8(clave), ansiDeUtf8(valor), archivo);
 }

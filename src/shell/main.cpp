@@ -1,5 +1,6 @@
 // The entry of esclavo-modbus: finds out how it was started, builds the station and its main window, and runs it.
 
+#include "platform/system/CarpetaDatos.h"
 #include "platform/system/CarpetaPrograma.h"
 #include "platform/system/InstanciaPrevia.h"
 #include "platform/system/Pantalla.h"
@@ -100,12 +101,13 @@ int main(int argc, char** argv) {
 
     const std::filesystem::path ruta = rutaEjecutable();
     const InstanciaPrevia instancia(ruta);
-    Estacion estacion(carpetaPrograma(),
-                      Arranque{.rutaPrograma = ruta.string(),
-                               .lineaDeComandos = QString::fromLocal8Bit(linea.texto),
-                               .instanciaPrevia = instancia.hayOtra(),
-                               .sinPantalla = !pantalla.motivo.empty(),
-                               .depurar = qEnvironmentVariable("ESCLAVO_DEBUG") == QLatin1String("1")});
+    const CarpetaDatos datos = elegirCarpetaDatos(carpetaPrograma(), carpetaDelUsuario());
+    Estacion estacion(datos.ruta, Arranque{.rutaPrograma = ruta.string(),
+                                           .lineaDeComandos = QString::fromLocal8Bit(linea.texto),
+                                           .avisoCarpeta = datos.aviso,
+                                           .instanciaPrevia = instancia.hayOtra(),
+                                           .sinPantalla = !pantalla.motivo.empty(),
+                                           .depurar = qEnvironmentVariable("ESCLAVO_DEBUG") == QLatin1String("1")});
     FrmPrincipal principal(estacion);
     const SenalesTermino senales([&principal] { principal.detenerScript(); }, [&principal] { principal.apagar(); });
     return principal.cargar() ? QApplication::exec() : 0;

@@ -44,10 +44,10 @@ class Station:
     """A running station: `with Station() as station: … station.port …`.
 
     `config` is the text or the bytes of Sis_Config.ini; without it the file holds the port alone. `descriptors` limits
-    the process as `ulimit -n` does.
+    the process as `ulimit -n` does. `user` is the number of the user (and group) whose process it becomes.
     """
 
-    def __init__(self, config=None, arguments=(), descriptors=None, environment=None):
+    def __init__(self, config=None, arguments=(), descriptors=None, environment=None, user=None):
         self.port = free_port()
         self.folder = Path(tempfile.mkdtemp(prefix="estacion-"))
         self.ini = self.folder / "Sis_Config.ini"
@@ -62,6 +62,7 @@ class Station:
         self.arguments = list(arguments)
         self.descriptors = descriptors
         self.environment = {**os.environ, "QT_QPA_PLATFORM": "offscreen"} if environment is None else environment
+        self.user = user
         self.process = None
 
     def __enter__(self):
@@ -88,7 +89,8 @@ class Station:
             self.process = subprocess.Popen(
                 [self.binary, *self.arguments],
                 stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL, stderr=errors,
-                env=self.environment, preexec_fn=limit)
+                env=self.environment, preexec_fn=limit,
+                user=self.user, group=self.user)
 
     def second_copy(self):
         """Starts the same program once more; the caller waits for its end."""

@@ -5,8 +5,10 @@ import os
 import signal
 import socket
 import subprocess
+import tempfile
 import time
 import unittest
+from pathlib import Path
 
 from screen import Screen
 from station import BINARY, PATIENCE, Station, wait_for
@@ -31,6 +33,23 @@ class Start(unittest.TestCase):
                 self.assertIn("no se puede abrir la pantalla", station.errors())
         with Station(environment={**bare, "DISPLAY": ":9876"}, arguments=["-platform", "xcb"]) as station:
             self.assertEqual(len(station.ask(READ_TEN, 29)), 29)
+
+    def test_in_a_folder_that_cannot_be_written_the_users_own_takes_the_settings(self):
+        with tempfile.TemporaryDirectory() as home:
+            os.chmod(home, 0o777)
+            station = Station(environment={**os.environ, "QT_QPA_PLATFORM": "offscreen", "XDG_CONFIG_HOME": home},
+                              user=65534 if os.geteuid() == 0 else None)
+            station.ini.chmod(0o444)
+            (station.folder / "codigoTrelvano.txt").write_text("a = 1")
+            with open(station.folder / "stderr.txt", "wb"):
+                station.folder.chmod(0o555)
+            with station:
+                own = Path(home) / "esclavo-modbus"
+                self.assertIn(f"PUERTO_VALOR={station.port}", (own / "Sis_Config.ini").read_text())
+                wait_for(lambda: "ver=1" in (own / "Sis_Config.ini").read_text(), "the default of ver")
+                self.assertEqual((own / "codigoTrelvano.txt").read_text(), "a = 1")
+                self.assertEqual(station.errors().count("No se puede escribir en"), 1)
+                self.assertIsNone(station.setting("ver"))
 
     def test_help_and_version_print_and_end_and_other_options_are_refused(self):
         for option, result, printed in (("--help", 0, "Uso: esclavo-modbus"), ("-h", 0, "--version"),

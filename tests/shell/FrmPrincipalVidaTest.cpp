@@ -4,6 +4,7 @@
 
 #include <QCheckBox>
 #include <QElapsedTimer>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
@@ -66,6 +67,28 @@ private Q_SLOTS:
         const auto maestro = p.conectarMaestro();
         QCOMPARE(PrincipalDePrueba::pedir(*maestro, PrincipalDePrueba::lectura(1), 13).size(), 13);
         QCOMPARE(p.clave("ver"), std::string("0"));
+    }
+
+    void folderThatCannotBeWrittenIsToldInTheWindow() {
+        PrincipalDePrueba p("", Arranque{.avisoCarpeta = "No se puede escribir en /opt"});
+        QVERIFY(p.cargar());
+        QCOMPARE(p.control<QLabel>("lblDDEAviso").text(), QStringLiteral("No se puede escribir en /opt"));
+        QVERIFY(p.control<QLabel>("lblDDEAviso").isVisible());
+    }
+
+    void settingsThatCannotBeKeptAreToldInTheWindowUntilTheyCan() {
+        PrincipalDePrueba p;
+        QVERIFY(p.cargar());
+        QVERIFY(!p.control<QLabel>("lblDDEAviso").isVisible());
+        std::filesystem::permissions(p.config.rutaArchivo(), std::filesystem::perms(0444));
+        clic(p, "BtnOcultar");
+        p.tic(); // it shows itself again, since "ver" is still 1
+        QVERIFY(p.control<QLabel>("lblDDEAviso").text().contains(QStringLiteral("Los cambios no se guardan")));
+        std::filesystem::permissions(p.config.rutaArchivo(), std::filesystem::perms(0644));
+        clic(p, "BtnOcultar");
+        p.tic();
+        QCOMPARE(p.control<QLabel>("lblDDEAviso").text(), QString());
+        QVERIFY(!p.ventana->isVisible());
     }
 
     void wordViewShowsTheWindow_data() {

@@ -143,6 +143,31 @@ TEST_F(Configuracion, aFolderInTheFilesPlaceGivesDefaults) {
     EXPECT_TRUE(std::filesystem::is_directory(archivo));
 }
 
+TEST_F(Configuracion, aFileThatCannotBeReadIsTold) {
+    EXPECT_EQ(config.fallo(), "");
+    std::filesystem::create_directory(archivo);
+    EXPECT_EQ(config.fallo(), "No se puede leer " + archivo.string() +
+                                  ": Error de acceso a la ruta o al archivo. Valen los valores por defecto.");
+    std::filesystem::remove(archivo);
+    EXPECT_EQ(config.fallo(), "");
+}
+
+TEST_F(Configuracion, aValueThatCouldNotBeStoredIsToldUntilOneIs) {
+    escribirArchivo(archivo, "[Trelvano]\nver=1\n");
+    std::filesystem::permissions(archivo, std::filesystem::perms(0444));
+    config.escribirConfiguracion("ver", "1"); // nothing to store
+    EXPECT_EQ(config.fallo(), "");
+    config.escribirConfiguracion("ver", "0");
+    const std::string fallo =
+        "No se puede escribir " + archivo.string() + ": Permiso denegado. Los cambios no se guardan.";
+    EXPECT_EQ(config.fallo(), fallo);
+    config.escribirConfiguracion("ver", "1");
+    EXPECT_EQ(config.fallo(), fallo);
+    std::filesystem::permissions(archivo, std::filesystem::perms(0644));
+    config.escribirConfiguracion("ver", "0");
+    EXPECT_EQ(config.fallo(), "");
+}
+
 TEST_F(Configuracion, aReadOnlyFolderGivesDefaultsAndStaysEmpty) {
     std::filesystem::permissions(carpeta.ruta(), std::filesystem::perms(0555));
     EXPECT_EQ(enProcesoHijo([&] {

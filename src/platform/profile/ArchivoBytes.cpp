@@ -88,6 +88,20 @@ void asentarCarpeta(const std::filesystem::path& carpeta) {
         ::fsync(descriptor.numero());
 }
 
+bool prohibido(const std::error_code& error) {
+    return error == std::errc::permission_denied || error == std::errc::read_only_file_system ||
+           error == std::errc::operation_not_permitted;
+}
+
+std::error_code escribirEnElSitio(const std::filesystem::path& archivo, std::string_view bytes) {
+    const Descriptor descriptor(archivo, O_WRONLY | O_TRUNC | O_NONBLOCK);
+    if (!descriptor.abierto())
+        return ultimoError();
+    if (const std::error_code error = escribirTodo(descriptor.numero(), bytes))
+        return error;
+    return ::fsync(descriptor.numero()) == 0 ? std::error_code{} : ultimoError();
+}
+
 std::error_code comprobarReemplazable(const std::filesystem::path& ruta, std::optional<struct stat>& anterior) {
     struct stat datos {};
     if (::stat(ruta.c_str(), &datos) != 0)
@@ -137,6 +151,8 @@ std::error_code reemplazarBytes(const std::filesystem::path& archivo, std::strin
     temporal += ".tmp";
     ::unlink(temporal.c_str()); // left by a process of the same number that was killed at this very point
     std::error_code error = llenarTemporal(temporal, bytes, anterior);
+    if (anterior && prohibido(error)) // the folder takes no new file
+        return escribirEnElSitio(destino, bytes);
     if (!error && ::rename(temporal.c_str(), destino.c_str()) != 0)
         error = ultimoError();
     if (error)

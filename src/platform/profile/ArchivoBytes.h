@@ -19,7 +19,8 @@ std::error_code leerBytes(const std::filesystem::path& archivo, std::string& byt
 // Creates or replaces the file in one step: the bytes go to a temporary file in the same folder, to the disk, and then
 // take the name, so that neither a reader nor a power cut meets half a file. Permissions (and the owner, where that is
 // allowed) of a replaced file stay; a symbolic link keeps pointing to the file replaced. A file without any
-// write permission is refused with permission_denied. After an error the old file stands and no temporary one is left.
+// write permission is refused with permission_denied. A file that may be written in a folder that may not is written in
+// place. After an error the old file stands (in place: as far as it was written) and no temporary one is left.
 std::error_code reemplazarBytes(const std::filesystem::path& archivo, std::string_view bytes);
 
 // Appends to the file, which is created when missing. A full disk may leave a part of the bytes written.

@@ -62,6 +62,10 @@ std::string codificadoComo(std::string_view enDisco, std::string_view texto) {
 
 ErrorArchivo::ErrorArchivo(int numero) : std::runtime_error(mensajeDeError(numero)), numero_(numero) {}
 
+std::string textoDeError(const std::error_code& error) {
+    return mensajeDeError(numeroDeError(error));
+}
+
 bool existeArchivo(const std::filesystem::path& ruta) noexcept {
     std::error_code error;
     return ruta.native().find('\0') == std::string::npos && std::filesystem::exists(ruta, error);

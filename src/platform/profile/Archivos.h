@@ -23,6 +23,9 @@ private:
     int numero_;
 };
 
+// The message of that number for a file operation that failed with this error.
+std::string textoDeError(const std::error_code& error);
+
 // Whether the attributes of the path can be read: true for files and folders, false on any error and for an empty
 // path.
 bool existeArchivo(const std::filesystem::path& ruta) noexcept;

@@ -68,9 +68,23 @@ TEST_F(ArchivoBytes, replacingThroughALinkKeepsTheLink) {
     EXPECT_EQ(contenidoDe(carpeta / "real"), "nuevo");
 }
 
-TEST_F(ArchivoBytes, aReadOnlyFolderIsAnErrorAndLeavesTheFile) {
-    escribirArchivo(archivo, "viejo");
+TEST_F(ArchivoBytes, aFileThatMayBeWrittenInAFolderThatMayNotIsWrittenInPlace) {
+    escribirArchivo(archivo, "un texto más largo");
     fs::permissions(archivo, fs::perms(0666));
+    fs::permissions(carpeta.ruta(), fs::perms(0555));
+    EXPECT_EQ(enProcesoHijo([&] {
+                  if (!soltarPrivilegios())
+                      return 1;
+                  return reemplazarBytes(archivo, "nuevo") ? 2 : 0;
+              }),
+              0);
+    EXPECT_EQ(contenidoDe(archivo), "nuevo");
+    EXPECT_EQ(archivosEnCarpeta(), 1U);
+}
+
+TEST_F(ArchivoBytes, aReadOnlyFileIsAnErrorAndStays) {
+    escribirArchivo(archivo, "viejo");
+    fs::permissions(archivo, fs::perms(0444));
     fs::permissions(carpeta.ruta(), fs::perms(0555));
     EXPECT_EQ(enProcesoHijo([&] {
                   if (!soltarPrivilegios())
