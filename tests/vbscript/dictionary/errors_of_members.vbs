@@ -13,6 +13,8 @@ d.Add "z" : WScript.Echo Err.Number : Err.Clear '> 450
 d.CompareMode = 1 : WScript.Echo Err.Number : Err.Clear '> 5
 d.Count = 1 : WScript.Echo Err.Number : Err.Clear '> 438
 x = d.Items(2) : WScript.Echo Err.Number : Err.Clear '> 9
+d.Item = 5 : WScript.Echo Err.Number : Err.Clear '> 450
+d() = 5 : WScript.Echo Err.Number : Err.Clear '> 450
 WScript.Echo d.Keys(1), d.Items(1), d.Count '> b 2 2
 Set e = CreateObject("Scripting.Dictionary")
 e.CompareMode = -1 : WScript.Echo Err.Number : Err.Clear '> 5
