@@ -108,7 +108,8 @@ enum class Store : std::uint8_t { Raw = 0, Let = 1, Set = 2, Discard = 3 };
     OP(SetMemberN)     /* A.site C(B ... X of them) = the value after them */                                          \
     OP(GetName)        /* A = C, a name that may be variable or function */                                            \
     OP(CheckDefined)   /* error 500 if nothing has defined global C */                                                 \
-    OP(FindName)       /* A = reference to what global name C is in this call; X = 1: error 500 if it is nothing */    \
+    OP(FindName)       /* A = reference to what global name C is in this call; X = 1: error 500 if it is nothing, */   \
+                       /* X = 2: the reference is to B then, and of what is no variable A gets the value */            \
     OP(New)            /* A = new object of class C (global) */                                                        \
     OP(NewNamed)       /* A = new object of the built-in class whose name is constant C */                             \
     OP(Me)             /* A = Me */                                                                                    \
@@ -132,17 +133,19 @@ enum class Store : std::uint8_t { Raw = 0, Let = 1, Set = 2, Discard = 3 };
     OP(Let)                                                                                                            \
     OP(Add)                                                                                                            \
     OP(Subtract)                                                                                                       \
-    OP(Multiply) OP(Divide) OP(IntegerDivide) OP(Modulo) OP(And) OP(Or) OP(Xor) OP(Equal) OP(NotEqual) OP(Less)        \
-        OP(Greater) OP(LessEqual) OP(GreaterEqual) OP(Index) OP(Index2) OP(SetIndex) OP(SetIndex2) OP(JumpIf)          \
-            OP(JumpUnless) OP(ForLoop) VBS_JUMPS_ON(OP)
+    OP(Multiply)                                                                                                       \
+    OP(Divide) OP(IntegerDivide) OP(Modulo) OP(And) OP(Or) OP(Xor) OP(Equal) OP(NotEqual) OP(Less) OP(Greater)         \
+        OP(LessEqual) OP(GreaterEqual) OP(Index) OP(Index2) OP(SetIndex) OP(SetIndex2) OP(JumpIf) OP(JumpUnless)       \
+            OP(ForLoop) VBS_JUMPS_ON(OP)
 #define VBS_SMALL_FORMS(OP) OP(Add) OP(Subtract) OP(Multiply) OP(IntegerDivide) OP(Modulo) OP(And) VBS_JUMPS_ON(OP)
 #define VBS_JUMPS_ON(OP)                                                                                               \
     OP(JumpEqual)                                                                                                      \
     OP(JumpNotEqual)                                                                                                   \
     OP(JumpLess)                                                                                                       \
     OP(JumpGreater)                                                                                                    \
-    OP(JumpLessEqual) OP(JumpGreaterEqual) OP(UnlessEqual) OP(UnlessNotEqual) OP(UnlessLess) OP(UnlessGreater)         \
-        OP(UnlessLessEqual) OP(UnlessGreaterEqual)
+    OP(JumpLessEqual)                                                                                                  \
+    OP(JumpGreaterEqual) OP(UnlessEqual) OP(UnlessNotEqual) OP(UnlessLess) OP(UnlessGreater) OP(UnlessLessEqual)       \
+        OP(UnlessGreaterEqual)
 
 enum class Opcode : std::uint8_t {
 #define VBS_OPCODE(name) name,

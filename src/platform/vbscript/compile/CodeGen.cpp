@@ -99,8 +99,12 @@ void CodeGen::addImplicitLocals() {
     for (const Passed& passed : m_decl.passed) {
         const bool toIntrinsic =
             passed.callee != noSymbol && m_scope.resolve(passed.callee).kind == Resolved::Kind::Intrinsic;
+        const bool known = m_locals.contains(passed.name);
         if (!toIntrinsic && !called.contains(passed.name)) {
             consider(passed.name);
+        }
+        if (!known && m_locals.contains(passed.name)) {
+            m_locals[passed.name].late = m_scope.globals.slotOf(passed.name);
         }
     }
 }
@@ -116,6 +120,8 @@ Resolved CodeGen::resolve(Symbol symbol) {
         r.kind = r.literal != nullptr ? Resolved::Kind::Constant : Resolved::Kind::Variable;
         r.operand = r.literal != nullptr ? constantOf(*r.literal) : local->second.operand;
         r.mayRefer = local->second.mayRefer;
+        r.late = local->second.late != Globals::none;
+        r.slot = local->second.late;
         return r;
     }
     if (m_owner != nullptr) {

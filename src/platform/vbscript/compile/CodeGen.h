@@ -29,6 +29,7 @@ struct Resolved {
     Kind kind = Kind::Unknown;
     Operand operand = 0;
     const Expr* literal = nullptr; // of a Constant of this text
+    bool late = false;             // a Variable of the procedure unless `slot` is defined by then
     bool mayRefer = false;         // the register may hold a reference to a variable elsewhere
     std::uint32_t slot = 0;
     const ProcedureDecl* procedure = nullptr; // of Callable, where it is declared in this text
@@ -75,7 +76,8 @@ private:
     struct Local {
         Operand operand;
         bool mayRefer;
-        const Expr* literal; // of constants
+        const Expr* literal;                // of constants
+        std::uint32_t late = Globals::none; // the global that goes first, once it is defined
     };
     using Label = std::vector<std::size_t>; // jumps that wait for their target
 
@@ -110,6 +112,7 @@ private:
     Operand expr(const Expr* e);
     void exprTo(const Expr* e, Operand to, Store store);
     void literalTo(const Expr* e, Operand to, Store store);
+    void lateTo(const Resolved& name, Operand to);
     void nameTo(const Expr* e, Operand to, Store store);
     void binaryTo(const Expr* e, Operand to);
     bool joinTo(const Expr* e, Operand to);

@@ -254,6 +254,12 @@ CodeGen::Prepared CodeGen::arguments(const std::vector<Expr*>& args, const Resol
 void CodeGen::argumentTo(const Expr* e, Operand to, bool byValue) {
     if (!byValue && e->kind == Expr::Kind::Name) {
         const Resolved r = resolve(e->symbol);
+        if (r.late) {
+            const std::size_t mark = m_temporary;
+            lateTo(r, to);
+            m_temporary = mark;
+            return;
+        }
         if (r.kind == Resolved::Kind::Variable) {
             emit(encode(Opcode::Reference, to, r.operand));
             return;

@@ -79,10 +79,16 @@ std::optional<Operand> CodeGen::plainVariable(const Expr* e) {
         return std::nullopt;
     }
     const Resolved r = resolve(e->symbol);
-    if (r.kind != Resolved::Kind::Variable && r.kind != Resolved::Kind::Constant) {
+    if ((r.kind != Resolved::Kind::Variable && r.kind != Resolved::Kind::Constant) || r.late) {
         return std::nullopt;
     }
     return r.operand;
+}
+
+// A reference to the variable that a name without declaration means by now, or the result of the function.
+void CodeGen::lateTo(const Resolved& name, Operand to) {
+    emit(encode(Opcode::FindName, to, name.operand, operandOf(Place::Global, name.slot), 2));
+    emit(encode(Opcode::GetName, to, newTemporary(), to, packed(1, Store::Raw)));
 }
 
 Operand CodeGen::expr(const Expr* e) {
@@ -147,7 +153,11 @@ void CodeGen::literalTo(const Expr* e, Operand to, Store store) {
 
 void CodeGen::nameTo(const Expr* e, Operand to, Store store) {
     const Resolved r = resolve(e->symbol);
-    if (r.kind == Resolved::Kind::Variable || r.kind == Resolved::Kind::Constant) {
+    if (r.late) {
+        const Operand found = newTemporary();
+        lateTo(r, found);
+        deliver(found, to, store);
+    } else if (r.kind == Resolved::Kind::Variable || r.kind == Resolved::Kind::Constant) {
         deliver(r.operand, to, store);
     } else if (r.kind == Resolved::Kind::Unknown) {
         const Operand name = unresolved(r);
@@ -263,7 +273,7 @@ bool CodeGen::mayChange(const Expr* variable, const Expr* by) {
     if (r.kind == Resolved::Kind::Constant) {
         return false;
     }
-    if (r.kind == Resolved::Kind::Variable && placeOf(r.operand) == Place::Frame && !r.mayRefer &&
+    if (r.kind == Resolved::Kind::Variable && placeOf(r.operand) == Place::Frame && !r.mayRefer && !r.late &&
         !m_decl.dynamicScope) {
         return passesName(by, variable->symbol);
     }

@@ -144,10 +144,17 @@ void Vm::findName(Instruction instruction) {
         }
     }
     to.clear();
-    if (found->type != Type::Undefined) {
+    const auto mode = instruction >> 56;
+    if (mode == 2 && found->type == Type::Undefined) {
+        found = &at(operandB(instruction)).deref();
+    }
+    const GlobalKind kind = m_globals.kind(slot);
+    if (mode == 2 && found == &m_globals[slot] && (kind == GlobalKind::Constant || kind == GlobalKind::Object)) {
+        to = *found;
+    } else if (found->type != Type::Undefined) {
         to.type = Type::Reference;
         to.target = found;
-    } else if ((instruction >> 56) == 1) {
+    } else if (mode == 1) {
         raiseUndefined(slot);
     }
 }
@@ -420,6 +427,12 @@ void Vm::getName(Instruction instruction) {
         pushFrame(static_cast<const Procedure*>(static_cast<const Callable*>(named.pointer)),
                   &at(operandB(instruction)), 0, nullptr, &at(operandA(instruction)), storeOf(instruction));
         return;
+    }
+    if (countOf(instruction) == 1) {
+        if (named.type == Type::Procedure) {
+            raise(ErrorNumber::TypeMismatch); // a class
+        }
+        return; // a variable stays a reference
     }
     deliver(taken(operandC(instruction)), at(operandA(instruction)), storeOf(instruction));
 }

@@ -1,0 +1,9 @@
+Sub Llena(v)
+  v = "lleno"
+End Sub
+Sub P
+  Llena x
+  WScript.Echo x '> lleno
+End Sub
+P
+WScript.Echo TypeName(x) '> Empty
