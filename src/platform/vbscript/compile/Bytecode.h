@@ -134,9 +134,19 @@ enum class Store : std::uint8_t { Raw = 0, Let = 1, Set = 2, Discard = 3 };
     OP(Add)                                                                                                            \
     OP(Subtract)                                                                                                       \
     OP(Multiply)                                                                                                       \
-    OP(Divide) OP(IntegerDivide) OP(Modulo) OP(And) OP(Or) OP(Xor) OP(Equal) OP(NotEqual) OP(Less) OP(Greater)         \
-        OP(LessEqual) OP(GreaterEqual) OP(Index) OP(Index2) OP(SetIndex) OP(SetIndex2) OP(JumpIf) OP(JumpUnless)       \
-            OP(ForLoop) VBS_JUMPS_ON(OP)
+    OP(Divide)                                                                                                         \
+    OP(IntegerDivide)                                                                                                  \
+    OP(Modulo)                                                                                                         \
+    OP(And)                                                                                                            \
+    OP(Or)                                                                                                             \
+    OP(Xor)                                                                                                            \
+    OP(Equal)                                                                                                          \
+    OP(NotEqual)                                                                                                       \
+    OP(Less)                                                                                                           \
+    OP(Greater)                                                                                                        \
+    OP(LessEqual)                                                                                                      \
+    OP(GreaterEqual)                                                                                                   \
+    OP(Index) OP(Index2) OP(SetIndex) OP(SetIndex2) OP(JumpIf) OP(JumpUnless) OP(ForLoop) VBS_JUMPS_ON(OP)
 #define VBS_SMALL_FORMS(OP) OP(Add) OP(Subtract) OP(Multiply) OP(IntegerDivide) OP(Modulo) OP(And) VBS_JUMPS_ON(OP)
 #define VBS_JUMPS_ON(OP)                                                                                               \
     OP(JumpEqual)                                                                                                      \
@@ -144,8 +154,8 @@ enum class Store : std::uint8_t { Raw = 0, Let = 1, Set = 2, Discard = 3 };
     OP(JumpLess)                                                                                                       \
     OP(JumpGreater)                                                                                                    \
     OP(JumpLessEqual)                                                                                                  \
-    OP(JumpGreaterEqual) OP(UnlessEqual) OP(UnlessNotEqual) OP(UnlessLess) OP(UnlessGreater) OP(UnlessLessEqual)       \
-        OP(UnlessGreaterEqual)
+    OP(JumpGreaterEqual)                                                                                               \
+    OP(UnlessEqual) OP(UnlessNotEqual) OP(UnlessLess) OP(UnlessGreater) OP(UnlessLessEqual) OP(UnlessGreaterEqual)
 
 enum class Opcode : std::uint8_t {
 #define VBS_OPCODE(name) name,
