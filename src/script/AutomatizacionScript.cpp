@@ -30,6 +30,7 @@ AutomatizacionScript::AutomatizacionScript(Esclavos& esclavos, ConfiguracionScri
       mw_(vbs::makeObject<ObjetoMW>(esclavos, [this](double num) { ejecutor_.ejecucionPedidaPorScript(num); })),
       ScriptControl1_(host_), ejecutor_(ScriptControl1_, codigo_, *this, eventos_) {
     ScriptControl1_.setTimeout(limite);
+    host_.alParar([this] { detener(); });
     prepararTimers();
     connect(&ventana_.chScript, &QCheckBox::toggled, this, &AutomatizacionScript::clicChScript);
 }
@@ -40,7 +41,7 @@ void AutomatizacionScript::prepararTimers() {
     connect(&timerScript_, &QTimer::timeout, this, &AutomatizacionScript::alVencer);
     timerAplazada_.setObjectName(QStringLiteral("timerAplazada"));
     timerAplazada_.setSingleShot(true);
-    connect(&timerAplazada_, &QTimer::timeout, this, &AutomatizacionScript::ejecutarScript);
+    connect(&timerAplazada_, &QTimer::timeout, this, &AutomatizacionScript::alVencer);
 }
 
 AutomatizacionScript::~AutomatizacionScript() {
@@ -89,12 +90,12 @@ void AutomatizacionScript::armarTimer(double periodo) {
 }
 
 void AutomatizacionScript::alVencer() {
-    if (!puedePasar_)
+    if (!puedePasar_ || !reposo_.hasExpired())
         return;
     QElapsedTimer reloj;
     reloj.start();
     ejecucion_timers(EjecutorScript::TIMER_SCRIPT);
-    if (timerScript_.isActive() && reloj.elapsed() >= timerScript_.interval())
+    if (timerScript_.isActive() && (!reposo_.hasExpired() || reloj.elapsed() >= timerScript_.interval()))
         timerScript_.start();
 }
 
@@ -103,6 +104,8 @@ bool AutomatizacionScript::ejecucionActiva() const {
 }
 
 void AutomatizacionScript::mostrarResultado(bool sinError) {
+    if (host_.terminarPasada())
+        reposo_.setRemainingTime(pausaTrasPersona);
     if (editor_)
         editor_->mostrarFallo(ejecutor_.ultimoError());
     const QColor color = QColor::fromRgb(sinError ? verde : rojo);

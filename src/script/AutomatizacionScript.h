@@ -1,8 +1,9 @@
 // Script automation of the main window: the engine ScriptControl1 with "mw" in it, the script timer, the check box
 // that switches it on, the label that shows its period, and the editor.
 //
-// A pass blocks the thread until the script ends or its time is up. The timer never piles passes up: after a pass that
-// took longer than the period, the next one comes a whole period later.
+// A pass takes the thread until the script ends, is stopped or its time is up; while one of its boxes is open the rest
+// of the station goes on, and after half a second the operator can stop it (BarraScript). The timer never piles passes
+// up: after a pass that took longer than the period, the next one comes a whole period later.
 #pragma once
 
 #include "script/ConfiguracionScript.h"
@@ -10,6 +11,7 @@
 #include "script/HostScript.h"
 #include "script/ObjetoMW.h"
 
+#include <QDeadlineTimer>
 #include <QObject>
 #include <QPointer>
 #include <QTimer>
@@ -28,6 +30,10 @@ class AutomatizacionScript final : public QObject, private EntornoScript {
 
 public:
     static constexpr std::chrono::milliseconds tiempoLimite{50000}; // of one pass
+
+    // After a pass that had the operator's attention the next one waits at least so long, however short the period: he
+    // must be able to untick "Ejecutar".
+    static constexpr std::chrono::milliseconds pausaTrasPersona{1000};
 
     struct Ventana {
         QWidget& principal; // parent of every message box and of the editor
@@ -85,5 +91,6 @@ private:
     QTimer timerScript_{this};
     QTimer timerAplazada_{this}; // a pass that was put off
     QPointer<FrmEdicionCodigo> editor_;
+    QDeadlineTimer reposo_; // no pass before it has expired
     bool puedePasar_ = false;
 };

@@ -1,9 +1,16 @@
-// The host of the window's script engine: message and input boxes, and the facts of the user's country.
+// The host of the window's script engine: message and input boxes, the bar of a script that does not end, and the facts
+// of the user's country.
 #pragma once
 
 #include "platform/vbscript/value/Host.h"
 #include "script/LocaleQt.h"
 
+#include <QPointer>
+
+#include <chrono>
+#include <functional>
+
+class BarraScript;
 class QWidget;
 
 class HostScript final : public vbs::Host {
@@ -15,10 +22,22 @@ public:
     int messageBox(std::u16string_view text, int buttons, std::u16string_view title) override;
     std::u16string inputBox(std::u16string_view prompt, std::u16string_view title,
                             std::u16string_view defaultText) override;
+    // Shows the bar with which the operator can stop a script that has run for `elapsed`, boxes not counted.
+    void longRun(std::chrono::milliseconds elapsed);
     const vbs::Locale* locale(int id) override { return locales_.locale(id); }
+
+    // What stops the running script.
+    void alParar(std::function<void()> parar) { parar_ = std::move(parar); }
+
+    // To be called at the end of each pass: takes the bar from the screen. Returns whether the script has had the
+    // operator's attention since the last call: he answered a box or stopped it.
+    bool terminarPasada();
 
 private:
     QWidget* padre_;
     bool sinPantalla_;
+    std::function<void()> parar_;
+    QPointer<BarraScript> barra_; // owned by the window that it stands in
+    bool huboPersona_ = false;
     LocalesQt locales_;
 };

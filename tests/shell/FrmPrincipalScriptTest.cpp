@@ -338,6 +338,20 @@ private Q_SLOTS:
         QCOMPARE(servidos, 5);
     }
 
+    void afterABoxTheOperatorHasTimeToUntickHoweverShortThePeriod() {
+        EstacionConScript e("Codigo_Ejecutar=1\r\nEjecucion_Codigo_Milisegundos=10\r\n");
+        e.script("MsgBox \"a\"\r\nn = n + 1\r\nmw.escribir 1, 0, n");
+        QVERIFY(e.cargar());
+        CajaDeMensaje caja;
+        QTRY_COMPARE(e.registro(1, 0), 1.0);
+        QElapsedTimer reloj;
+        reloj.start();
+        QTRY_COMPARE(caja.vistas, 2);
+        QVERIFY(reloj.elapsed() >= 900);
+        QTRY_COMPARE(e.registro(1, 0), 2.0);
+        e.chScript().setChecked(false);
+    }
+
     void slowPassWaitsAWholePeriodBeforeTheNext() {
         EstacionConScript e("Codigo_Ejecutar=1\r\nEjecucion_Codigo_Milisegundos=20\r\n");
         e.script("n = n + 1\r\nmw.escribir 1, 0, n\r\nt = Timer\r\nDo While Timer - t < 0.06\r\nLoop");
