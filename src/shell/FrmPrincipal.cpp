@@ -120,6 +120,10 @@ bool FrmPrincipal::cargar() {
     TimerCambioPuerto_.start();
     atenderLineaDeComandos();
     cargarPuentes();
+    if (!isVisible() && !estacion_.arranque.sinPantalla)
+        std::fputs(
+            "esclavo-modbus: la ventana está oculta; la muestran ver=1 en Sis_Config.ini y un arranque con view.\n",
+            stderr);
     estacion_.script().empezarPasadas();
     return !apagada_;
 }

@@ -5,6 +5,7 @@
 #include "platform/system/InstanciaPrevia.h"
 #include "platform/system/Pantalla.h"
 #include "platform/window/Contraste.h"
+#include "platform/window/MensajesQt.h"
 #include "platform/window/TextosQt.h"
 #include "shell/Estacion.h"
 #include "shell/FrmPrincipal.h"
@@ -90,6 +91,7 @@ int main(int argc, char** argv) {
         palabras.insert(palabras.end(), {opcion.data(), pantalla.plataforma.data()});
     int cuantas = static_cast<int>(palabras.size());
     palabras.push_back(nullptr);
+    filtrarMensajesQt();
     QApplication aplicacion(cuantas, palabras.data());
     // NOLINTNEXTLINE(clang-analyzer-cplusplus.NewDeleteLeaks): the application owns its style
     QApplication::setStyle(new EstiloLegible);

@@ -1,6 +1,7 @@
 """Start-up, shutdown and the configuration file, seen from outside."""
 
 import contextlib
+import errno
 import os
 import signal
 import socket
@@ -23,6 +24,29 @@ class Start(unittest.TestCase):
         with Station(environment=environment) as station:
             self.assertEqual(len(station.ask(READ_TEN, 29)), 29)
             self.assertIn("no hay pantalla", station.errors())
+
+    def test_stderr_holds_the_stations_own_lines_and_no_others(self):
+        environment = {k: v for k, v in os.environ.items() if k != "XDG_RUNTIME_DIR"}
+        environment["QT_QPA_PLATFORM"] = "offscreen"
+        with Station(environment=environment) as station:
+            wait_for(lambda: station.setting("ver") is not None, "the window to be shown")
+            self.assertEqual(station.errors().splitlines(),
+                             [f"esclavo-modbus: escucha en el puerto {station.port}"])
+        with Station(config="[Trelvano]\r\nver=0\r\nPUERTO_VALOR=@PORT@\r\n", environment=environment) as station:
+            wait_for(lambda: "oculta" in station.errors(), "the line about the hidden window")
+            self.assertEqual(len(station.errors().splitlines()), 2)
+
+    def test_a_master_over_ipv6_is_served_where_there_is_one(self):
+        with Station() as station:
+            try:
+                master = socket.create_connection(("::1", station.port), timeout=PATIENCE)
+            except OSError as error:
+                if error.errno == errno.ECONNREFUSED:
+                    raise
+                self.skipTest("no IPv6 here")
+            with master:
+                master.sendall(READ_TEN)
+                self.assertTrue(master.recv(29))
 
     def test_a_screen_that_cannot_be_reached_counts_as_none(self):
         bare = {k: v for k, v in os.environ.items() if k not in ("DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM")}

@@ -6,6 +6,7 @@
 #include <QCheckBox>
 #include <QGroupBox>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScrollBar>
@@ -347,11 +348,13 @@ private Q_SLOTS:
 
     void doubleClickOnACellOpensItForWritingWithTheHelpTopic() {
         auto& grid = control<QTableView>("MSFlexGrid(1)");
-        const QPoint celda = grid.visualRect(grid.model()->index(0, 4)).center();
+        const QPoint celda = grid.visualRect(grid.model()->index(2, 4)).center();
         QTest::mouseClick(grid.viewport(), Qt::LeftButton, {}, celda);
         QTest::mouseDClick(grid.viewport(), Qt::LeftButton, {}, celda);
         auto* mw = ventana().findChild<QWidget*>(QStringLiteral("FrmMW"));
         QVERIFY(mw != nullptr && mw->isVisible());
+        QCOMPARE(mw->findChild<QLineEdit*>(QStringLiteral("TxtPlc"))->text(), QStringLiteral("1"));
+        QCOMPARE(mw->findChild<QLineEdit*>(QStringLiteral("TxtDireccion"))->text(), QStringLiteral("24"));
         QCOMPARE(mw->property("HelpContextID").toInt(), 420);
         for (const QWidget* uno : mw->findChildren<QWidget*>())
             QCOMPARE(uno->property("HelpContextID").toInt(), 420);
