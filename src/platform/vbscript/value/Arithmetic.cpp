@@ -5,6 +5,7 @@
 #include "platform/vbscript/value/WholeOperand.h"
 
 #include <cmath>
+#include <cstdlib>
 
 namespace vbs {
 
@@ -48,6 +49,22 @@ Value wholeResult(const Value& a, const Value& b, std::int64_t result) {
 
 std::int64_t scaled(const Value& v) {
     return v.type == Type::Currency ? v.n : isWholeKind(v) ? v.n * 10000 : currencyFromDouble(plainNumber(v));
+}
+
+// Of two amounts in ten-thousandths, the halves rounded to the even neighbour.
+std::int64_t productOfAmounts(std::int64_t a, std::int64_t b) {
+    constexpr int unit = 10000;
+    const auto product = static_cast<__int128>(a) * b;
+    auto quotient = product / unit;
+    const auto rest = static_cast<int>(product % unit);
+    const int twice = 2 * std::abs(rest);
+    if (twice > unit || (twice == unit && quotient % 2 != 0)) {
+        quotient += rest < 0 ? -1 : 1;
+    }
+    if (quotient != static_cast<std::int64_t>(quotient)) {
+        raise(ErrorNumber::Overflow);
+    }
+    return static_cast<std::int64_t>(quotient);
 }
 
 // A Single meets nothing wider than an Integer.
@@ -134,8 +151,7 @@ Value multiply(Context& context, const Value& a, const Value& b) {
     }
     const bool real = x.type == Type::Double || y.type == Type::Double || x.type == Type::Date || y.type == Type::Date;
     if (!real && (x.type == Type::Currency || y.type == Type::Currency)) {
-        const long double product = static_cast<long double>(scaled(x)) * static_cast<long double>(scaled(y)) / 1e8L;
-        return Value::ofCurrency(currencyFromDouble(static_cast<double>(product)));
+        return Value::ofCurrency(productOfAmounts(scaled(x), scaled(y)));
     }
     const double product = plainNumber(x) * plainNumber(y);
     return staysSingle(x, y) ? finiteSingle(product) : finite(product);
