@@ -19,3 +19,4 @@ WScript.Echo d.Keys(1), d.Items(1), d.Count '> b 2 2
 Set e = CreateObject("Scripting.Dictionary")
 e.CompareMode = -1 : WScript.Echo Err.Number : Err.Clear '> 5
 e.CompareMode = 2 : WScript.Echo Err.Number, e.CompareMode : Err.Clear '> 0 2
+e.CompareMode = 0 : WScript.Echo Err.Number, e.CompareMode : Err.Clear '> 0 0
