@@ -10,6 +10,7 @@
 namespace {
 
 constexpr std::string_view seccionPrincipal = "Trelvano";
+constexpr std::string_view seccionVentanas = "Ventanas";
 
 } // namespace
 
@@ -59,4 +60,12 @@ std::optional<double> Modulo_Config::leerNumero(std::string_view clave, std::str
 
 std::string Modulo_Config::rutaProyecto() const {
     return sGetINI(rutaArchivo(), "PROYECTO_PREDETERMINADO", "RutaProyecto", "");
+}
+
+std::string Modulo_Config::lugarDeVentana(std::string_view ventana) const {
+    return sGetINI(rutaArchivo(), seccionVentanas, ventana, "");
+}
+
+void Modulo_Config::guardarLugarDeVentana(std::string_view ventana, std::string_view lugar) const {
+    ultimaEscritura_ = WriteINI(rutaArchivo(), seccionVentanas, ventana, lugar);
 }

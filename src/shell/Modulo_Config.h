@@ -38,6 +38,10 @@ public:
     // Full path of the default project file, empty without one. Belongs to other programs: read, never written.
     std::string rutaProyecto() const;
 
+    // Size and place of a window as LugarVentanas writes them, in the section "Ventanas"; empty: none kept.
+    std::string lugarDeVentana(std::string_view ventana) const;
+    void guardarLugarDeVentana(std::string_view ventana, std::string_view lugar) const;
+
 private:
     void escribir(std::string_view clave, std::string_view valor) const;
 

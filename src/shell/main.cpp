@@ -5,6 +5,7 @@
 #include "platform/system/InstanciaPrevia.h"
 #include "platform/system/Pantalla.h"
 #include "platform/window/Contraste.h"
+#include "platform/window/LugarVentanas.h"
 #include "platform/window/MensajesQt.h"
 #include "platform/window/TextosQt.h"
 #include "shell/Estacion.h"
@@ -110,6 +111,15 @@ int main(int argc, char** argv) {
                                            .instanciaPrevia = instancia.hayOtra(),
                                            .sinPantalla = !pantalla.motivo.empty(),
                                            .depurar = qEnvironmentVariable("ESCLAVO_DEBUG") == QLatin1String("1")});
+    LugarVentanas lugares(
+        [&](const QString& ventana) {
+            return QString::fromStdString(estacion.config.lugarDeVentana(ventana.toStdString()));
+        },
+        [&](const QString& ventana, const QString& lugar) {
+            estacion.config.guardarLugarDeVentana(ventana.toStdString(), lugar.toStdString());
+        });
+    if (pantalla.motivo.empty())
+        QApplication::instance()->installEventFilter(&lugares);
     FrmPrincipal principal(estacion);
     const SenalesTermino senales([&principal] { principal.detenerScript(); }, [&principal] { principal.apagar(); });
     return principal.cargar() ? QApplication::exec() : 0;

@@ -91,6 +91,14 @@ private Q_SLOTS:
         QVERIFY(!p.ventana->isVisible());
     }
 
+    void windowFitsASmallScreen() {
+        PrincipalDePrueba p("", Arranque{.avisoCarpeta = std::string(300, 'x') + " y más"});
+        QVERIFY(p.cargar());
+        const QSize minimo = p.ventana->minimumSizeHint();
+        QVERIFY2(minimo.width() <= 950 && minimo.height() <= 510,
+                 qPrintable(QStringLiteral("%1 x %2").arg(minimo.width()).arg(minimo.height())));
+    }
+
     void wordViewShowsTheWindow_data() {
         QTest::addColumn<QString>("linea");
         for (const char* linea : {"view", "VIEW", "--preVIEWer=1", "a b xviewx c"})

@@ -168,6 +168,14 @@ TEST_F(Configuracion, aValueThatCouldNotBeStoredIsToldUntilOneIs) {
     EXPECT_EQ(config.fallo(), "");
 }
 
+TEST_F(Configuracion, placesOfWindowsHaveASectionOfTheirOwn) {
+    EXPECT_EQ(config.lugarDeVentana("FrmMW"), "");
+    EXPECT_FALSE(std::filesystem::exists(archivo));
+    config.guardarLugarDeVentana("FrmMW", "1,2,3,4");
+    EXPECT_EQ(contenidoDe(archivo), "[Ventanas]\r\nFrmMW=1,2,3,4\r\n");
+    EXPECT_EQ(config.lugarDeVentana("FrmMW"), "1,2,3,4");
+}
+
 TEST_F(Configuracion, aReadOnlyFolderGivesDefaultsAndStaysEmpty) {
     std::filesystem::permissions(carpeta.ruta(), std::filesystem::perms(0555));
     EXPECT_EQ(enProcesoHijo([&] {
