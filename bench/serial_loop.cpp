@@ -105,6 +105,7 @@ public:
     std::string leerConfiguracionRS232(std::string_view, std::string_view porDefecto) override {
         return std::string(porDefecto);
     }
+    char16_t signoDecimal() const override { return u','; }
 };
 
 class Stderr final : public LogSerie {

@@ -3,9 +3,9 @@
 // Whatever the text: a value that can stand on a line is read back after it was written, writing it again changes
 // nothing, every other key of the text keeps its value, and no line but the written one changes.
 
-#include "platform/profile/Ansi.h"
 #include "platform/profile/LineaTexto.h"
 #include "platform/profile/Perfil.h"
+#include "platform/text/CodePage.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -85,8 +85,8 @@ void comprobarOtras(std::string_view antes, std::string_view despues, std::strin
         if (abre < cierra && cierra != std::string::npos)
             otraSeccion = linea.substr(abre + 1, cierra - abre - 1);
         const std::string otra = linea.substr(0, linea.find('='));
-        const bool laMisma = igualesSinCaja(sinBlancos(otraSeccion), sinBlancos(seccion)) &&
-                             igualesSinCaja(sinBlancos(otra), sinBlancos(clave));
+        const bool laMisma = text::equalAnsiNoCase(sinBlancos(otraSeccion), sinBlancos(seccion)) &&
+                             text::equalAnsiNoCase(sinBlancos(otra), sinBlancos(clave));
         if (!laMisma)
             exigir(leerValor(antes, otraSeccion, otra) == leerValor(despues, otraSeccion, otra), "other keys stay");
     }

@@ -1,7 +1,7 @@
 // The lexer on any text: it ends, its tokens stand in order within the text, and lines and columns tell where.
 
+#include "platform/text/Utf.h"
 #include "platform/vbscript/syntax/Lexer.h"
-#include "platform/vbscript/value/String.h"
 
 #include <cstdint>
 #include <cstdio>
@@ -23,7 +23,7 @@ void require(bool met, const char* what) {
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     using Kind = vbs::Token::Kind;
-    const std::u16string text = vbs::fromUtf8(std::string_view(reinterpret_cast<const char*>(data), size));
+    const std::u16string text = text::toUtf16(std::string_view(reinterpret_cast<const char*>(data), size));
     vbs::Lexer lexer(text);
     std::size_t end = 0;
     std::uint32_t line = 1;

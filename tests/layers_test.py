@@ -2,7 +2,7 @@
 """The layers of src/, read from the includes and from the targets in the CMakeLists.txt files.
 
 A file belongs to the target that lists it; a header that none lists belongs to the target of the .cpp of the same
-name, or else to the logic of its folder, if it has any. Targets named *_ui, three of platform/ and programs that link one are
+name, or else to the logic of its folder, if it has any. Targets named *_ui, those of QT_TARGETS and programs that link one are
 windows (Qt), all others logic. For the rules see `violations`.
 
     layers_test.py SOURCE_FOLDER      checks the tree, after it has checked itself on made-up ones
@@ -25,7 +25,9 @@ FLOOR = {"platform/text", "platform/posix", "platform/events"}  # known to the o
 # The script engine's rooms, from left to right; a file includes, and a target links, only what stands left of it.
 ENGINE = "platform/vbscript"
 ROOMS = ["value", "syntax", "compile", "run", "library", ""]  # the last is the public face
-QT_PLATFORM = {"platform_grid", "platform_window", "platform_serial"}
+QT_TARGETS = {  # beside *_ui
+    "platform_grid", "platform_window", "platform_serial", "platform_locale", "script_locale"
+}
 TARGET = re.compile(r"^\s*(esclavo_library|add_library|add_executable)\s*\(\s*([\w-]+)([^)]*)\)", re.M)
 LINKS = re.compile(r"^\s*target_link_libraries\s*\(\s*([\w-]+)([^)]*)\)", re.M)
 INCLUDE = re.compile(r'^\s*#\s*include\s*([<"])([^>"]+)[>"]', re.M)
@@ -55,9 +57,9 @@ class Tree:
             qt = "QT" in words or any(w.startswith("Qt6::") for w in words + links.get(target, []))
             needed = words[words.index("LINK"):] if "LINK" in words else []
             program = kind == "add_executable"
-            windows = target.endswith("_ui") or target in QT_PLATFORM
+            windows = target.endswith("_ui") or target in QT_TARGETS
             if program:
-                windows = qt or any(w.endswith("_ui") for w in needed + links.get(target, []))
+                windows = qt or any(w.endswith("_ui") or w in QT_TARGETS for w in needed + links.get(target, []))
             elif qt:
                 self.qt_targets.add(target)
             self.targets[target] = windows

@@ -1,7 +1,8 @@
 #include "bridge/FrmConexionesPuentes.h"
 
 #include "platform/events/Eventos.h"
-#include "platform/profile/Ansi.h"
+#include "platform/text/CodePage.h"
+#include "platform/text/Numbers.h"
 #include "platform/window/Contraste.h"
 #include "platform/window/VistaTexto.h"
 
@@ -37,19 +38,11 @@ QColor colorDe(ColorPuerto color) {
     return {255, 0, 0};
 }
 
-std::array<char16_t, 256> tablaAnsi() {
-    std::array<char16_t, 256> tabla{};
-    for (std::size_t b = 0; b < tabla.size(); ++b)
-        tabla[b] = QString::fromStdString(utf8DeAnsi(std::string(1, static_cast<char>(b)))).at(0).unicode();
-    return tabla;
-}
-
-// By table, since every byte that is relayed passes here while the monitors are on.
+// In one step, since every byte that is relayed passes here while the monitors are on.
 QString deAnsi(std::string_view bytes) {
-    static const std::array<char16_t, 256> tabla = tablaAnsi();
     QString texto(static_cast<qsizetype>(bytes.size()), Qt::Uninitialized);
     std::transform(bytes.begin(), bytes.end(), texto.begin(),
-                   [](char c) { return QChar(tabla[static_cast<unsigned char>(c)]); });
+                   [](char c) { return QChar(text::fromAnsi(static_cast<std::uint8_t>(c))); });
     return texto;
 }
 
@@ -194,7 +187,8 @@ void FrmConexionesPuentes::puertoRechazado(Lado lado, const std::error_code& fal
     if (ultimoFallo_[i] == fallo)
         return;
     ultimoFallo_[i] = fallo;
-    std::fprintf(stderr, "esclavo-modbus: puente: no se puede abrir el puerto %.0f: %s\n", puente_.puerto(lado),
+    std::fprintf(stderr, "esclavo-modbus: puente: no se puede abrir el puerto %s: %s\n",
+                 text::writeNumber(puente_.puerto(lado)).c_str(),
                  fallo == std::errc::address_in_use      ? "está ocupado por otro programa"
                  : fallo == std::errc::permission_denied ? "sin permiso para puertos menores que 1024"
                                                          : fallo.message().c_str());

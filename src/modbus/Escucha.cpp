@@ -1,6 +1,6 @@
 #include "modbus/Escucha.h"
 
-#include "registers/Palabra.h"
+#include "platform/text/Numbers.h"
 
 #include <cmath>
 #include <iterator>
@@ -61,7 +61,7 @@ void Escucha::levantarEscucha() {
     if (!escuchando() || puerto != puertoEnUso_) {
         WinSockEscucha_.Close();
         std::string motivo = abrirPuerto(puerto);
-        entorno_.mostrarPuerto("Puerto: " + textoDeNumero(puerto, '.'));
+        entorno_.mostrarPuerto("Puerto: " + text::writeNumber(puerto));
         puertoEnUso_ = puerto;
         avisar(std::move(motivo));
     }
@@ -71,7 +71,7 @@ void Escucha::levantarEscucha() {
 // Returns why it could not, or nothing.
 std::string Escucha::abrirPuerto(double puerto) {
     const double entero = std::nearbyint(puerto);
-    const std::string texto = textoDeNumero(puerto, '.');
+    const std::string texto = text::writeNumber(puerto);
     if (!(entero >= 1 && entero <= 65535))
         return "El puerto " + texto + " no es válido: escriba en PUERTO_VALOR un número de 1 a 65535.";
     WinSockEscucha_.LocalPort(static_cast<std::uint16_t>(entero));

@@ -1,5 +1,6 @@
 #include "registers/Esclavos.h"
 
+#include "registers/ErrorEjecucion.h"
 #include "registers/Palabra.h"
 
 #include <algorithm>

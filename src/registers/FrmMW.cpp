@@ -1,6 +1,7 @@
 #include "registers/FrmMW.h"
 
 #include "platform/window/MsgBox.h"
+#include "registers/ErrorEjecucion.h"
 #include "registers/Esclavos.h"
 #include "registers/NumeroLocal.h"
 #include "registers/Palabra.h"

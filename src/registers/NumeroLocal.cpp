@@ -1,20 +1,12 @@
 #include "registers/NumeroLocal.h"
 
-#include "registers/Palabra.h"
-
-#include <QLocale>
-
-#include <cmath>
+#include "platform/locale/SystemLocale.h"
+#include "platform/text/Numbers.h"
 
 QString textoLocal(double x) {
-    const char signo = QLocale().decimalPoint().at(0).toLatin1(); // 0 when the sign is outside Latin-1
-    return QString::fromStdString(textoDeNumero(x, signo != 0 ? signo : '.'));
+    return QString::fromStdString(text::writeNumber(x, decimalSign()));
 }
 
 std::optional<double> numeroLocal(const QString& texto) {
-    QLocale local;
-    local.setNumberOptions(QLocale::RejectGroupSeparator);
-    bool valido = false;
-    const double x = local.toDouble(texto.trimmed(), &valido);
-    return valido && std::isfinite(x) ? std::optional(x) : std::nullopt;
+    return text::readNumber(texto.toStdString(), decimalSign());
 }

@@ -6,26 +6,9 @@
 #pragma once
 
 #include <cstdint>
-#include <stdexcept>
-#include <string>
 
-// A run-time error of a store operation or a conversion. The numbers are those that a script sees in Err.Number.
-class ErrorEjecucion : public std::runtime_error {
-public:
-    static constexpr int argumentoNoValido = 5;
-    static constexpr int desbordamiento = 6;
-    static constexpr int memoriaAgotada = 7;
-    static constexpr int indiceFueraDeIntervalo = 9;
-    static constexpr int tiposNoCoinciden = 13;
-
-    explicit ErrorEjecucion(int numero);
-    int numero() const { return numero_; }
-
-private:
-    int numero_;
-};
-
-// x as a whole number of 32 or 16 bits. Raises desbordamiento when the rounded value does not fit (NaN included).
+// x as a whole number of 32 or 16 bits. Raises ErrorEjecucion (desbordamiento) when the rounded value does not fit (NaN
+// included).
 std::int32_t redondear32(double x);
 inline std::int32_t entero32(double x) {
     // Nearly every index is whole already: one conversion there and back instead of the rounding function.
@@ -49,6 +32,3 @@ std::int16_t NBit(double palabraDecimal, std::int16_t bit);
 // The word with the bit set (valor 1) or cleared (any other valor; bits above 15 are then cleared too, because the
 // mask is 65535 less the bit's weight). Raises desbordamiento as NBit does.
 double SetearBIT_YDevolverPalabra(double palabra, std::int16_t bit, std::int16_t valor);
-
-// The number as plain text: up to 15 significant digits, no thousands separator, a fraction only if there is one.
-std::string textoDeNumero(double x, char separadorDecimal);

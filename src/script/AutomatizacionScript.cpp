@@ -1,9 +1,9 @@
 #include "script/AutomatizacionScript.h"
 
 #include "platform/events/Eventos.h"
-#include "platform/profile/Numeros.h"
+#include "platform/text/Numbers.h"
 #include "platform/window/MsgBox.h"
-#include "registers/Palabra.h"
+#include "registers/ErrorEjecucion.h"
 #include "script/FrmEdicionCodigo.h"
 #include "script/PeriodoScript.h"
 
@@ -57,9 +57,9 @@ FrmEdicionCodigo& AutomatizacionScript::editor() {
 
 void AutomatizacionScript::iniciar() {
     ScriptControl1_.addObject(u"mw", vbs::Ref<vbs::Object>(mw_.get()));
-    const double ejecutar =
-        numeroDeTexto(configuracion_.leerConfiguracion(ConfiguracionScript::claveEjecutar, "0")).value_or(0);
-    ventana_.chScript.setChecked(std::nearbyint(ejecutar) == 1);
+    const std::string ejecutar = configuracion_.leerConfiguracion(ConfiguracionScript::claveEjecutar, "0");
+    const double marcada = text::readNumber(ejecutar, configuracion_.signoDecimal()).value_or(0);
+    ventana_.chScript.setChecked(std::nearbyint(marcada) == 1);
 }
 
 // What makes the click fail is told to the user, and the timer stays as it was.
@@ -67,11 +67,12 @@ void AutomatizacionScript::clicChScript() {
     try {
         configuracion_.escribirConfiguracion(ConfiguracionScript::claveEjecutar,
                                              ventana_.chScript.isChecked() ? "1" : "0");
+        const char16_t signo = configuracion_.signoDecimal();
         const double periodo =
-            periodoDeTexto(configuracion_.leerConfiguracion(ConfiguracionScript::clavePeriodo, "500"));
+            periodoDeTexto(configuracion_.leerConfiguracion(ConfiguracionScript::clavePeriodo, "500"), signo);
         armarTimer(periodo);
         ventana_.lblBaseDeTiempo.setText(
-            QString::fromStdString("Intervalo: " + textoDeNumero(periodo, '.') + " Milisegundos"));
+            QString::fromStdString("Intervalo: " + text::writeNumber(periodo, signo) + " Milisegundos"));
     } catch (const ErrorEjecucion& error) {
         if (ventana_.sinPantalla)
             std::fprintf(stderr, "esclavo-modbus: %s: %s\n", ConfiguracionScript::clavePeriodo.data(), error.what());

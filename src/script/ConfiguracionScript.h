@@ -15,6 +15,9 @@ public:
     virtual std::string leerConfiguracion(std::string_view clave, std::string_view porDefecto) = 0;
     virtual void escribirConfiguracion(std::string_view clave, std::string_view valor) = 0;
 
+    // The decimal sign of the numbers in the file and in what the operator types.
+    virtual char16_t signoDecimal() const = 0;
+
 protected:
     ~ConfiguracionScript() = default;
 };

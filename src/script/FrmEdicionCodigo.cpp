@@ -2,9 +2,9 @@
 
 #include "platform/events/Eventos.h"
 #include "platform/profile/Archivos.h"
-#include "platform/profile/Numeros.h"
+#include "platform/text/Numbers.h"
 #include "platform/window/MsgBox.h"
-#include "registers/Palabra.h"
+#include "registers/ErrorEjecucion.h"
 #include "script/AyudaMW.h"
 #include "script/BarraBusqueda.h"
 #include "script/EditorCodigo.h"
@@ -236,9 +236,10 @@ bool FrmEdicionCodigo::puedeReemplazar() {
 // Returns whether the period stored is another one now.
 bool FrmEdicionCodigo::guardarPeriodo() {
     const std::string texto = txtIntervaloDeTiempo_->text().toStdString();
-    const double periodo = periodoDeTexto(texto);
+    const char16_t signo = configuracion_.signoDecimal();
+    const double periodo = periodoDeTexto(texto, signo);
     periodoCargado_ = txtIntervaloDeTiempo_->text();
-    if (numeroDeTexto(configuracion_.leerConfiguracion(ConfiguracionScript::clavePeriodo, "0")) == periodo)
+    if (text::readNumber(configuracion_.leerConfiguracion(ConfiguracionScript::clavePeriodo, "0"), signo) == periodo)
         return false;
     configuracion_.escribirConfiguracion(ConfiguracionScript::clavePeriodo, texto);
     return true;
@@ -252,7 +253,7 @@ void FrmEdicionCodigo::salir() {
 bool FrmEdicionCodigo::comprobarPeriodo() {
     periodoPendiente_ = false;
     const QString texto = txtIntervaloDeTiempo_->text();
-    const auto periodo = numeroDeTexto(texto.toStdString());
+    const auto periodo = text::readNumber(texto.toStdString(), configuracion_.signoDecimal());
     const bool vacio = texto.trimmed().isEmpty();
     if (periodo && *periodo >= periodoMinimo && *periodo <= periodoMaximo)
         return true;

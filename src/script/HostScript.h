@@ -16,7 +16,8 @@ class QWidget;
 class HostScript final : public vbs::Host {
 public:
     // `padre` is borrowed and may be null. Where nobody sees the windows (`sinPantalla`), a message goes to stderr and
-    // counts as confirmed, and a question is answered with its default: waiting for a person would never end.
+    // is answered with its default button, and a question is answered with its default: waiting for a person would
+    // never end.
     HostScript(QWidget* padre, bool sinPantalla) : padre_(padre), sinPantalla_(sinPantalla) {}
 
     int messageBox(std::u16string_view text, int buttons, std::u16string_view title) override;

@@ -73,22 +73,25 @@ QString nombre(std::u16string_view texto) {
     return QString::fromUtf16(texto.data(), static_cast<qsizetype>(texto.size()));
 }
 
-// The user's own locale, if the system names one and it differs from the facts that the engine brings along.
-std::optional<vbs::Locale> hechosDelSistema() {
-    const QLocale sistema = QLocale::system();
-    if (sistema.language() == QLocale::C)
-        return std::nullopt;
-    const auto numero = vbs::localeNumber(sistema.bcp47Name().toLower().toStdU16String());
-    const vbs::Locale* const propios = numero ? vbs::builtinLocale(*numero) : nullptr;
-    vbs::Locale hechos = hechosDe(sistema, numero.value_or(0));
-    if (propios != nullptr && propios->decimal == hechos.decimal)
-        return *propios;
-    return hechos;
+// The number of a locale by its own name ("es-ES"), else by its language ("ja"); 0 for one without number.
+int numeroDe(const QLocale& local) {
+    const QString completo = local.name().replace(u'_', u'-');
+    const auto numero = vbs::localeNumber(completo.toStdU16String());
+    return numero ? *numero : vbs::localeNumber(completo.section(u'-', 0, 0).toStdU16String()).value_or(0);
+}
+
+// The facts that the engine brings along for that locale, unless the user writes numbers in another way.
+vbs::Locale hechosDelUsuario() {
+    const QLocale local;
+    const int numero = numeroDe(local);
+    const vbs::Locale* const propios = numero != 0 ? vbs::builtinLocale(numero) : nullptr;
+    vbs::Locale hechos = hechosDe(local, numero);
+    return propios != nullptr && propios->decimal == hechos.decimal ? *propios : hechos;
 }
 
 std::optional<vbs::Locale> hechosDeNumero(int id) {
     if (id == 0)
-        return hechosDelSistema();
+        return hechosDelUsuario();
     if (vbs::builtinLocale(id) != nullptr)
         return std::nullopt;
     const QLocale local(nombre(vbs::localeName(id)).replace(u'-', u'_'));

@@ -7,8 +7,8 @@
 
 class LocalesQt {
 public:
-    // Facts of a locale number (0: the user's own; Spanish where the system names none), or null for a number that is
-    // not known. Valid as long as this object.
+    // Facts of a locale number (0: those of QLocale()), or null for a number that is not known. Valid as long as this
+    // object.
     const vbs::Locale* locale(int id);
 
 private:

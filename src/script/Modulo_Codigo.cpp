@@ -1,16 +1,18 @@
 #include "script/Modulo_Codigo.h"
 
 #include "platform/profile/Archivos.h"
+#include "platform/text/Case.h"
 
 #include <algorithm>
-#include <cctype>
 #include <string>
 #include <string_view>
 
 namespace {
 
+// Of bytes of UTF-8, one of them ASCII.
 bool igualSinCaja(char a, char b) {
-    return std::tolower(static_cast<unsigned char>(a)) == std::tolower(static_cast<unsigned char>(b));
+    const auto minuscula = [](char c) { return text::toLower(static_cast<unsigned char>(c)); };
+    return minuscula(a) == minuscula(b);
 }
 
 } // namespace

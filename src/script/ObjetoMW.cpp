@@ -1,6 +1,7 @@
 #include "script/ObjetoMW.h"
 
 #include "platform/vbscript/value/Convert.h"
+#include "registers/ErrorEjecucion.h"
 #include "registers/Esclavos.h"
 #include "registers/Palabra.h"
 

@@ -1,12 +1,13 @@
 #include "script/PeriodoScript.h"
 
-#include "platform/profile/Numeros.h"
+#include "platform/text/Numbers.h"
+#include "registers/ErrorEjecucion.h"
 #include "registers/Palabra.h"
 
 #include <algorithm>
 
-double periodoDeTexto(std::string_view texto) {
-    const auto periodo = numeroDeTexto(texto);
+double periodoDeTexto(std::string_view texto, char16_t signoDecimal) {
+    const auto periodo = text::readNumber(texto, signoDecimal);
     if (!periodo)
         throw ErrorEjecucion(ErrorEjecucion::tiposNoCoinciden);
     return *periodo;

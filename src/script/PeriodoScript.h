@@ -10,7 +10,7 @@ constexpr double periodoMaximo = 60000;
 constexpr double periodoPorDefecto = 1000;
 
 // The number of a period's text. Raises tiposNoCoinciden when the text is not numeric.
-double periodoDeTexto(std::string_view texto);
+double periodoDeTexto(std::string_view texto, char16_t signoDecimal);
 
 // The interval of a timer: the period rounded to a whole number, halves to the even neighbour, and at least
 // periodoMinimo, so that 0 or a negative period in the file leaves time for everything else. Raises desbordamiento when

@@ -1,9 +1,13 @@
 #include "script/WScript.h"
 
+#include "platform/text/Utf.h"
 #include "platform/vbscript/value/Context.h"
 #include "platform/vbscript/value/Convert.h"
 
+#include <chrono>
+#include <filesystem>
 #include <ostream>
+#include <thread>
 
 namespace {
 
@@ -29,7 +33,7 @@ public:
                 if (m_next == m_items.size()) {
                     return false;
                 }
-                element = vbs::Value::ofString(std::u16string_view(vbs::fromUtf8(m_items[m_next++])));
+                element = vbs::Value::ofString(std::u16string_view(text::toUtf16(m_items[m_next++])));
                 return true;
             }
 
@@ -46,7 +50,7 @@ private:
         if (index < 0 || static_cast<std::size_t>(index) >= m_items.size()) {
             vbs::raise(vbs::ErrorNumber::OutOfRange);
         }
-        return vbs::Value::ofString(std::u16string_view(vbs::fromUtf8(m_items[static_cast<std::size_t>(index)])));
+        return vbs::Value::ofString(std::u16string_view(text::toUtf16(m_items[static_cast<std::size_t>(index)])));
     }
     vbs::Value count(vbs::Context& /*context*/, vbs::Access /*access*/, vbs::Arguments /*arguments*/) {
         return vbs::Value::ofLong(static_cast<std::int32_t>(m_items.size()));
@@ -57,15 +61,23 @@ private:
 
 } // namespace
 
-WScript::WScript(std::ostream& out, const std::vector<std::string>& arguments) : m_out(out), m_arguments(arguments) {}
+WScript::WScript(std::istream& in, std::ostream& out, std::ostream& errors, std::vector<std::string> arguments)
+    : m_out(out), m_standardInput(vbs::makeObject<InputStream>(in, out)),
+      m_standardOutput(vbs::makeObject<OutputStream>(out)), m_standardError(vbs::makeObject<OutputStream>(errors)),
+      m_arguments(std::move(arguments)) {}
 
 std::span<const WScript::Member> WScript::members() {
     static constexpr Member table[] = {
         {u"", nullptr, vbs::readOnly, 0, 0},
         {u"Echo", &WScript::echo, vbs::readOnly, 0, 255},
         {u"Quit", &WScript::quit, vbs::readOnly, 0, 1},
+        {u"Sleep", &WScript::sleep, vbs::readOnly, 1, 1},
         {u"Arguments", &WScript::scriptArguments, vbs::readOnly, 0, 1},
         {u"ScriptName", &WScript::scriptName, vbs::readOnly, 0, 0},
+        {u"ScriptFullName", &WScript::scriptFullName, vbs::readOnly, 0, 0},
+        {u"StdIn", &WScript::standardInput, vbs::readOnly, 0, 0},
+        {u"StdOut", &WScript::standardOutput, vbs::readOnly, 0, 0},
+        {u"StdErr", &WScript::standardError, vbs::readOnly, 0, 0},
     };
     return table;
 }
@@ -94,7 +106,37 @@ vbs::Value WScript::scriptArguments(vbs::Context& context, vbs::Access access, v
     return arguments.empty() ? list.value() : list->invoke(context, vbs::Object::defaultMember, access, arguments);
 }
 
+vbs::Value WScript::sleep(vbs::Context& context, vbs::Access /*access*/, vbs::Arguments arguments) {
+    const std::int32_t milliseconds = vbs::toLong(context, arguments[0]);
+    if (milliseconds < 0) {
+        vbs::raise(vbs::ErrorNumber::InvalidCall);
+    }
+    m_out.flush();
+    std::this_thread::sleep_for(std::chrono::milliseconds(milliseconds));
+    return {};
+}
+
 vbs::Value WScript::scriptName(vbs::Context& /*context*/, vbs::Access /*access*/, vbs::Arguments /*arguments*/) {
     return vbs::Value::ofString(
-        std::u16string_view(m_arguments.empty() ? std::u16string() : vbs::fromUtf8(m_arguments[0])));
+        std::u16string_view(text::toUtf16(std::filesystem::path(m_script).filename().string())));
+}
+
+vbs::Value WScript::scriptFullName(vbs::Context& /*context*/, vbs::Access /*access*/, vbs::Arguments /*arguments*/) {
+    std::error_code failed;
+    const std::filesystem::path full = std::filesystem::absolute(m_script, failed);
+    const bool file = m_script != "-" && !failed;
+    return vbs::Value::ofString(std::u16string_view(text::toUtf16(file ? full.lexically_normal().string() : m_script)));
+}
+
+vbs::Value WScript::standardInput(vbs::Context& /*context*/, vbs::Access /*access*/, vbs::Arguments /*arguments*/) {
+    return m_standardInput.value();
+}
+
+vbs::Value WScript::standardOutput(vbs::Context& /*context*/, vbs::Access /*access*/, vbs::Arguments /*arguments*/) {
+    return m_standardOutput.value();
+}
+
+vbs::Value WScript::standardError(vbs::Context& /*context*/, vbs::Access /*access*/, vbs::Arguments /*arguments*/) {
+    m_out.flush(); // what was said before comes before
+    return m_standardError.value();
 }

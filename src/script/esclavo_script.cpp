@@ -1,17 +1,19 @@
-// esclavo-script: runs VBScript files without the station.
-//
-//   esclavo-script [--comprobar] [--pasadas N] ARCHIVO...
-//
-// --comprobar only compiles; --pasadas runs every text N times in the same engine, as the station does; - reads
-// standard input. Exit status: 0 good, 1 script error, 2 usage.
+// esclavo-script: runs VBScript files without the station, on registers of its own. The texts of --help below and the
+// manual page packaging/esclavo-script.1 tell what it takes.
+#include "platform/locale/SystemLocale.h"
+#include "platform/text/Encoding.h"
+#include "platform/text/Numbers.h"
+#include "platform/text/Utf.h"
 #include "platform/vbscript/ScriptControl.h"
-#include "platform/vbscript/value/Ansi.h"
 #include "registers/Esclavos.h"
+#include "script/HostTerminal.h"
 #include "script/ObjetoMW.h"
 #include "script/WScript.h"
 
 #include <array>
 #include <charconv>
+#include <chrono>
+#include <cmath>
 #include <fstream>
 #include <iostream>
 #include <iterator>
@@ -22,39 +24,67 @@
 
 namespace {
 
+constexpr std::string_view help =
+    "Uso: esclavo-script [OPCIÓN]... ARCHIVO... [-- ARGUMENTO...]\n"
+    "Ejecuta archivos VBScript sin la estación, uno tras otro en el mismo motor. «-» es la entrada estándar.\n"
+    "\n"
+    "  --comprobar   sólo compila\n"
+    "  --pasadas N   ejecuta cada texto N veces, como la estación\n"
+    "  --tiempo      dice al final lo que tardaron la compilación y las pasadas\n"
+    "  --help, -h    muestra esta ayuda\n"
+    "  --version     muestra la versión\n"
+    "\n"
+    "Los argumentos tras «--» llegan al script en WScript.Arguments.\n"
+    "Termina con 0, con 1 tras un error del script, con 2 si la orden está mal escrita, o con lo que diga "
+    "WScript.Quit.\n";
+
 struct Options {
+    bool help = false;
+    bool version = false;
     bool checkOnly = false;
+    bool times = false;
     long passes = 1;
     std::vector<std::string> files;
+    std::vector<std::string> arguments; // behind "--"
 };
 
-int usage() {
-    std::cerr << "Uso: esclavo-script [--comprobar] [--pasadas N] ARCHIVO...\n"
-                 "  --comprobar   sólo compila\n"
-                 "  --pasadas N   ejecuta el texto N veces en el mismo motor\n"
-                 "  -             lee la entrada estándar\n";
-    return 2;
+// Takes the option at `i`; false for one that does not exist or lacks what belongs to it.
+bool takeOption(Options& options, std::span<char*> arguments, std::size_t& i) {
+    const std::string_view option = arguments[i];
+    if (option == "--help" || option == "-h") {
+        options.help = true;
+    } else if (option == "--version") {
+        options.version = true;
+    } else if (option == "--comprobar") {
+        options.checkOnly = true;
+    } else if (option == "--tiempo") {
+        options.times = true;
+    } else if (option == "--pasadas" && i + 1 < arguments.size()) {
+        const std::string_view count = arguments[++i];
+        const auto [end, error] = std::from_chars(count.data(), count.data() + count.size(), options.passes);
+        return error == std::errc() && end == count.data() + count.size() && options.passes >= 1;
+    } else {
+        return false;
+    }
+    return true;
 }
 
 std::optional<Options> parse(std::span<char*> arguments) {
     Options options;
     for (std::size_t i = 0; i < arguments.size(); ++i) {
         const std::string_view argument = arguments[i];
-        if (argument == "--comprobar") {
-            options.checkOnly = true;
-        } else if (argument == "--pasadas" && i + 1 < arguments.size()) {
-            const std::string_view count = arguments[++i];
-            const auto [end, error] = std::from_chars(count.data(), count.data() + count.size(), options.passes);
-            if (error != std::errc() || end != count.data() + count.size() || options.passes < 1) {
-                return std::nullopt;
-            }
-        } else if (argument.starts_with("--")) {
-            return std::nullopt;
-        } else {
+        if (argument == "--") {
+            options.arguments.assign(arguments.begin() + static_cast<std::ptrdiff_t>(i) + 1, arguments.end());
+            break;
+        }
+        if (argument == "-" || !argument.starts_with('-')) {
             options.files.emplace_back(argument);
+        } else if (!takeOption(options, arguments, i)) {
+            return std::nullopt;
         }
     }
-    return options.files.empty() ? std::nullopt : std::optional(options);
+    const bool complete = options.help || options.version || !options.files.empty();
+    return complete ? std::optional(options) : std::nullopt;
 }
 
 std::optional<std::string> read(const std::string& file) {
@@ -70,46 +100,103 @@ std::optional<std::string> read(const std::string& file) {
     return in.eof() ? std::optional(text) : std::nullopt; // a folder opens, but cannot be read
 }
 
+// The line of the script, or what stands around the place in a very long one, and a caret under the column (from 1).
+std::string withCaret(std::u16string_view line, std::size_t column) {
+    constexpr std::size_t around = 100;
+    const std::size_t place = std::min(column - 1, line.size());
+    const std::size_t first = place > around ? place - around : 0;
+    const std::u16string_view shown = line.substr(first, 2 * around);
+    std::u16string blanks;
+    for (const char16_t unit : shown.substr(0, place - first)) {
+        const bool secondHalf = unit >= 0xDC00 && unit < 0xE000; // of a character outside the first 65,536
+        blanks.append(secondHalf ? 0 : 1, unit == u'\t' ? u'\t' : u' ');
+    }
+    return text::toUtf8(shown) + '\n' + text::toUtf8(blanks) + "^\n";
+}
+
 void report(const std::string& file, const vbs::ScriptFailure& failure) {
     std::cout.flush();
     std::cerr << file << ':' << failure.line << ':' << failure.column << ": error " << failure.number << ": "
-              << vbs::toUtf8(failure.description) << '\n';
+              << text::toUtf8(failure.description) << '\n';
+    if (failure.line > 0 && failure.column > 0 && !failure.lineText.empty()) {
+        std::cerr << withCaret(failure.lineText, failure.column);
+    }
 }
 
-// Runs one file; false after an error.
-bool runFile(vbs::ScriptControl& control, const WScript& wscript, const std::string& file, const Options& options) {
-    const auto text = read(file);
-    if (!text) {
-        std::cerr << file << ": no se puede leer el archivo\n";
-        return false;
-    }
-    const std::u16string script = vbs::decodeScript(*text);
-    if (options.checkOnly) {
-        if (control.check(script)) {
-            return true;
-        }
-        report(file, control.error());
-        return false;
-    }
-    for (long pass = 0; pass < options.passes && !wscript.hasQuit(); ++pass) {
-        if (!control.addCode(script) && !wscript.hasQuit()) {
-            report(file, control.error());
+class Runner {
+public:
+    Runner(vbs::ScriptControl& control, WScript& wscript, const Options& options)
+        : m_control(control), m_wscript(wscript), m_options(options) {}
+
+    // Runs one file; false after an error.
+    bool run(const std::string& file) {
+        const auto bytes = read(file);
+        if (!bytes) {
+            std::cerr << file << ": no se puede leer el archivo\n";
             return false;
         }
+        const std::u16string script = text::toUtf16(text::decoded(*bytes));
+        m_wscript.setScript(file);
+        if ((m_options.checkOnly || m_options.times) && !compile(file, script)) {
+            return false;
+        }
+        return m_options.checkOnly || runPasses(file, script);
     }
-    return true;
-}
 
-} // namespace
+private:
+    using Clock = std::chrono::steady_clock;
 
-int main(int argc, char** argv) {
-    std::ios::sync_with_stdio(false);
-    const auto options = parse(std::span(argv, static_cast<std::size_t>(argc)).subspan(1));
-    if (!options) {
-        return usage();
+    static std::string milliseconds(Clock::duration duration) {
+        const double thousandths = std::chrono::duration<double, std::micro>(duration).count();
+        return text::writeNumber(std::round(thousandths) / 1000, decimalSign()) + " ms";
     }
-    vbs::Host host;
-    const auto wscript = vbs::makeObject<WScript>(std::cout, options->files);
+
+    bool compile(const std::string& file, std::u16string_view script) {
+        const auto start = Clock::now();
+        const bool good = m_control.check(script);
+        const auto took = Clock::now() - start;
+        if (!good) {
+            report(file, m_control.error());
+        }
+        if (m_options.times) {
+            std::cerr << file << ": compilación: " << milliseconds(took) << '\n';
+        }
+        return good;
+    }
+
+    bool runPasses(const std::string& file, std::u16string_view script) {
+        const auto start = Clock::now();
+        Clock::duration first{};
+        long done = 0;
+        bool good = true;
+        while (good && done < m_options.passes && !m_wscript.hasQuit()) {
+            good = m_control.addCode(script) || m_wscript.hasQuit();
+            first = done++ == 0 ? Clock::now() - start : first;
+        }
+        const auto all = Clock::now() - start;
+        if (!good) {
+            report(file, m_control.error());
+        }
+        if (m_options.times) {
+            std::cout.flush();
+            std::cerr << file << ": pasadas: " << done << " en " << milliseconds(all) << ", la primera (compila) en "
+                      << milliseconds(first);
+            if (done > 1) {
+                std::cerr << ", las demás en " << milliseconds((all - first) / (done - 1)) << " de media";
+            }
+            std::cerr << '\n';
+        }
+        return good;
+    }
+
+    vbs::ScriptControl& m_control;
+    WScript& m_wscript;
+    const Options& m_options;
+};
+
+int runAll(const Options& options) {
+    HostTerminal host(std::cin, std::cerr, std::cout);
+    const auto wscript = vbs::makeObject<WScript>(std::cin, std::cout, std::cerr, options.arguments);
     Esclavos esclavos;
     const auto mw = vbs::makeObject<ObjetoMW>(esclavos, [](double) {}); // no timer runs here
     bool good = true;
@@ -117,8 +204,9 @@ int main(int argc, char** argv) {
         vbs::ScriptControl control(host);
         control.addObject(u"WScript", vbs::Ref<vbs::Object>(wscript.get()));
         control.addObject(u"mw", vbs::Ref<vbs::Object>(mw.get()));
-        for (const std::string& file : options->files) {
-            good = runFile(control, *wscript, file, *options) && good;
+        Runner runner(control, *wscript, options);
+        for (const std::string& file : options.files) {
+            good = runner.run(file) && good;
             if (wscript->hasQuit()) {
                 break;
             }
@@ -126,4 +214,25 @@ int main(int argc, char** argv) {
     }
     std::cout.flush();
     return wscript->hasQuit() ? wscript->exitCode() : good ? 0 : 1;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    std::ios::sync_with_stdio(false);
+    useSystemLocale();
+    const auto options = parse(std::span(argv, static_cast<std::size_t>(argc)).subspan(1));
+    if (!options) {
+        std::cerr << help;
+        return 2;
+    }
+    if (options->help) {
+        std::cout << help;
+        return 0;
+    }
+    if (options->version) {
+        std::cout << "esclavo-script " ESCLAVO_VERSION "\n";
+        return 0;
+    }
+    return runAll(*options);
 }

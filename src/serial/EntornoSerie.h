@@ -12,6 +12,9 @@ public:
     // The key is stored as "RS232_" followed by the one given.
     virtual std::string leerConfiguracionRS232(std::string_view clave, std::string_view porDefecto) = 0;
 
+    // The decimal sign of the numbers in the file.
+    virtual char16_t signoDecimal() const = 0;
+
 protected:
     ~ConfiguracionSerie() = default;
 };

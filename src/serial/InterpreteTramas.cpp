@@ -1,7 +1,7 @@
 #include "serial/InterpreteTramas.h"
 
-#include "platform/profile/Ansi.h"
-#include "registers/Palabra.h"
+#include "platform/text/CodePage.h"
+#include "platform/text/Numbers.h"
 #include "serial/Modulo_RS232.h"
 
 #include <algorithm>
@@ -39,7 +39,7 @@ std::string InterpreteTramas::interpretarTrama(std::string_view trama) {
 
 void InterpreteTramas::darValor_A_Variable(std::string_view lectura, std::string_view validez) {
     try {
-        motor_.AddCode(utf8DeAnsi(asignaciones(lectura, validez)));
+        motor_.AddCode(text::utf8FromAnsi(asignaciones(lectura, validez)));
     } catch (const std::exception& error) {
         throw LecturaRechazada(lectura, error.what());
     }
@@ -59,5 +59,6 @@ std::string InterpreteTramas::asignaciones(std::string_view lectura, std::string
 
 // Read for every frame text, so that a change of the file takes effect with the next one.
 std::string InterpreteTramas::leerValidez() {
-    return textoDeNumero(numeroDeAjuste(configuracion_.leerConfiguracionRS232("Cant_Intervalos_Validez", "2")), '.');
+    return text::writeNumber(numeroDeAjuste(configuracion_.leerConfiguracionRS232("Cant_Intervalos_Validez", "2"),
+                                            configuracion_.signoDecimal()));
 }

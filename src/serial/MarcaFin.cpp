@@ -1,13 +1,17 @@
 #include "serial/MarcaFin.h"
 
-#include "platform/profile/Ansi.h"
+#include "platform/text/Case.h"
+#include "platform/text/CodePage.h"
 
 namespace {
 
 std::array<bool, 256> ambasCajas(unsigned char codigo) {
+    const auto minuscula = [](std::size_t ansi) {
+        return text::toLower(text::fromAnsi(static_cast<std::uint8_t>(ansi)));
+    };
     std::array<bool, 256> iguales{};
     for (std::size_t otro = 0; otro < iguales.size(); ++otro)
-        iguales.at(otro) = minusculaAnsi(static_cast<unsigned char>(otro)) == minusculaAnsi(codigo);
+        iguales.at(otro) = minuscula(otro) == minuscula(codigo);
     return iguales;
 }
 

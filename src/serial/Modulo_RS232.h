@@ -16,6 +16,7 @@ struct ConfiguracionRS232 {
     std::string Paridad; // letter
     std::string DataBits;
     std::string StopBit;
+    char16_t signoDecimal = u','; // of the numbers above
 
     static ConfiguracionRS232 leer(ConfiguracionSerie& configuracion);
 
@@ -27,7 +28,7 @@ struct ConfiguracionRS232 {
 };
 
 // The number that a setting stands for. Raises ErrorEjecucion (tiposNoCoinciden).
-double numeroDeAjuste(std::string_view texto);
+double numeroDeAjuste(std::string_view texto, char16_t signoDecimal);
 
 // The end mark of the keys "Caracter_Fin_TRAMA_1" and "Caracter_Fin_TRAMA_2". A value that is no character code 0 to
 // 255 goes to the log and its default (10, 13) takes its place.

@@ -1,6 +1,6 @@
 #include "serial/frmRS232.h"
 
-#include "platform/profile/Ansi.h"
+#include "platform/text/CodePage.h"
 #include "platform/window/VistaTexto.h"
 
 #include <QHBoxLayout>
@@ -68,7 +68,7 @@ QString conHora(const QString& texto) {
 QString legible(std::string_view lectura) {
     constexpr std::size_t maximo = 60;
     QString texto;
-    for (const QChar c : deUtf8(utf8DeAnsi(lectura.substr(0, maximo))))
+    for (const QChar c : deUtf8(text::utf8FromAnsi(lectura.substr(0, maximo))))
         texto += c.isPrint() ? QString(c) : QStringLiteral("<%1>").arg(c.unicode());
     return lectura.size() > maximo ? texto + QChar(0x2026) : texto;
 }
@@ -217,11 +217,11 @@ void frmRS232::timerEstado_Timer() {
 }
 
 void frmRS232::agregarRecibido(std::string_view trozo) {
-    txtInputCom_->agregar(deUtf8(utf8DeAnsi(trozo)));
+    txtInputCom_->agregar(deUtf8(text::utf8FromAnsi(trozo)));
 }
 
 void frmRS232::agregarListado(std::string_view listado) {
-    txtTramas_->agregar(deUtf8(utf8DeAnsi(listado)));
+    txtTramas_->agregar(deUtf8(text::utf8FromAnsi(listado)));
 }
 
 void frmRS232::rechazar(std::string_view lectura, std::string_view causa) {

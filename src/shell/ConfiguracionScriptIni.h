@@ -17,6 +17,8 @@ public:
         config_.escribirConfiguracion(clave, valor);
     }
 
+    char16_t signoDecimal() const override { return config_.signoDecimal(); }
+
 private:
     const Modulo_Config& config_;
 };

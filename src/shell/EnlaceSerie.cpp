@@ -39,6 +39,10 @@ std::string EnlaceSerie::leerConfiguracionRS232(std::string_view clave, std::str
     return config_.leerConfiguracionRS232(clave, porDefecto);
 }
 
+char16_t EnlaceSerie::signoDecimal() const {
+    return config_.signoDecimal();
+}
+
 void EnlaceSerie::escribirLog(std::string_view origen, std::string_view mensaje, std::string_view detalle,
                               std::string_view descripcionError) {
     bool escrito = false; // a log that cannot be written troubles nobody

@@ -37,6 +37,7 @@ private:
     // ConfiguracionSerie
     std::string leerConfiguracion(std::string_view clave, std::string_view porDefecto) override;
     std::string leerConfiguracionRS232(std::string_view clave, std::string_view porDefecto) override;
+    char16_t signoDecimal() const override;
     // LogSerie
     void escribirLog(std::string_view origen, std::string_view mensaje, std::string_view detalle,
                      std::string_view descripcionError) override;

@@ -1,13 +1,13 @@
 #include "shell/Estacion.h"
 
 #include "bridge/Puente.h"
-#include "registers/Palabra.h"
+#include "platform/locale/SystemLocale.h"
 
 #include <cstdio>
 #include <utility>
 
 Estacion::Estacion(const std::filesystem::path& carpeta, Arranque conQue)
-    : arranque(std::move(conQue)), config(carpeta),
+    : arranque(std::move(conQue)), config(carpeta, decimalSign()),
       escucha_(reactor, peticiones_, *this, eventos, arranque.rutaPrograma),
       avisador_(reactor.descriptor(), QSocketNotifier::Read) {
     QObject::connect(&avisador_, &QSocketNotifier::activated, &avisador_, [this] { reactor.turn(); });
@@ -40,7 +40,7 @@ double Estacion::leerPuerto() {
 }
 
 void Estacion::guardarPuerto(double puerto) {
-    config.escribirConfiguracion("PUERTO_VALOR", textoDeNumero(puerto, '.'));
+    config.escribirNumero("PUERTO_VALOR", puerto);
 }
 
 void Estacion::mostrarPuerto(const std::string& texto) {

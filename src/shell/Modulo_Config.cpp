@@ -2,7 +2,7 @@
 
 #include "platform/profile/ArchivoBytes.h"
 #include "platform/profile/Archivos.h"
-#include "platform/profile/Numeros.h"
+#include "platform/text/Numbers.h"
 #include "shell/Modulo_modINI.h"
 
 #include <utility>
@@ -14,7 +14,7 @@ constexpr std::string_view seccionVentanas = "Ventanas";
 
 } // namespace
 
-Modulo_Config::Modulo_Config(std::filesystem::path carpetaPrograma, char signoDecimal)
+Modulo_Config::Modulo_Config(std::filesystem::path carpetaPrograma, char16_t signoDecimal)
     : carpeta_(std::move(carpetaPrograma)), signoDecimal_(signoDecimal) {}
 
 std::filesystem::path Modulo_Config::rutaArchivo() const {
@@ -55,7 +55,11 @@ std::string Modulo_Config::fallo() const {
 }
 
 std::optional<double> Modulo_Config::leerNumero(std::string_view clave, std::string_view porDefecto) const {
-    return numeroDeTexto(leerConfiguracion(clave, porDefecto), signoDecimal_);
+    return text::readNumber(leerConfiguracion(clave, porDefecto), signoDecimal_);
+}
+
+void Modulo_Config::escribirNumero(std::string_view clave, double numero) const {
+    escribirConfiguracion(clave, text::writeNumber(numero, signoDecimal_));
 }
 
 std::string Modulo_Config::rutaProyecto() const {

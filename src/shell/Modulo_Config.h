@@ -15,8 +15,8 @@
 
 class Modulo_Config {
 public:
-    // `signoDecimal`: '.' or ',', the locale's, for the keys that are numbers.
-    explicit Modulo_Config(std::filesystem::path carpetaPrograma, char signoDecimal = '.');
+    // `signoDecimal`: the locale's, for the keys that are numbers.
+    explicit Modulo_Config(std::filesystem::path carpetaPrograma, char16_t signoDecimal = u',');
 
     std::filesystem::path rutaArchivo() const;
 
@@ -35,6 +35,11 @@ public:
     // leerConfiguracion as a number; nothing when the text is not numeric (a type mismatch to its reader).
     std::optional<double> leerNumero(std::string_view clave, std::string_view porDefecto) const;
 
+    // The number in the form that leerNumero reads.
+    void escribirNumero(std::string_view clave, double numero) const;
+
+    char16_t signoDecimal() const { return signoDecimal_; }
+
     // Full path of the default project file, empty without one. Belongs to other programs: read, never written.
     std::string rutaProyecto() const;
 
@@ -46,6 +51,6 @@ private:
     void escribir(std::string_view clave, std::string_view valor) const;
 
     std::filesystem::path carpeta_;
-    char signoDecimal_;
+    char16_t signoDecimal_;
     mutable std::error_code ultimaEscritura_;
 };

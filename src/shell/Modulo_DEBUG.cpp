@@ -1,8 +1,8 @@
 #include "shell/Modulo_DEBUG.h"
 
-#include "platform/profile/Ansi.h"
 #include "platform/profile/ArchivoBytes.h"
 #include "platform/profile/Archivos.h"
+#include "platform/text/CodePage.h"
 
 #include <array>
 #include <exception>
@@ -56,9 +56,9 @@ bool Modulo_DEBUG::anotar(const std::string& texto) {
     const std::string ejecutable = entorno_.nombreEjecutable();
     const std::string global = formateada(entorno_.ahora(), "%y%m%d") + " Archivo_Log_Global.txt";
     const std::string propio = formateada(entorno_.ahora(), "%y%m%d") + " " + ejecutable + " ArchivoLog.txt";
-    const std::string linea =
-        ansiDeUtf8("Log: " + formateada(entorno_.ahora(), "%d/%m/%Y %H:%M:%S") + "," + ejecutable + "," + texto) +
-        "\r\n";
+    const std::string linea = text::ansiFromUtf8("Log: " + formateada(entorno_.ahora(), "%d/%m/%Y %H:%M:%S") + "," +
+                                                 ejecutable + "," + texto) +
+                              "\r\n";
     const bool enGlobal = !anexarBytes(carpeta / global, linea);
     const bool enPropio = !anexarBytes(carpeta / propio, linea);
     return enGlobal && enPropio;

@@ -1,16 +1,17 @@
 #include "shell/Modulo_modINI.h"
 
-#include "platform/profile/Ansi.h"
 #include "platform/profile/Perfil.h"
+#include "platform/text/CodePage.h"
 
 std::string sGetINI(const std::filesystem::path& archivo, std::string_view seccion, std::string_view clave,
                     std::string_view porDefecto) {
     constexpr std::size_t tamanoPedido = 255; // one less than the classic buffer of 256
-    return utf8DeAnsi(GetPrivateProfileStringA(ansiDeUtf8(seccion), ansiDeUtf8(clave), ansiDeUtf8(porDefecto),
-                                               tamanoPedido, archivo));
+    return text::utf8FromAnsi(GetPrivateProfileStringA(text::ansiFromUtf8(seccion), text::ansiFromUtf8(clave),
+                                                       text::ansiFromUtf8(porDefecto), tamanoPedido, archivo));
 }
 
 std::error_code WriteINI(const std::filesystem::path& archivo, std::string_view seccion, std::string_view clave,
                          std::string_view valor) {
-    return WritePrivateProfileStringA(ansiDeUtf8(seccion), ansiDeUtf8(clave), ansiDeUtf8(valor), archivo);
+    return WritePrivateProfileStringA(text::ansiFromUtf8(seccion), text::ansiFromUtf8(clave), text::ansiFromUtf8(valor),
+                                      archivo);
 }

@@ -1,5 +1,6 @@
 // The entry of esclavo-modbus: finds out how it was started, builds the station and its main window, and runs it.
 
+#include "platform/locale/SystemLocale.h"
 #include "platform/system/CarpetaDatos.h"
 #include "platform/system/CarpetaPrograma.h"
 #include "platform/system/InstanciaPrevia.h"
@@ -85,6 +86,7 @@ int main(int argc, char** argv) {
     ampliarDescriptores();
     EleccionPantalla pantalla = elegirPlataforma(linea);
 
+    useSystemLocale();
     // The last option of a name holds, so that this one stands above what the user asked for.
     std::vector<char*> palabras(argv, argv + argc);
     std::string opcion = "-platform";
@@ -106,7 +108,7 @@ int main(int argc, char** argv) {
     const InstanciaPrevia instancia(ruta);
     const CarpetaDatos datos = elegirCarpetaDatos(carpetaPrograma(), carpetaDelUsuario());
     Estacion estacion(datos.ruta, Arranque{.rutaPrograma = ruta.string(),
-                                           .lineaDeComandos = QString::fromLocal8Bit(linea.texto),
+                                           .lineaDeComandos = QString::fromUtf8(linea.texto),
                                            .avisoCarpeta = datos.aviso,
                                            .instanciaPrevia = instancia.hayOtra(),
                                            .sinPantalla = !pantalla.motivo.empty(),

@@ -45,6 +45,11 @@ class Passes(unittest.TestCase):
             station.wait_for_register(1, 12, 32768)
             self.assertEqual(station.read(1, 10, 3), [4660, 65534, 32768])
 
+    def test_numbers_in_a_script_have_a_point_in_every_locale(self):
+        with ScriptStation("mw.escribir 1, 0, 1.5*10\nmw.escribir 1, 1, 0.25*100\nmw.escribir 1, 2, 1e3") as station:
+            station.wait_for_register(1, 2, 1000)
+            self.assertEqual(station.read(1, 0, 2), [15, 25])
+
     def test_an_edited_script_takes_effect_on_the_next_pass(self):
         with ScriptStation("mw.escribir 1, 0, 1") as station:
             station.wait_for_register(1, 0, 1)
@@ -122,6 +127,11 @@ class Files(unittest.TestCase):
     def test_accents_in_windows_1252(self):
         with ScriptStation('mw.escribir 1, 0, AscW("ñ")'.encode("cp1252")) as station:
             station.wait_for_register(1, 0, 0xF1)
+
+    def test_accents_in_utf_16(self):
+        for codec, mark in (("utf-16-le", b"\xff\xfe"), ("utf-16-be", b"\xfe\xff")):
+            with ScriptStation(mark + 'mw.escribir 1, 0, AscW("ñ")'.encode(codec)) as station:
+                station.wait_for_register(1, 0, 0xF1)
 
     def test_accents_in_utf_8(self):
         with ScriptStation('mw.escribir 1, 0, AscW("ñ")') as station:

@@ -3,7 +3,8 @@
 #include "Generador.h"
 #include "Modelo.h"
 #include "dobles.h"
-#include "registers/Palabra.h"
+#include "platform/text/Numbers.h"
+#include "registers/ErrorEjecucion.h"
 
 #include <algorithm>
 #include <array>
@@ -64,7 +65,7 @@ public:
             for (std::size_t a = 0; a < valores.size(); ++a) {
                 ASSERT_EQ(valores[a], modelo_.Esclavos(n).Valores(static_cast<double>(a))) << n << " " << a;
                 const std::pair celda{static_cast<int>(a / 10) + 1, static_cast<int>(a % 10) + 1};
-                ASSERT_EQ(textoDeNumero(valores[a], '.'), modelo_.MSFlexGrid[n].TextMatrix[celda]) << n << " " << a;
+                ASSERT_EQ(text::writeNumber(valores[a]), modelo_.MSFlexGrid[n].TextMatrix[celda]) << n << " " << a;
             }
         }
     }

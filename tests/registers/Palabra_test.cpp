@@ -1,5 +1,6 @@
 // Conversions between numbers, words, signs and bits, and numbers as text.
 #include "errores.h"
+#include "registers/ErrorEjecucion.h"
 #include "registers/Palabra.h"
 
 #include <cmath>
@@ -116,36 +117,6 @@ TEST(SetBit, beyond32BitsOverflows) {
     EXPECT_EQ(numeroDeError([] { SetearBIT_YDevolverPalabra(1, 31, 1); }), 6);
     EXPECT_EQ(numeroDeError([] { SetearBIT_YDevolverPalabra(1, 32, 0); }), 6);
     EXPECT_EQ(numeroDeError([] { SetearBIT_YDevolverPalabra(3e9, 0, 0); }), 6);
-}
-
-TEST(NumberAsText, wholeNumbersHaveNeitherBlankNorSeparator) {
-    EXPECT_EQ(textoDeNumero(0, ','), "0");
-    EXPECT_EQ(textoDeNumero(65535, ','), "65535");
-    EXPECT_EQ(textoDeNumero(1000000, '.'), "1000000");
-    EXPECT_EQ(textoDeNumero(-32768, ','), "-32768");
-}
-
-TEST(NumberAsText, fractionsUseTheGivenSeparator) {
-    EXPECT_EQ(textoDeNumero(12.5, ','), "12,5");
-    EXPECT_EQ(textoDeNumero(12.5, '.'), "12.5");
-    EXPECT_EQ(textoDeNumero(-0.25, ','), "-0,25");
-}
-
-TEST(NumberAsText, keeps15Digits) {
-    EXPECT_EQ(textoDeNumero(0.1 + 0.2, '.'), "0.3");
-    EXPECT_EQ(textoDeNumero(1.0 / 3, '.'), "0.333333333333333");
-    EXPECT_EQ(textoDeNumero(65534.999999999999, '.'), "65535");
-}
-
-TEST(NumberAsText, verySmallAndVeryLargeNumbersUseAnExponent) {
-    EXPECT_EQ(textoDeNumero(0.00001, ','), "0,00001");
-    EXPECT_EQ(textoDeNumero(1.0 / 30000, ','), "3,33333333333333E-05");
-    EXPECT_EQ(textoDeNumero(1e15, ','), "1E+15");
-    EXPECT_EQ(textoDeNumero(1e-300, ','), "1E-300");
-}
-
-TEST(NumberAsText, negativeZeroIsZero) {
-    EXPECT_EQ(textoDeNumero(-0.0, ','), "0");
 }
 
 TEST(RunTimeError, carriesNumberAndSpanishText) {

@@ -112,6 +112,8 @@ private Q_SLOTS:
         QCOMPARE(celda(1, 6), QStringLiteral("12.5"));
         QLocale::setDefault(QLocale(QLocale::Spanish, QLocale::Spain));
         QCOMPARE(celda(1, 6), QStringLiteral("12,5"));
+        esclavos_->escribir(2, 5, 1.0 / 15);
+        QCOMPARE(celda(1, 6), QStringLiteral("6,66666666666667E-02"));
     }
 
     void cellsBeyondTheTableAreBlank() {

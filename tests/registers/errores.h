@@ -1,7 +1,7 @@
 // The number of the run-time error that an operation raises, for EXPECT_EQ; 0 when it raises none.
 #pragma once
 
-#include "registers/Palabra.h"
+#include "registers/ErrorEjecucion.h"
 
 template <typename Operacion>
 int numeroDeError(Operacion operacion) {

@@ -17,6 +17,7 @@ public:
         claves[std::string(clave)] = valor;
         escritas.emplace_back(clave);
     }
+    char16_t signoDecimal() const override { return u','; }
 
     std::filesystem::path proyecto;
     std::map<std::string, std::string> claves;

@@ -174,7 +174,7 @@ private Q_SLOTS:
         QTest::newRow("letters") << QStringLiteral("abc") << texto;
         QTest::newRow("number and letters") << QStringLiteral("100 ms") << texto;
         QTest::newRow("9") << QStringLiteral("9") << fuera;
-        QTest::newRow("9.99") << QStringLiteral("9.99") << fuera;
+        QTest::newRow("9,99") << QStringLiteral("9,99") << fuera;
         QTest::newRow("60001") << QStringLiteral("60001") << fuera;
         QTest::newRow("negative") << QStringLiteral("-100") << fuera;
         QTest::newRow("1e12") << QStringLiteral("1e12") << fuera;
@@ -200,7 +200,7 @@ private Q_SLOTS:
 
     void goodPeriodsAreAccepted_data() {
         QTest::addColumn<QString>("escrito");
-        for (const char* escrito : {"10", "60000", "12.5", " 500 "})
+        for (const char* escrito : {"10", "60000", "12,5", " 500 "})
             QTest::newRow(escrito) << QString::fromLatin1(escrito);
     }
     void goodPeriodsAreAccepted() {
@@ -297,9 +297,9 @@ private Q_SLOTS:
     void newPeriodIsStoredAsItsText() {
         config_->claves[clavePeriodo] = "500";
         abrir();
-        escribirPeriodo(QStringLiteral("12.5"));
+        escribirPeriodo(QStringLiteral("12,5"));
         guardar();
-        QCOMPARE(config_->claves[clavePeriodo], std::string("12.5"));
+        QCOMPARE(config_->claves[clavePeriodo], std::string("12,5"));
         QVERIFY(clics_.empty()); // automation is off
     }
 
@@ -360,7 +360,7 @@ private Q_SLOTS:
         abrir();
         chScript_->setChecked(true);
         clics_.clear();
-        for (const char* igual : {"500", "500.0", " 500", "5e2"}) {
+        for (const char* igual : {"500", "500,0", " 500", "5e2"}) {
             escribirPeriodo(QString::fromLatin1(igual));
             guardar();
         }

@@ -2,6 +2,7 @@
 
 #include "script/LocaleQt.h"
 
+#include "platform/locale/SystemLocale.h"
 #include "platform/vbscript/ScriptControl.h"
 #include "script/HostScript.h"
 
@@ -16,6 +17,8 @@ class TestLocaleQt : public QObject {
     static QString texto(const std::u16string& utf16) { return QString::fromStdU16String(utf16); }
 
 private Q_SLOTS:
+    void init() { useSystemLocale(); }
+
     void spanishAndEnglishAreTheEnginesOwn() {
         QCOMPARE(locales_.locale(3082), vbs::builtinLocale(3082));
         QCOMPARE(locales_.locale(1033), vbs::builtinLocale(1033));
@@ -71,9 +74,27 @@ private Q_SLOTS:
         const vbs::Locale* const propio = locales_.locale(0);
         QVERIFY(propio != nullptr);
         if (QLocale::system().language() == QLocale::C)
-            QCOMPARE(propio, vbs::builtinLocale(0));
-        else
-            QCOMPARE(propio->decimal, QLocale::system().decimalPoint().at(0).unicode());
+            QCOMPARE(propio->id, 3082);
+        QCOMPARE(propio->decimal, decimalSign());
+    }
+
+    void theLocaleInForceGivesTheUsersFacts_data() {
+        QTest::addColumn<QString>("nombre");
+        QTest::addColumn<int>("id");
+        QTest::newRow("Spain") << QStringLiteral("es_ES") << 3082;
+        QTest::newRow("Mexico") << QStringLiteral("es_MX") << 2058;
+        QTest::newRow("United States") << QStringLiteral("en_US") << 1033;
+        QTest::newRow("Brazil") << QStringLiteral("pt_BR") << 1046;
+        QTest::newRow("Turkey") << QStringLiteral("tr_TR") << 1055;
+        QTest::newRow("Japan") << QStringLiteral("ja_JP") << 1041;
+    }
+    void theLocaleInForceGivesTheUsersFacts() {
+        QFETCH(QString, nombre);
+        QFETCH(int, id);
+        QLocale::setDefault(QLocale(nombre));
+        LocalesQt locales;
+        QCOMPARE(locales.locale(0)->id, id);
+        QCOMPARE(locales.locale(0)->decimal, decimalSign());
     }
 
     void scriptChoosesItsLocale() {

@@ -1,6 +1,6 @@
 #include "script/PeriodoScript.h"
 
-#include "registers/Palabra.h"
+#include "registers/ErrorEjecucion.h"
 
 #include <gtest/gtest.h>
 
@@ -18,15 +18,15 @@ int numeroDeError(auto operacion) {
 }
 
 TEST(PeriodoDeTexto, numbersInAnyDress) {
-    EXPECT_EQ(periodoDeTexto("500"), 500);
-    EXPECT_EQ(periodoDeTexto(" 12.5 "), 12.5);
-    EXPECT_EQ(periodoDeTexto("1e3"), 1000);
-    EXPECT_EQ(periodoDeTexto("-5"), -5);
+    EXPECT_EQ(periodoDeTexto("500", u','), 500);
+    EXPECT_EQ(periodoDeTexto(" 12,5 ", u','), 12.5);
+    EXPECT_EQ(periodoDeTexto("1e3", u','), 1000);
+    EXPECT_EQ(periodoDeTexto("-5", u','), -5);
 }
 
 TEST(PeriodoDeTexto, textRaisesTypeMismatch) {
-    for (const char* texto : {"", "  ", "abc", "12 ms", "1.2.3"})
-        EXPECT_EQ(numeroDeError([&] { periodoDeTexto(texto); }), 13) << texto;
+    for (const char* texto : {"", "  ", "abc", "12 ms", "1,2,3", "12.5", "1.500"})
+        EXPECT_EQ(numeroDeError([&] { periodoDeTexto(texto, u','); }), 13) << texto;
 }
 
 TEST(IntervaloDeTimer, halvesGoToTheEvenNeighbour) {

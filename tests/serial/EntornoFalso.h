@@ -25,6 +25,8 @@ public:
     std::string leerConfiguracionRS232(std::string_view clave, std::string_view porDefecto) override {
         return leerConfiguracion("RS232_" + std::string(clave), porDefecto);
     }
+
+    char16_t signoDecimal() const override { return u','; }
 };
 
 class LogFalso final : public LogSerie {

@@ -103,7 +103,7 @@ TEST_F(FrameInterpretation, validityIsReadOnceForAllReadingsOfAFrameText) {
 
 TEST_F(FrameInterpretation, validityIsWrittenAsADecimalText) {
     for (const auto& [valor, texto] :
-         {std::pair{"2.5", "2.5"}, {" 3 ", "3"}, {"1E3", "1000"}, {"-1", "-1"}, {"007", "7"}}) {
+         {std::pair{"2,5", "2.5"}, {" 3 ", "3"}, {"1E3", "1000"}, {"-1", "-1"}, {"007", "7"}}) {
         configuracion.valores["RS232_Cant_Intervalos_Validez"] = valor;
         interprete.interpretarTrama("2405171");
         EXPECT_NE(motor.textos.back().find(std::string("VALIDEZ = ") + texto + "\r\n"), std::string::npos)

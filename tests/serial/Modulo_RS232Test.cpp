@@ -2,7 +2,7 @@
 #include "serial/Modulo_RS232.h"
 
 #include "EntornoFalso.h"
-#include "registers/Palabra.h"
+#include "registers/ErrorEjecucion.h"
 
 #include <gtest/gtest.h>
 #include <optional>
@@ -60,7 +60,7 @@ TEST(SerialSettings, portNumberIsAWholeNumberOf16Bits) {
 
 TEST(SerialSettings, portNumberIsRoundedToTheEvenNeighbour) {
     ConfiguracionRS232 ajustes;
-    ajustes.NomCOM = "2.5";
+    ajustes.NomCOM = "2,5";
     EXPECT_EQ(ajustes.CommPort(), 2);
 }
 
@@ -77,7 +77,7 @@ TEST(EndMark, charactersAreThoseOfTheCodes) {
     EXPECT_EQ(marcaDe("0", "0"), std::string(2, '\0'));
     EXPECT_EQ(marcaDe("255", "65"), "\xFF\x41");
     EXPECT_EQ(marcaDe("3", "3"), "\x03\x03");
-    EXPECT_EQ(marcaDe("10.4", " 13 "), "\n\r");
+    EXPECT_EQ(marcaDe("10,4", " 13 "), "\n\r");
 }
 
 TEST(EndMark, valueThatIsNoCharacterCodeIsLoggedAndTheDefaultStands) {

@@ -131,9 +131,9 @@ private Q_SLOTS:
 
     void periodOfTheFileIsRoundedHalvesToEven_data() {
         QTest::addColumn<int>("ms");
-        QTest::newRow("12.5") << 12;
-        QTest::newRow("13.5") << 14;
-        QTest::newRow("99.4") << 99;
+        QTest::newRow("12,5") << 12;
+        QTest::newRow("13,5") << 14;
+        QTest::newRow("99,4") << 99;
         QTest::newRow("10") << 10;
         QTest::newRow("60000") << 60000;
         QTest::newRow("2147483647") << 2147483647;

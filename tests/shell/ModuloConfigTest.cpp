@@ -126,7 +126,14 @@ TEST_F(Configuracion, aTextThatIsNoNumberIsReportedAsSuch) {
 
 TEST_F(Configuracion, numbersBearTheLocalesDecimalSign) {
     config.escribirConfiguracion("RS232_Cant_Intervalos_Validez", "2,5");
-    EXPECT_EQ(Modulo_Config(carpeta.ruta(), ',').leerNumero("RS232_Cant_Intervalos_Validez", "2"), 2.5);
+    EXPECT_EQ(config.leerNumero("RS232_Cant_Intervalos_Validez", "2"), 2.5);
+    EXPECT_EQ(Modulo_Config(carpeta.ruta(), u'.').leerNumero("RS232_Cant_Intervalos_Validez", "2"), std::nullopt);
+}
+
+TEST_F(Configuracion, aNumberIsWrittenAsItIsRead) {
+    config.escribirNumero("PUERTO_VALOR", 502.5);
+    EXPECT_EQ(config.leerConfiguracion("PUERTO_VALOR", ""), "502,5");
+    EXPECT_EQ(config.leerNumero("PUERTO_VALOR", "502"), 502.5);
 }
 
 TEST_F(Configuracion, junkAndNulBytesGiveDefaultsAndSurvive) {

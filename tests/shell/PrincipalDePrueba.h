@@ -2,6 +2,7 @@
 #pragma once
 
 #include "CarpetaTemporal.h"
+#include "platform/locale/SystemLocale.h"
 #include "platform/net/Peer.h"
 #include "shell/Estacion.h"
 #include "shell/FrmPrincipal.h"
@@ -28,6 +29,7 @@ public:
 
     // A new start of the program; what ran before ends.
     void encender(Arranque arranque = {}) {
+        useSystemLocale();
         ventana.reset();
         estacion = std::make_unique<Estacion>(carpeta.ruta(), std::move(arranque));
         ventana = std::make_unique<FrmPrincipal>(*estacion);

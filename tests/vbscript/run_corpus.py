@@ -13,6 +13,7 @@ Exit status: 0 when every script passed, 1 when one failed, 2 when no script was
 
 import argparse
 import concurrent.futures
+import os
 import pathlib
 import re
 import subprocess
@@ -52,12 +53,19 @@ def error_line(explicit, line_number):
     return int(explicit) if explicit else line_number
 
 
+def environment():
+    """The caller's, but Spanish: the scripts show numbers, dates and names as Spain writes them."""
+    spanish = os.environ.get("LC_ALL", "").startswith(("es_ES", "C"))
+    return os.environ if spanish else {**os.environ, "LC_ALL": "es_ES.UTF-8"}
+
+
 def run(script, binary, limit):
     """Returns the list of complaints about one script; an empty list is a pass."""
     expected = Expectation(script.read_bytes().decode("utf-8", "replace"))
     command = [binary, *expected.options, str(script)]
     try:
-        done = subprocess.run(command, stdin=subprocess.DEVNULL, capture_output=True, timeout=limit, check=False)
+        done = subprocess.run(command, stdin=subprocess.DEVNULL, capture_output=True, timeout=limit, check=False,
+                              env=environment())
     except subprocess.TimeoutExpired:
         return [f"still running after {limit:g} s"]
     output = done.stdout.decode("utf-8", "replace")

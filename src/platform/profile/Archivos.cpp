@@ -1,12 +1,10 @@
 #include "platform/profile/Archivos.h"
 
-#include "platform/profile/Ansi.h"
 #include "platform/profile/ArchivoBytes.h"
 #include "platform/profile/LineaTexto.h"
+#include "platform/text/Encoding.h"
 
 namespace {
-
-constexpr std::string_view marcaUtf8 = "\xEF\xBB\xBF";
 
 const char* mensajeDeError(int numero) {
     switch (numero) {
@@ -49,13 +47,8 @@ std::string bytesDe(const std::filesystem::path& ruta) {
 }
 
 // The text as the file is to hold it, in the encoding that the bytes on disk have now.
-std::string codificadoComo(std::string_view enDisco, std::string_view texto) {
-    if (!esUtf8(enDisco)) {
-        std::size_t perdidos = 0;
-        std::string ansi = ansiDeUtf8(texto, perdidos);
-        return perdidos == 0 ? ansi : std::string(texto);
-    }
-    return std::string(enDisco.starts_with(marcaUtf8) ? marcaUtf8 : "") + std::string(texto);
+std::string codificadoComo(std::string_view enDisco, const std::string& texto) {
+    return text::encoded(texto, text::encodingOf(enDisco)).value_or(texto);
 }
 
 } // namespace
@@ -72,12 +65,8 @@ bool existeArchivo(const std::filesystem::path& ruta) noexcept {
 }
 
 std::string leerArchivoTexto(const std::filesystem::path& ruta) {
-    std::string bytes = bytesDe(ruta);
-    if (!esUtf8(bytes))
-        bytes = utf8DeAnsi(bytes);
-    std::string_view resto = bytes;
-    if (resto.starts_with(marcaUtf8))
-        resto.remove_prefix(marcaUtf8.size());
+    const std::string leido = text::decoded(bytesDe(ruta));
+    std::string_view resto = leido;
     std::string texto;
     texto.reserve(resto.size() + 2);
     while (!resto.empty()) {
@@ -92,7 +81,7 @@ std::string leerArchivoTexto(const std::filesystem::path& ruta) {
 
 void escribirArchivoTexto(const std::filesystem::path& ruta, std::string_view texto) {
     const std::string enDisco = existeArchivo(ruta) ? bytesDe(ruta) : std::string();
-    if (const std::error_code error = reemplazarBytes(ruta, codificadoComo(enDisco, texto) + "\r\n")) {
+    if (const std::error_code error = reemplazarBytes(ruta, codificadoComo(enDisco, std::string(texto) + "\r\n"))) {
         const int numero = numeroDeError(error);
         throw ErrorArchivo(numero == 53 ? 76 : numero); // what is missing when writing is the folder
     }

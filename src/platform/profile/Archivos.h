@@ -1,8 +1,9 @@
 // Text files such as the user's scripts: existence, reading, writing.
 //
-// On disk a file is UTF-8 (with or without byte-order mark) when its bytes are valid UTF-8, else Windows-1252; in the
-// program texts are UTF-8 with CR LF line ends. A file is saved in the encoding that it has on disk, a new one in
-// UTF-8. Reading and then writing adds one empty line at the end each time: both operations close their last line.
+// On disk a file is what its byte-order mark says (UTF-8, UTF-16 in either order), without one UTF-8 when its bytes are
+// valid UTF-8, else Windows-1252; in the program texts are UTF-8 with CR LF line ends. A file is saved in the encoding
+// that it has on disk, a new one in UTF-8. Reading and then writing adds one empty line at the end each time: both
+// operations close their last line.
 #pragma once
 
 #include <filesystem>

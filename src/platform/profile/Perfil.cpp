@@ -1,8 +1,8 @@
 #include "platform/profile/Perfil.h"
 
-#include "platform/profile/Ansi.h"
 #include "platform/profile/ArchivoBytes.h"
 #include "platform/profile/LineaTexto.h"
+#include "platform/text/CodePage.h"
 
 #include <algorithm>
 
@@ -28,7 +28,7 @@ std::optional<std::string_view> valorCrudo(std::string_view linea, std::string_v
     const std::size_t igual = linea.find('=');
     if (igual == std::string_view::npos || empiezaCon(linea, ';') || empiezaCon(linea, '['))
         return std::nullopt;
-    if (!igualesSinCaja(sinBlancos(linea.substr(0, igual)), clave))
+    if (!text::equalAnsiNoCase(sinBlancos(linea.substr(0, igual)), clave))
         return std::nullopt;
     return linea.substr(igual + 1);
 }
@@ -50,7 +50,7 @@ Lugar buscar(std::string_view texto, std::string_view seccion, std::string_view 
     while (!resto.empty()) {
         const std::string_view linea = tomarLinea(resto).contenido;
         if (const auto nombre = nombreDeSeccion(linea)) {
-            dentro = igualesSinCaja(*nombre, seccion);
+            dentro = text::equalAnsiNoCase(*nombre, seccion);
             enLaPrimera = dentro && lugar.finDeSeccion == 0;
         } else if (dentro && (lugar.valor = valorCrudo(linea, clave))) {
             return lugar;

@@ -40,11 +40,11 @@ void ScriptControl::addObject(std::u16string_view name, Ref<Object> object) {
 }
 
 bool ScriptControl::addCode(std::string_view utf8) {
-    return addCode(std::u16string_view(fromUtf8(utf8)));
+    return addCode(std::u16string_view(text::toUtf16(utf8)));
 }
 
 bool ScriptControl::check(std::string_view utf8) {
-    return check(std::u16string_view(fromUtf8(utf8)));
+    return check(std::u16string_view(text::toUtf16(utf8)));
 }
 
 // Starts from nothing: a text that ran inside this one (a host object let it in) may have left its own failure.

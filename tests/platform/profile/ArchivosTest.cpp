@@ -136,6 +136,18 @@ TEST_F(Archivos, aByteOrderMarkIsDroppedOnReadingAndKeptOnSaving) {
     EXPECT_EQ(contenidoDe(archivo), "\xEF\xBB\xBFmes\r\n");
 }
 
+TEST_F(Archivos, utf16IsReadAndSavedInItsOwnOrder) {
+    const std::string little = "\xFF\xFE"
+                               "a\0\xF1\0\r\0\n\0"s;
+    EXPECT_EQ(leido(little), "añ\r\n");
+    escribirArchivoTexto(archivo, "€");
+    EXPECT_EQ(contenidoDe(archivo), "\xFF\xFE\xAC\x20\r\0\n\0"s);
+
+    EXPECT_EQ(leido("\xFE\xFF\0a\0\n\0b"s), "a\r\nb\r\n");
+    escribirArchivoTexto(archivo, "€");
+    EXPECT_EQ(contenidoDe(archivo), "\xFE\xFF\x20\xAC\0\r\0\n"s);
+}
+
 TEST_F(Archivos, nulBytesAndBinaryFilesAreTextLikeAnyOther) {
     EXPECT_EQ(leido("a\0b\n"s), "a\0b\r\n"s);
     EXPECT_EQ(leido("\xFF\0\x80\n"s), "ÿ\0€\r\n"s);

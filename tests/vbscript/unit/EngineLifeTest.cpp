@@ -153,7 +153,7 @@ TEST(EngineEnd, comesDespiteAnEndlessTerminate) {
 TEST_F(EngineLife, aHundredThousandPassesLeaveMemoryFlat) {
     const std::string text = "n = n + 1\n" + std::string(20000, '\'') + "\n";
     ASSERT_TRUE(control.addCode(text));
-    const std::u16string same = fromUtf8(text);
+    const std::u16string same = text::toUtf16(text);
     const std::size_t before = memoryMeter().used;
     for (int pass = 1; pass < 100000; ++pass) {
         ASSERT_TRUE(control.addCode(std::u16string_view(same)));

@@ -65,15 +65,4 @@ TEST(Array, aMillionElementsTakeSixteenBytesEach) {
     EXPECT_LT(memoryMeter().used - before, 16000200U);
 }
 
-TEST(Utf8, roundTripKeepsEveryScalar) {
-    const std::string text = "a\xC3\xB1\xE2\x82\xAC\xF0\x9F\x98\x80";
-    EXPECT_EQ(toUtf8(fromUtf8(text)), text);
-}
-
-TEST(Utf8, overlongAndTruncatedBytesBecomeReplacements) {
-    EXPECT_EQ(fromUtf8("\xC0\x80"), u"\uFFFD\uFFFD");
-    EXPECT_EQ(fromUtf8("\xE2\x82"), u"\uFFFD\uFFFD");
-    EXPECT_EQ(fromUtf8("\xED\xA0\x80"), u"\uFFFD\uFFFD\uFFFD");
-}
-
 } // namespace

@@ -1,6 +1,6 @@
 // Intrinsic functions between characters and their codes: Asc, Chr, their W variants, Escape, Unescape.
+#include "platform/text/CodePage.h"
 #include "platform/vbscript/library/BuiltinArguments.h"
-#include "platform/vbscript/value/Ansi.h"
 
 #include <optional>
 
@@ -17,7 +17,7 @@ char16_t firstUnit(Context& context, const Value& argument) {
 }
 
 Value asc(Context& context, Arguments arguments) {
-    return Value::ofInteger(toAnsi(firstUnit(context, arguments[0])));
+    return Value::ofInteger(text::toAnsi(firstUnit(context, arguments[0])).value_or('?'));
 }
 
 // An Integer: codes from &H8000 upwards are negative.
@@ -30,7 +30,7 @@ Value chr(Context& context, Arguments arguments) {
     if (code < 0 || code > 255) {
         raise(ErrorNumber::InvalidCall);
     }
-    return context.character(fromAnsi(static_cast<std::uint8_t>(code)));
+    return context.character(text::fromAnsi(static_cast<std::uint8_t>(code)));
 }
 
 Value chrW(Context& context, Arguments arguments) {

@@ -1,6 +1,6 @@
 // Intrinsic functions that cut, pad, fold and compare texts.
+#include "platform/text/CodePage.h"
 #include "platform/vbscript/library/BuiltinArguments.h"
-#include "platform/vbscript/value/Ansi.h"
 #include "platform/vbscript/value/Collation.h"
 
 #include <algorithm>
@@ -130,7 +130,7 @@ Value repeated(Context& context, Arguments arguments) {
         return Value::ofString(String::repeated(count, character.text().front()));
     }
     const auto code = static_cast<std::uint8_t>(longArgument(context, character) & 0xFF);
-    return Value::ofString(String::repeated(count, fromAnsi(code)));
+    return Value::ofString(String::repeated(count, text::fromAnsi(code)));
 }
 
 Value strReverse(Context& context, Arguments arguments) {

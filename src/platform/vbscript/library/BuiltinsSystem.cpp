@@ -44,12 +44,13 @@ Value getLocale(Context& context, Arguments /*arguments*/) {
     return Value::ofLong(context.locale().id);
 }
 
-// SetLocale(number or short name): answers the number in force until then; 0 is the user's own.
+// SetLocale([number or short name]): answers the number in force until then; without argument, and with 0, back to the
+// user's own.
 Value setLocale(Context& context, Arguments arguments) {
     const std::int32_t before = context.locale().id;
-    const Value& wanted = arguments[0];
-    const auto named = wanted.isString() ? localeNumber(wanted.text()) : std::nullopt;
-    context.setLocale(named ? *named : longArgument(context, wanted));
+    const Value* const wanted = optional(arguments, 0);
+    const auto named = wanted != nullptr && wanted->isString() ? localeNumber(wanted->text()) : std::nullopt;
+    context.setLocale(named ? *named : longArgument(context, arguments, 0, 0));
     return Value::ofLong(before);
 }
 
@@ -100,7 +101,7 @@ constexpr Builtin table[] = {
     {u"ScriptEngineBuildVersion", 0, 0, buildVersion},
     {u"ScriptEngineMajorVersion", 0, 0, majorVersion},
     {u"ScriptEngineMinorVersion", 0, 0, minorVersion},
-    {u"SetLocale", 1, 1, setLocale},
+    {u"SetLocale", 0, 1, setLocale},
 };
 
 } // namespace

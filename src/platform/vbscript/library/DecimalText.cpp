@@ -1,11 +1,9 @@
 #include "platform/vbscript/library/DecimalText.h"
 
+#include "platform/text/Numbers.h"
 #include "platform/vbscript/value/Convert.h"
 
 #include <algorithm>
-#include <array>
-#include <charconv>
-#include <cmath>
 
 namespace vbs {
 
@@ -17,25 +15,14 @@ void dropLeadingZeros(std::string& whole) {
 
 // `digits` significant digits, written without an exponent.
 DecimalText fromReal(double x, int digits) {
-    std::array<char, 40> buffer{};
-    const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), std::fabs(x),
-                                   std::chars_format::scientific, digits - 1)
-                         .ptr;
-    const std::string_view written(buffer.data(), static_cast<std::size_t>(end - buffer.data()));
-    const std::size_t mark = written.find('e');
-    const std::string_view power = written.substr(written[mark + 1] == '+' ? mark + 2 : mark + 1);
-    int exponent = 0;
-    std::from_chars(power.data(), power.data() + power.size(), exponent);
-    std::string figures(1, written[0]);
-    figures += written.substr(2, mark - 2);
-
+    auto [figures, point] = text::figuresOf(x, digits);
     DecimalText number;
     number.negative = x < 0;
-    if (exponent < 0) {
-        number.fraction = std::string(static_cast<std::size_t>(-exponent - 1), '0') + figures;
+    if (point <= 0) {
+        number.fraction = std::string(static_cast<std::size_t>(-point), '0') + figures;
         return number;
     }
-    const std::size_t count = static_cast<std::size_t>(exponent) + 1;
+    const auto count = static_cast<std::size_t>(point);
     figures.resize(std::max(figures.size(), count), '0');
     number.whole = figures.substr(0, count);
     number.fraction = figures.substr(count);

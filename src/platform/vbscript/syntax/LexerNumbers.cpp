@@ -1,8 +1,8 @@
 // Numbers, decimal and with a radix.
+#include "platform/text/Numbers.h"
 #include "platform/vbscript/syntax/Lexer.h"
 
 #include <cmath>
-#include <cstdlib>
 #include <string>
 
 namespace vbs {
@@ -39,7 +39,7 @@ void Lexer::scanDecimal(Token& token) {
         }
     }
     const std::u16string_view written = m_text.substr(start, m_position - start);
-    const double number = std::strtod(std::string(written.begin(), written.end()).c_str(), nullptr);
+    const double number = text::readPlainNumber(std::string(written.begin(), written.end()));
     token.kind = Token::Kind::Number;
     token.value =
         whole && number <= 2147483647.0 ? Value::ofWhole(static_cast<std::int64_t>(number)) : Value::ofDouble(number);

@@ -37,7 +37,7 @@ int collate(std::u16string_view a, std::u16string_view b, const Locale& locale) 
             return difference;
         }
     }
-    return a.size() != b.size() ? (a.size() < b.size() ? -1 : 1) : compareText(a, b);
+    return a.size() != b.size() ? (a.size() < b.size() ? -1 : 1) : compareNoCase(a, b);
 }
 
 } // namespace vbs

@@ -1,12 +1,42 @@
 #include "platform/vbscript/value/Host.h"
 
+#include <array>
 #include <chrono>
 #include <ctime>
 
 namespace vbs {
 
-int Host::messageBox(std::u16string_view /*text*/, int /*buttons*/, std::u16string_view /*title*/) {
-    return 1;
+std::span<const int> buttonsOf(int style) noexcept {
+    static constexpr std::array<int, 1> ok = {1};
+    static constexpr std::array<int, 2> okCancel = {1, 2};
+    static constexpr std::array<int, 3> abortRetryIgnore = {3, 4, 5};
+    static constexpr std::array<int, 3> yesNoCancel = {6, 7, 2};
+    static constexpr std::array<int, 2> yesNo = {6, 7};
+    static constexpr std::array<int, 2> retryCancel = {4, 2};
+    switch (style & 0xF) {
+    case 1:
+        return okCancel;
+    case 2:
+        return abortRetryIgnore;
+    case 3:
+        return yesNoCancel;
+    case 4:
+        return yesNo;
+    case 5:
+        return retryCancel;
+    default:
+        return ok;
+    }
+}
+
+int defaultButton(int style) noexcept {
+    const std::span<const int> buttons = buttonsOf(style);
+    const auto chosen = static_cast<std::size_t>(style & 0xF00) >> 8U;
+    return buttons[chosen < buttons.size() ? chosen : 0];
+}
+
+int Host::messageBox(std::u16string_view /*text*/, int buttons, std::u16string_view /*title*/) {
+    return defaultButton(buttons);
 }
 
 std::u16string Host::inputBox(std::u16string_view /*prompt*/, std::u16string_view /*title*/,

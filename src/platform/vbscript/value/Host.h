@@ -4,6 +4,7 @@
 
 #include "platform/vbscript/value/Locale.h"
 
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -15,11 +16,16 @@ struct LocalTime {
     int millisecond = 0;
 };
 
+// The buttons of a message box of that style, in their order (1 OK, 2 Cancel, 3 Abort, 4 Retry, 5 Ignore, 6 Yes, 7 No),
+// and the one that the style makes the default.
+std::span<const int> buttonsOf(int style) noexcept;
+int defaultButton(int style) noexcept;
+
 class Host {
 public:
     virtual ~Host() = default;
 
-    // Shows a message; answers the button pressed (1 OK, 2 Cancel ... 7 No). Default: answers 1 and shows nothing.
+    // Shows a message; answers the button pressed. Default: shows nothing and answers the default button.
     virtual int messageBox(std::u16string_view text, int buttons, std::u16string_view title);
     // Asks for a line of text; the empty text stands for Cancel. Default: answers `defaultText`.
     virtual std::u16string inputBox(std::u16string_view prompt, std::u16string_view title,

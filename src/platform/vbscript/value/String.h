@@ -3,6 +3,9 @@
 // Not safe across threads.
 #pragma once
 
+#include "platform/text/Case.h"
+#include "platform/text/Utf.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <span>
@@ -97,26 +100,11 @@ private:
     StringBlock* m_block = nullptr;
 };
 
-// UTF-8 in, UTF-16 out; each invalid byte becomes U+FFFD. A leading byte order mark is dropped.
-std::u16string fromUtf8(std::string_view bytes);
-// Lone surrogates become U+FFFD.
-std::string toUtf8(std::u16string_view text);
-
-// Simple case mapping of one code unit: ASCII, Latin, Greek and Cyrillic; independent of the C locale.
-char16_t toLowerBeyondAscii(char16_t unit) noexcept;
-char16_t toUpperBeyondAscii(char16_t unit) noexcept;
-inline char16_t toLower(char16_t unit) noexcept {
-    return unit >= 0x80                   ? toLowerBeyondAscii(unit)
-           : unit >= u'A' && unit <= u'Z' ? static_cast<char16_t>(unit + 32)
-                                          : unit;
-}
-inline char16_t toUpper(char16_t unit) noexcept {
-    return unit >= 0x80                   ? toUpperBeyondAscii(unit)
-           : unit >= u'a' && unit <= u'z' ? static_cast<char16_t>(unit - 32)
-                                          : unit;
-}
-// Order without regard to case: negative, zero or positive.
-int compareText(std::u16string_view a, std::u16string_view b) noexcept;
-bool equalNoCase(std::u16string_view a, std::u16string_view b) noexcept;
+// The floor's, for the whole engine.
+using text::compareNoCase;
+using text::equalNoCase;
+using text::toLower;
+using text::toUpper;
+using text::toUtf8;
 
 } // namespace vbs
