@@ -1,7 +1,6 @@
 #include "bridge/FrmConexionesPuentes.h"
 
 #include "platform/events/Eventos.h"
-#include "platform/text/CodePage.h"
 #include "platform/text/Numbers.h"
 #include "platform/window/Contraste.h"
 #include "platform/window/VistaTexto.h"
@@ -36,14 +35,6 @@ QColor colorDe(ColorPuerto color) {
         break;
     }
     return {255, 0, 0};
-}
-
-// In one step, since every byte that is relayed passes here while the monitors are on.
-QString deAnsi(std::string_view bytes) {
-    QString texto(static_cast<qsizetype>(bytes.size()), Qt::Uninitialized);
-    std::transform(bytes.begin(), bytes.end(), texto.begin(),
-                   [](char c) { return QChar(text::fromAnsi(static_cast<std::uint8_t>(c))); });
-    return texto;
 }
 
 QTreeWidgetItem* nodo(QTreeWidgetItem* padre, const QString& clave, const QString& texto) {
@@ -99,7 +90,7 @@ QWidget* FrmConexionesPuentes::crearMonitores() {
         const auto i = static_cast<std::size_t>(lado);
         auto* grupo = new QWidget(divisor);
         auto* titulo = new QLabel(QStringLiteral("Recibido en el puerto %1").arg(puente_.puerto(lado)), grupo);
-        txtTramas_[i] = new VistaTexto(grupo);
+        txtTramas_[i] = new VistaTexto(grupo, TextoBytes::CrLf::dosFines);
         txtTramas_[i]->setObjectName(nombres[i]);
         txtTramas_[i]->setAccessibleName(titulo->text());
         titulo->setBuddy(txtTramas_[i]);
@@ -163,8 +154,12 @@ bool FrmConexionesPuentes::stop() const {
     return chStop_->isChecked();
 }
 
-void FrmConexionesPuentes::mostrar(Lado lado, std::string_view texto) {
-    txtTramas_[static_cast<std::size_t>(lado)]->agregar(deAnsi(texto));
+void FrmConexionesPuentes::mostrar(Lado lado, std::span<const std::uint8_t> bloque, bool hexadecimal) {
+    VistaTexto& monitor = *txtTramas_[static_cast<std::size_t>(lado)];
+    if (hexadecimal)
+        monitor.agregarBloque(bloque);
+    else
+        monitor.agregar({reinterpret_cast<const char*>(bloque.data()), bloque.size()});
 }
 
 void FrmConexionesPuentes::colorear(Lado lado, ColorPuerto color) {

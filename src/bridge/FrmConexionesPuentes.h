@@ -32,7 +32,7 @@ private:
     bool echo() const override;
     bool modbus() const override;
     bool stop() const override;
-    void mostrar(Lado lado, std::string_view texto) override;
+    void mostrar(Lado lado, std::span<const std::uint8_t> bloque, bool hexadecimal) override;
     void colorear(Lado lado, ColorPuerto color) override;
     void puertoRechazado(Lado lado, const std::error_code& fallo) override;
 

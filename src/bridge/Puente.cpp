@@ -1,7 +1,5 @@
 #include "bridge/Puente.h"
 
-#include "bridge/TextoBloque.h"
-
 Puente::Extremo::Extremo(Reactor& reactor, WinsockEvents& eventos, double puertoLocal)
     : puerto(puertoLocal), socket(reactor, eventos) {
     socket.LocalPort(static_cast<std::uint16_t>(puertoLocal));
@@ -85,21 +83,14 @@ void Puente::contener() {
     socket(Lado::dos).pauseReading(lento1);
 }
 
-// Pending events run when the block is shown and not between its bytes: building the text of the largest block takes
-// a fraction of a millisecond, and so the texts of two blocks never interleave.
+// Pending events run when the block is shown and not between its bytes: it becomes text only when the monitor is
+// painted, and so the texts of two blocks never interleave.
 void Puente::mostrarBloque(Lado lado, std::span<const std::uint8_t> bloque) {
     const bool hexadecimal = ventana_.modbus();
     if (hexadecimal && lado == Lado::uno)
         primerByteModbus_ = bloque.front();
     if (ventana_.stop())
         return;
-    std::string texto;
-    if (hexadecimal) {
-        agregarHexadecimal(texto, bloque);
-        texto.append("\r\n");
-    } else {
-        agregarCaracteres(texto, bloque);
-    }
-    ventana_.mostrar(lado, texto);
+    ventana_.mostrar(lado, bloque, hexadecimal);
     eventos_.dejarPasarEventos();
 }

@@ -28,8 +28,8 @@ public:
     virtual bool echo() const = 0;   // side 1 sends every block back to its own client
     virtual bool modbus() const = 0; // blocks are shown as hexadecimal, one a line
     virtual bool stop() const = 0;   // the monitors are left as they are
-    // Appends to the monitor of that side; each byte is a character of the ANSI code page.
-    virtual void mostrar(Lado lado, std::string_view texto) = 0;
+    // Appends the block to the monitor of that side: as characters, or as hexadecimal on a line of its own.
+    virtual void mostrar(Lado lado, std::span<const std::uint8_t> bloque, bool hexadecimal) = 0;
     virtual void colorear(Lado lado, ColorPuerto color) = 0;
     // The port could not be opened. Told at every failed attempt.
     virtual void puertoRechazado(Lado lado, const std::error_code& fallo) = 0;

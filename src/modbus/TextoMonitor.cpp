@@ -5,5 +5,6 @@ void TextoMonitor::borrar() {
         return;
     texto_.clear();
     ++generacion_;
+    ++borrados_;
     avisar();
 }

@@ -40,8 +40,9 @@ public:
 
     std::string_view texto() const { return texto_; }
 
-    // Counts how often the text started over.
+    // Counts how often the text started over, and how often of these by borrar().
     std::uint64_t generacion() const { return generacion_; }
+    std::uint64_t borrados() const { return borrados_; }
 
     // Borrowed; null detaches. At most one. It is called at the first change after visto().
     void observar(ObservadorTexto* observador) { observador_ = observador; }
@@ -58,6 +59,7 @@ private:
     std::string texto_;
     std::size_t limite_;
     std::uint64_t generacion_ = 0;
+    std::uint64_t borrados_ = 0;
     bool avisado_ = false;
     ObservadorTexto* observador_ = nullptr;
 };

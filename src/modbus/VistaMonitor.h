@@ -1,42 +1,48 @@
 // A read-only text box that follows a TextoMonitor from afar.
 //
-// The first change starts a timer; when it fires the box appends what is new (or takes the whole text, when it started
-// over meanwhile) and moves the caret to the end, so that the newest line is in view. Updates come 33 to 200 ms apart,
-// the further the more they cost: about a twentieth of the time goes into them. A box that cannot be seen follows in
-// steps of 100 ms, and under heavy traffic waits for a pause or for being shown; without changes nothing runs.
+// The first change starts a timer; when it fires the box takes in what is new (or the whole text, when it started over
+// meanwhile). A text that starts over by itself does not take away what the operator is looking at: while something is
+// selected, the view scrolled up or the box paused, what is shown stays, and the box says so. Emptying the monitor by
+// hand empties the box in any case.
 #pragma once
 
 #include "modbus/TextoMonitor.h"
+#include "platform/window/VistaTexto.h"
 
-#include <QPlainTextEdit>
-#include <QTimer>
-
-#include <chrono>
-
-class VistaMonitor : public QPlainTextEdit, private ObservadorTexto {
+class VistaMonitor : public VistaTexto, private ObservadorTexto {
     Q_OBJECT
 
 public:
+    // Whether new text moves a view that is scrolled up: the caret goes to the end with every line, or the view stays.
+    enum class Seguimiento : std::uint8_t { siempre, siEstaAlFinal };
+
     // The monitor is borrowed and outlives the box.
-    explicit VistaMonitor(TextoMonitor& monitor, QWidget* padre = nullptr);
+    explicit VistaMonitor(TextoMonitor& monitor, QWidget* padre = nullptr,
+                          Seguimiento seguimiento = Seguimiento::siEstaAlFinal);
     ~VistaMonitor() override;
+
+    void pausar(bool pausa) override;
 
 protected:
     void showEvent(QShowEvent* evento) override;
-    void resizeEvent(QResizeEvent* evento) override;
+    void soltada() override;
+    QString rotuloDeEstado() const override;
+
+    // What the box shows of whole lines of the monitor, the first of them at that place of its text.
+    virtual std::string mostrable(std::string_view lineas, std::size_t lugar);
+    // Takes the whole text anew: what mostrable() makes of it has changed.
+    void empezarOtraVez();
 
 private:
     void textoCambiado() override;
-    void alVencer();
-    bool conviene();
-    void ponerAlDia();
-    void mostrarFinal();
+    void tomar();
+    bool sujeta() const;
 
     TextoMonitor& monitor_;
+    Seguimiento seguimiento_;
     QTimer espera_;
-    std::chrono::milliseconds intervalo_;
-    std::uint64_t generacion_ = 0;      // of the text shown
-    std::size_t mostrados_ = 0;         // characters of the monitor that the box shows
-    std::uint64_t generacionVista_ = 0; // the monitor's state at the last look, shown or not
-    std::size_t largoVisto_ = 0;
+    std::uint64_t generacion_ = 0; // of the text shown
+    std::uint64_t borrados_ = 0;
+    std::size_t tomados_ = 0; // characters of the monitor that the box has taken
+    bool atrasada_ = false;   // the text has gone on without the box
 };

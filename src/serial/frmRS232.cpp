@@ -217,11 +217,11 @@ void frmRS232::timerEstado_Timer() {
 }
 
 void frmRS232::agregarRecibido(std::string_view trozo) {
-    txtInputCom_->agregar(deUtf8(text::utf8FromAnsi(trozo)));
+    txtInputCom_->agregar(trozo);
 }
 
 void frmRS232::agregarListado(std::string_view listado) {
-    txtTramas_->agregar(deUtf8(text::utf8FromAnsi(listado)));
+    txtTramas_->agregar(listado);
 }
 
 void frmRS232::rechazar(std::string_view lectura, std::string_view causa) {

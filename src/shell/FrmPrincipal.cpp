@@ -213,7 +213,7 @@ void FrmPrincipal::apagar() {
 
 void FrmPrincipal::esclavoCreado(Pagina& pagina) {
     const int numero = pagina.numero();
-    auto* tramas = new VistaMonitor(estacion_.monitores.tramas(numero));
+    auto* tramas = new VistaMonitor(estacion_.monitores.tramas(numero), nullptr, VistaMonitor::Seguimiento::siempre);
     auto* vista = new VistaPagina(estacion_.esclavos, pagina, tramas, controles_->paginas);
     connect(vista, &VistaPagina::celdaActivada, this, &FrmPrincipal::abrirFrmMW);
     vistas_[numero] = vista;

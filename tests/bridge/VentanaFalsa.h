@@ -14,11 +14,18 @@ struct VentanaFalsa final : VentanaPuente {
     bool echo() const override { return conEcho; }
     bool modbus() const override { return conModbus; }
     bool stop() const override { return conStop; }
-    void mostrar(Lado lado, std::string_view texto) override { textos[static_cast<std::size_t>(lado)].append(texto); }
+    void mostrar(Lado lado, std::span<const std::uint8_t> bloque, bool hexadecimal) override {
+        auto& texto = textos[static_cast<std::size_t>(lado)];
+        texto.append(reinterpret_cast<const char*>(bloque.data()), bloque.size());
+        if (hexadecimal)
+            texto.append(finDeBloque);
+    }
     void colorear(Lado lado, ColorPuerto color) override { colores[static_cast<std::size_t>(lado)].push_back(color); }
     void puertoRechazado(Lado lado, const std::error_code& fallo) override {
         fallos[static_cast<std::size_t>(lado)].push_back(fallo);
     }
+
+    static constexpr const char* finDeBloque = "|"; // after a block that is shown as hexadecimal
 
     bool conEcho = false;
     bool conModbus = false;

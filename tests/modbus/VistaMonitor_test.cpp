@@ -17,6 +17,16 @@ private:
     std::unique_ptr<VistaMonitor> vista_;
 
     QString texto() const { return vista_->toPlainText(); }
+    void crear(VistaMonitor::Seguimiento seguimiento) {
+        vista_.reset();
+        vista_ = std::make_unique<VistaMonitor>(*monitor_, nullptr, seguimiento);
+        vista_->resize(500, 150);
+        vista_->show();
+        QVERIFY(QTest::qWaitForWindowExposed(vista_.get()));
+    }
+    // The text of the monitor starts over by itself.
+    void llenar() { monitor_->agregar(std::string(TextoMonitor::limitePorDefecto, 'x')); }
+    void tecla(Qt::Key tecla, Qt::KeyboardModifiers con = {}) { QTest::keyClick(vista_.get(), tecla, con); }
     void agregarLineas(int cantidad) {
         for (int i = 0; i < cantidad; ++i)
             monitor_->agregar("10:32:05 ( <-RX- Lectura ) 0 1 0 0 0 6 1 3 0 0 0 10\r\n");
@@ -26,10 +36,7 @@ private Q_SLOTS:
     void init() {
         vista_.reset();
         monitor_ = std::make_unique<TextoMonitor>();
-        vista_ = std::make_unique<VistaMonitor>(*monitor_);
-        vista_->resize(500, 150);
-        vista_->show();
-        QVERIFY(QTest::qWaitForWindowExposed(vista_.get()));
+        crear(VistaMonitor::Seguimiento::siempre);
     }
 
     void aLineAppearsAsALine() {
@@ -100,6 +107,69 @@ private Q_SLOTS:
         QTRY_COMPARE(vista_->blockCount(), 51);
         vista_->resize(200, 100);
         QTRY_COMPARE(vista_->verticalScrollBar()->value(), vista_->verticalScrollBar()->maximum());
+    }
+
+    void aViewThatIsScrolledUpStaysWhereItIs() {
+        crear(VistaMonitor::Seguimiento::siEstaAlFinal);
+        agregarLineas(100);
+        QTRY_COMPARE(vista_->blockCount(), 101);
+        tecla(Qt::Key_Home, Qt::ControlModifier);
+        QCOMPARE(vista_->verticalScrollBar()->value(), 0);
+        agregarLineas(1);
+        QTRY_COMPARE(vista_->blockCount(), 102);
+        QCOMPARE(vista_->verticalScrollBar()->value(), 0);
+    }
+
+    void aViewThatIsScrolledUpKeepsATextThatStartedOverUntilItsEndIsAskedFor() {
+        crear(VistaMonitor::Seguimiento::siEstaAlFinal);
+        agregarLineas(100);
+        QTRY_COMPARE(vista_->blockCount(), 101);
+        const QString antes = texto();
+        tecla(Qt::Key_Home, Qt::ControlModifier);
+        llenar();
+        monitor_->agregar("nuevo\r\n");
+        QTest::qWait(100); // nothing is to happen
+        QCOMPARE(texto(), antes);
+        tecla(Qt::Key_End, Qt::ControlModifier);
+        QTRY_COMPARE(texto(), QStringLiteral("nuevo\n"));
+    }
+
+    void aSelectionIsKeptAndCanBeCopiedWhenTheTextStartsOver() {
+        monitor_->agregar("uno\r\ndos\r\n");
+        QTRY_COMPARE(vista_->blockCount(), 3);
+        tecla(Qt::Key_A, Qt::ControlModifier);
+        llenar();
+        monitor_->agregar("nuevo\r\n");
+        QTest::qWait(100); // nothing is to happen
+        tecla(Qt::Key_C, Qt::ControlModifier);
+        QCOMPARE(QGuiApplication::clipboard()->text(), QStringLiteral("uno\ndos\n"));
+        tecla(Qt::Key_Escape);
+        QTRY_COMPARE(texto(), QStringLiteral("nuevo\n"));
+    }
+
+    void clearingByHandEmptiesABoxThatIsHeldOrPaused() {
+        for (const bool pausa : {false, true}) {
+            monitor_->agregar("uno\r\n");
+            QTRY_COMPARE(texto(), QStringLiteral("uno\n"));
+            tecla(Qt::Key_A, Qt::ControlModifier);
+            vista_->pausar(pausa);
+            monitor_->borrar();
+            QTRY_COMPARE(texto(), QString());
+            vista_->pausar(false);
+        }
+    }
+
+    void aPauseFreezesTheBoxAndTheMonitorGoesOnAsItsLimitSays() {
+        monitor_->agregar("antes\r\n");
+        QTRY_COMPARE(texto(), QStringLiteral("antes\n"));
+        tecla(Qt::Key_P, Qt::ControlModifier);
+        llenar();
+        monitor_->agregar("durante\r\n");
+        QTest::qWait(100); // nothing is to happen
+        QCOMPARE(texto(), QStringLiteral("antes\n"));
+        QCOMPARE(monitor_->texto(), std::string_view("durante\r\n"));
+        tecla(Qt::Key_P, Qt::ControlModifier);
+        QTRY_COMPARE(texto(), QStringLiteral("durante\n"));
     }
 
     void theOperatorCanCopyButNotEdit() {

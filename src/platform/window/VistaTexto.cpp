@@ -1,145 +1,348 @@
 #include "platform/window/VistaTexto.h"
 
-#include <QElapsedTimer>
+#include "platform/window/BarraHallar.h"
+
 #include <QFontDatabase>
-#include <QMimeData>
+#include <QFontMetricsF>
+#include <QPainter>
 #include <QScrollBar>
-#include <QTextBlock>
+#include <QWheelEvent>
 
 #include <algorithm>
 #include <chrono>
+#include <cmath>
+#include <limits>
 
 using namespace std::chrono_literals;
 
 namespace {
 
-constexpr auto entreTurnos = 30ms; // after the first piece of new text
-constexpr auto maximoTurno = 4ms;  // of work
-constexpr int pausaPorTrabajo = 3; // a backlog takes a quarter of the time at most
-constexpr qsizetype trozo = 1024;  // characters between two looks at the clock: short lines take longest
+constexpr auto entreTurnos = 30ms;
+constexpr int margen = 4; // pixels round the text
+constexpr int porPasoDeRueda = 120;
+constexpr QRgb colorHallazgo = qRgb(255, 213, 79);
 
-constexpr int continuacion = 1; // user state of a block that goes on with the line of the block before
-
-// The text with every line end as one LF; `trasCR` carries a CR LF that was cut in two over to the next call.
-QString conLF(QStringView texto, bool& trasCR) {
-    QString lineas;
-    lineas.reserve(texto.size());
-    for (const QChar c : texto) {
-        if (c != u'\n' || !trasCR)
-            lineas.append(c == u'\r' ? QChar(u'\n') : c);
-        trasCR = c == u'\r';
-    }
-    return lineas;
+QString dePantalla(const std::u16string& texto) {
+    QString pintable = QString::fromStdU16String(texto);
+    for (QChar& c : pintable)
+        if (!c.isPrint())
+            c = c == u'\n' || c == u'\t' ? QChar(u' ') : QChar(0x00B7);
+    return pintable;
 }
 
 } // namespace
 
-VistaTexto::VistaTexto(QWidget* parent) : QPlainTextEdit(parent) {
+VistaTexto::VistaTexto(QWidget* parent, TextoBytes::CrLf crLf) : QPlainTextEdit(parent), texto_(crLf) {
     setReadOnly(true);
     setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     setUndoRedoEnabled(false);
     setTabChangesFocus(true);
-    setWordWrapMode(QTextOption::WrapAnywhere);
+    setLineWrapMode(NoWrap); // the document is for reading; rows are broken by this class
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    medirLetra();
+    viewport()->setCursor(Qt::IBeamCursor);
     turno_.setSingleShot(true);
-    connect(&turno_, &QTimer::timeout, this, [this] { mostrar(QDeadlineTimer(maximoTurno)); });
+    connect(&turno_, &QTimer::timeout, this, &VistaTexto::refrescar);
+    espejo_.setSingleShot(true);
+    connect(&espejo_, &QTimer::timeout, this, &VistaTexto::reflejar);
+    connect(&busquedaTurno_, &QTimer::timeout, this, &VistaTexto::seguirBuscando);
+    connect(verticalScrollBar(), &QScrollBar::actionTriggered, this, &VistaTexto::alAccionarBarra);
+    connect(this, &QPlainTextEdit::cursorPositionChanged, this, &VistaTexto::alMoverCursorDelDocumento);
+    connect(this, &QPlainTextEdit::selectionChanged, this, &VistaTexto::alMoverCursorDelDocumento);
 }
 
-void VistaTexto::agregar(QStringView texto) {
-    pendiente_.append(texto);
-    if (!alDia() && !turno_.isActive())
+VistaTexto::~VistaTexto() = default;
+
+void VistaTexto::agregar(std::string_view ansi) {
+    if (ansi.empty())
+        return;
+    texto_.agregar(ansi);
+    cambiado();
+}
+
+void VistaTexto::agregarBloque(std::span<const std::uint8_t> bloque) {
+    texto_.agregarBloque(bloque);
+    cambiado();
+}
+
+void VistaTexto::cambiado() {
+    if (pausada())
+        return;
+    if (!turno_.isActive())
         turno_.start(entreTurnos);
 }
 
 void VistaTexto::borrar() {
-    turno_.stop();
-    pendiente_.clear();
-    mostrados_ = 0;
-    trasCR_ = false;
-    clear();
+    if (pausada())
+        congelado_->borrar();
+    empezarDeNuevo();
+    ponerAlDia();
+}
+
+void VistaTexto::empezarDeNuevo() {
+    texto_.borrar();
+    if (pausada() && !congelado_->empty())
+        return;
+    arriba_ = ancla_ = posicion_ = 0;
+    sigue_ = true;
+    espejoEntero_ = false;
+    porBuscar_ = 0;
+    cambiado();
 }
 
 void VistaTexto::ponerAlDia() {
-    mostrar(QDeadlineTimer(QDeadlineTimer::Forever));
-}
-
-void VistaTexto::mostrar(QDeadlineTimer plazo) {
-    QElapsedTimer reloj;
-    reloj.start();
-    const int fila = verticalScrollBar()->value();
-    const bool enElFinal = fila == verticalScrollBar()->maximum();
-    const int ancla = textCursor().anchor();
-    const int posicion = textCursor().position();
-    QTextCursor cursor(document());
-    cursor.movePosition(QTextCursor::End);
-    cursor.beginEditBlock();
-    do {
-        const QStringView siguiente = QStringView(pendiente_).mid(mostrados_, trozo);
-        insertar(cursor, conLF(siguiente, trasCR_));
-        mostrados_ += siguiente.size();
-    } while (mostrados_ < pendiente_.size() && !plazo.hasExpired());
-    cursor.endEditBlock();
-    seleccionar(ancla, posicion);
-    verticalScrollBar()->setValue(enElFinal ? verticalScrollBar()->maximum() : fila);
-    if (mostrados_ < pendiente_.size()) {
-        turno_.start(std::chrono::milliseconds(reloj.elapsed() * pausaPorTrabajo));
-    } else {
-        turno_.stop();
-        pendiente_.clear();
-        mostrados_ = 0;
-    }
-}
-
-// Caret and selection stay where they were; those at the end would go along with the text inserted there.
-void VistaTexto::seleccionar(int ancla, int posicion) {
-    QTextCursor cursor = textCursor();
-    if (cursor.anchor() == ancla && cursor.position() == posicion)
-        return;
-    cursor.setPosition(ancla);
-    cursor.setPosition(posicion, QTextCursor::KeepAnchor);
-    setTextCursor(cursor);
-}
-
-// Inserts the text; where a line would pass maximoLinea it goes on in a block marked as continuation.
-void VistaTexto::insertar(QTextCursor& cursor, QStringView lineas) {
-    while (!lineas.isEmpty()) {
-        const qsizetype sitio = maximoLinea - cursor.positionInBlock();
-        const qsizetype fin = lineas.left(sitio + 1).lastIndexOf(u'\n');
-        if (fin < 0 && lineas.size() > sitio) {
-            cursor.insertText(lineas.left(sitio).toString());
-            cursor.insertBlock();
-            cursor.block().setUserState(continuacion);
-            lineas = lineas.mid(sitio);
-        } else {
-            const qsizetype cuantos = lineas.size() <= sitio ? lineas.size() : fin + 1;
-            cursor.insertText(lineas.left(cuantos).toString());
-            lineas = lineas.mid(cuantos);
-        }
-    }
+    refrescar();
+    reflejarTodo();
 }
 
 QString VistaTexto::texto() const {
-    bool trasCR = trasCR_;
-    return textoEntre(0, document()->characterCount() - 1) + conLF(QStringView(pendiente_).mid(mostrados_), trasCR);
+    return QString::fromStdU16String(bytes().texto(0, bytes().size()));
 }
 
-QMimeData* VistaTexto::createMimeDataFromSelection() const {
-    const QTextCursor cursor = textCursor();
-    auto* datos = new QMimeData;
-    datos->setText(textoEntre(cursor.selectionStart(), cursor.selectionEnd()));
-    return datos;
+void VistaTexto::pausar(bool pausa) {
+    if (pausa == pausada())
+        return;
+    refrescar();
+    if (pausa)
+        congelado_ = texto_;
+    else
+        congelado_.reset();
+    arriba_ = std::min(arriba_, bytes().size());
+    ancla_ = std::min(ancla_, bytes().size());
+    posicion_ = std::min(posicion_, bytes().size());
+    espejoEntero_ = false;
+    refrescar();
+    Q_EMIT pausaCambiada(pausa);
 }
 
-// The characters of the document from one position up to another, without the ends of rows that go on.
-QString VistaTexto::textoEntre(int desde, int hasta) const {
-    QString texto;
-    texto.reserve(hasta - desde);
-    for (QTextBlock bloque = document()->findBlock(desde); bloque.isValid() && bloque.position() <= hasta;
-         bloque = bloque.next()) {
-        if (bloque.position() > desde && bloque.userState() != continuacion)
-            texto.append(u'\n');
-        const int primero = std::max(desde - bloque.position(), 0);
-        texto.append(bloque.text().mid(primero, hasta - bloque.position() - primero));
+QString VistaTexto::rotuloDeEstado() const {
+    return pausada() ? QStringLiteral("EN PAUSA") : QString();
+}
+
+int VistaTexto::columnas() const {
+    return static_cast<int>((viewport()->width() - 2 * margen) / anchoCaracter_);
+}
+
+int VistaTexto::filasVisibles() const {
+    return std::max(1, (viewport()->height() - 2 * margen) / fontMetrics().height());
+}
+
+// Takes in what was appended.
+void VistaTexto::refrescar() {
+    turno_.stop();
+    if (sigue_)
+        arriba_ = fondo();
+    ponerBarra();
+    viewport()->update();
+    if (!espejo_.isActive())
+        espejo_.start(espera_);
+}
+
+// First byte of the first row when the last one stands at the bottom.
+std::size_t VistaTexto::fondo() const {
+    const FilasTexto todas = filas();
+    FilaTexto fila = todas.de(bytes().size());
+    for (int n = filasVisibles(); n > 1 && fila.desde > 0; --n)
+        fila = todas.anterior(fila);
+    return fila.desde;
+}
+
+std::size_t VistaTexto::finDePantalla() const {
+    const FilasTexto todas = filas();
+    FilaTexto fila = todas.desde(arriba_);
+    for (int n = filasVisibles(); n > 0 && !todas.esUltima(fila); --n)
+        fila = todas.desde(fila.hasta);
+    return fila.hasta;
+}
+
+// The bar counts bytes: the rows of a large text are never counted. Beyond two thousand million it stays at its end.
+void VistaTexto::ponerBarra() {
+    static constexpr std::size_t tope = std::numeric_limits<int>::max();
+    const auto enBarra = [](std::size_t posicion) { return static_cast<int>(std::min(posicion, tope)); };
+    QScrollBar& barra = *verticalScrollBar();
+    const bool antes = std::exchange(moviendoBarra_, true);
+    const std::size_t maximo = fondo();
+    barra.setRange(0, enBarra(maximo));
+    barra.setPageStep(std::max(1, enBarra(bytes().size() - maximo)));
+    barra.setSingleStep(std::max(1, columnas()));
+    barra.setValue(enBarra(arriba_));
+    moviendoBarra_ = antes;
+}
+
+void VistaTexto::ponerArriba(std::size_t posicion) {
+    const std::size_t maximo = fondo();
+    const bool seguia = sigue_;
+    arriba_ = posicion >= maximo ? maximo : filas().de(posicion).desde;
+    sigue_ = posicion >= maximo;
+    if (!moviendoBarra_)
+        ponerBarra();
+    viewport()->update();
+    if (!espejoEntero_ && !espejo_.isActive())
+        espejo_.start(espera_);
+    if (sigue_ && !seguia)
+        soltada();
+}
+
+void VistaTexto::desplazar(int cuantas) {
+    const FilasTexto todas = filas();
+    FilaTexto fila = todas.desde(arriba_);
+    for (; cuantas < 0; ++cuantas)
+        fila = todas.anterior(fila);
+    for (; cuantas > 0 && !todas.esUltima(fila); --cuantas)
+        fila = todas.desde(fila.hasta);
+    ponerArriba(fila.desde);
+}
+
+void VistaTexto::moverAlFinal() {
+    ancla_ = posicion_ = bytes().size();
+    sigue_ = true;
+}
+
+// Steps of the bar are rows and pages, whatever they hold.
+void VistaTexto::alAccionarBarra(int accion) {
+    switch (accion) {
+    case QAbstractSlider::SliderSingleStepAdd:
+        return desplazar(1);
+    case QAbstractSlider::SliderSingleStepSub:
+        return desplazar(-1);
+    case QAbstractSlider::SliderPageStepAdd:
+        return desplazar(filasVisibles() - 1);
+    case QAbstractSlider::SliderPageStepSub:
+        return desplazar(1 - filasVisibles());
+    default:
+        return;
     }
-    return texto;
+}
+
+// The base class's own scrolling is for its document, which is not what is painted.
+void VistaTexto::scrollContentsBy(int, int) {
+    if (moviendoBarra_ || sincronizando_)
+        return;
+    moviendoBarra_ = true; // the bar stays where it was dragged to
+    ponerArriba(static_cast<std::size_t>(std::max(0, verticalScrollBar()->value())));
+    moviendoBarra_ = false;
+}
+
+void VistaTexto::wheelEvent(QWheelEvent* evento) {
+    const int delta = evento->angleDelta().y();
+    if (delta != 0)
+        desplazar(-static_cast<int>(std::lround(3.0 * delta / porPasoDeRueda)));
+    evento->accept();
+}
+
+void VistaTexto::resizeEvent(QResizeEvent* evento) {
+    moviendoBarra_ = true; // by the base class, for its document
+    QPlainTextEdit::resizeEvent(evento);
+    moviendoBarra_ = false;
+    arriba_ = filas().de(std::min(arriba_, bytes().size())).desde;
+    if (barra_ != nullptr)
+        barra_->colocar();
+    refrescar();
+}
+
+void VistaTexto::changeEvent(QEvent* evento) {
+    moviendoBarra_ = true;
+    QPlainTextEdit::changeEvent(evento);
+    moviendoBarra_ = false;
+    if (evento->type() != QEvent::FontChange)
+        return;
+    medirLetra();
+    refrescar();
+}
+
+// As wide as it is painted: in a row, where widths are rounded.
+void VistaTexto::medirLetra() {
+    constexpr int muchas = 64;
+    anchoCaracter_ = std::max(1.0, QFontMetricsF(font()).horizontalAdvance(QString(muchas, u'0')) / muchas);
+}
+
+void VistaTexto::showEvent(QShowEvent* evento) {
+    QPlainTextEdit::showEvent(evento);
+    ponerAlDia();
+}
+
+std::vector<BusquedaTexto::Hallazgo> VistaTexto::hallazgosVisibles(std::size_t hasta) const {
+    // One that begins on the row above may reach into the first one.
+    return resaltado_.en(bytes(), filas().anterior(filas().desde(arriba_)).desde, hasta);
+}
+
+void VistaTexto::paintEvent(QPaintEvent*) {
+    QPainter pintor(viewport());
+    pintor.fillRect(viewport()->rect(), palette().brush(QPalette::Base));
+    pintor.setFont(font());
+    const FilasTexto todas = filas();
+    const auto hallazgos = hallazgosVisibles(finDePantalla());
+    FilaTexto fila = todas.desde(arriba_);
+    for (qreal y = margen; y < viewport()->height(); y += fontMetrics().height()) {
+        pintarFila(pintor, fila, y, hallazgos);
+        if (todas.esUltima(fila))
+            break;
+        fila = todas.desde(fila.hasta);
+    }
+    if (const QString rotulo = rotuloDeEstado(); !rotulo.isEmpty()) {
+        const QRect caja = fontMetrics().boundingRect(rotulo).adjusted(-6, -3, 6, 3);
+        const QRect sitio(viewport()->width() - caja.width() - margen, margen, caja.width(), caja.height());
+        pintor.fillRect(sitio, palette().brush(QPalette::ToolTipBase));
+        pintor.setPen(palette().color(QPalette::ToolTipText));
+        pintor.drawRect(sitio.adjusted(0, 0, -1, -1));
+        pintor.drawText(sitio, Qt::AlignCenter, rotulo);
+    }
+    if (hasFocus()) {
+        pintor.setPen(palette().color(QPalette::Highlight));
+        pintor.drawRect(viewport()->rect().adjusted(0, 0, -1, -1));
+    }
+}
+
+void VistaTexto::pintarFila(QPainter& pintor, const FilaTexto& fila, qreal y,
+                            const std::vector<BusquedaTexto::Hallazgo>& hallazgos) const {
+    const FilasTexto todas = filas();
+    const qreal alto = fontMetrics().height();
+    const auto tramo = [&](std::size_t desde, std::size_t hasta) {
+        const qreal x = margen + todas.columna(fila, desde) * anchoCaracter_;
+        return QRectF(x, y, margen + todas.columna(fila, hasta) * anchoCaracter_ - x, alto);
+    };
+    const auto cruza = [&](std::size_t desde, std::size_t hasta) { return desde < fila.hasta && hasta > fila.desde; };
+    const QString texto = dePantalla(bytes().texto(fila.desde, todas.finVisible(fila)));
+    const QPointF base(margen, y + fontMetrics().ascent());
+    const auto escribir = [&](const QColor& color) {
+        pintor.setPen(color);
+        pintor.drawText(base, texto);
+    };
+    const auto marcar = [&](const QRectF& caja, const QBrush& fondo, const QColor& color) {
+        pintor.save();
+        pintor.setClipRect(caja);
+        pintor.fillRect(caja, fondo);
+        escribir(color);
+        pintor.restore();
+    };
+
+    escribir(palette().color(QPalette::Text));
+    for (const auto& hallazgo : hallazgos)
+        if (cruza(hallazgo.desde, hallazgo.hasta))
+            marcar(tramo(std::max(hallazgo.desde, fila.desde), std::min(hallazgo.hasta, fila.hasta)),
+                   QColor::fromRgb(colorHallazgo), Qt::black);
+    const auto [desde, hasta] = std::minmax(ancla_, posicion_);
+    if (cruza(desde, hasta)) {
+        QRectF caja = tramo(std::max(desde, fila.desde), std::min(hasta, fila.hasta));
+        if (hasta >= fila.hasta && todas.finVisible(fila) < fila.hasta)
+            caja.setRight(caja.right() + anchoCaracter_ / 2); // the line end is selected, too
+        marcar(caja, palette().brush(QPalette::Highlight), palette().color(QPalette::HighlightedText));
+    }
+    const bool aqui = posicion_ >= fila.desde && (posicion_ < fila.hasta || todas.esUltima(fila));
+    if (hasFocus() && aqui) {
+        const qreal x = margen + todas.columna(fila, posicion_) * anchoCaracter_;
+        pintor.fillRect(QRectF(x, y, 1, alto), palette().brush(QPalette::Text));
+    }
+}
+
+void VistaTexto::focusInEvent(QFocusEvent* evento) {
+    QPlainTextEdit::focusInEvent(evento);
+    viewport()->update();
+}
+
+void VistaTexto::focusOutEvent(QFocusEvent* evento) {
+    QPlainTextEdit::focusOutEvent(evento);
+    viewport()->update();
 }

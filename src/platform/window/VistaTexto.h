@@ -1,53 +1,163 @@
 // A read-only text box for text that only ever grows at its end: monitors, logs, raw input.
 //
-// What is appended reaches the box a few dozen times a second and a few milliseconds of work at a time, so that a
-// source faster than any screen does not hold the thread, and a text of 100 MB stays usable. CR LF, CR and LF each end
-// a line, wherever the appended pieces are cut. A line longer than `maximoLinea` goes on in the next row of the box
-// (a line is laid out whole, at a cost that grows with its length); texto() and copying give it back in one piece.
+// The text is kept as bytes (TextoBytes) and becomes characters only where it is painted, searched, copied or saved, so
+// that a source faster than any screen costs little more than its bytes, and 100 MB scroll and are searched like 100
+// lines. The box repaints a few dozen times a second. It follows the end while it is scrolled to the end, and otherwise
+// stays where the operator looks; a selection stays, whatever comes.
 //
-// The box follows the end while it is scrolled to the end, and otherwise stays where the operator looks.
+// Ctrl+F searches, Ctrl+S saves to a file, Ctrl+P freezes what is shown while the text behind goes on; the context menu
+// has them too.
+//
+// The base class's document follows soon after, for those who read the box from outside (toPlainText(), assistive
+// tools): it holds the whole text up to `maximoEspejo` bytes, of a longer one the rows on the screen. texto() and the
+// property `plainText` have all of it at any time.
 #pragma once
 
-#include <QDeadlineTimer>
+#include "platform/window/BusquedaTexto.h"
+#include "platform/window/FilasTexto.h"
+#include "platform/window/TextoBytes.h"
+
 #include <QPlainTextEdit>
+#include <QPointer>
 #include <QString>
 #include <QTimer>
+
+#include <optional>
+#include <span>
+#include <string_view>
+
+class BarraHallar;
 
 class VistaTexto : public QPlainTextEdit {
     Q_OBJECT
     Q_PROPERTY(QString plainText READ texto)
 
 public:
-    static constexpr qsizetype maximoLinea = 16384; // characters
+    static constexpr std::size_t maximoEspejo = 65536; // bytes
 
-    explicit VistaTexto(QWidget* parent = nullptr);
+    explicit VistaTexto(QWidget* parent = nullptr, TextoBytes::CrLf crLf = TextoBytes::CrLf::unFin);
+    ~VistaTexto() override;
 
-    // Appends; shown at the next catching up.
-    void agregar(QStringView texto);
+    // Appends characters of the ANSI code page, or a block shown as hexadecimal, "[0][FF]", on a line that it ends.
+    void agregar(std::string_view ansi);
+    void agregarBloque(std::span<const std::uint8_t> bloque);
 
-    // Empties the box at once, what was not yet shown included.
+    // Empties the box at once, paused or not.
     void borrar();
 
-    // Shows everything appended so far before it returns.
+    // Shows everything appended so far, in the document too, before it returns.
     void ponerAlDia();
 
-    // Whether the box shows everything appended so far.
-    bool alDia() const { return pendiente_.isEmpty(); }
+    // Whether screen and document show everything appended so far.
+    bool alDia() const { return !turno_.isActive() && !espejo_.isActive(); }
 
-    // The whole text with '\n' for each line end, what is still to be shown included.
+    // All that is shown, with '\n' for each line end.
     QString texto() const;
+    const TextoBytes& bytes() const { return congelado_ ? *congelado_ : texto_; }
+
+    // While paused, what is shown stays; the text behind grows on and is shown at the end of the pause.
+    bool pausada() const { return congelado_.has_value(); }
+    virtual void pausar(bool pausa);
+
+    bool haySeleccion() const { return ancla_ != posicion_; }
+    QString seleccion() const; // '\n' for each line end
+    bool sigueElFinal() const { return sigue_; }
+
+    // The search bar, with the caret in it.
+    void abrirBusqueda();
+    // Looks for the text after (before) the selection, and over the end on from the other end; selects what it finds.
+    // Ends with busquedaTerminada(), later when the text is large.
+    void buscar(const QString& patron, bool adelante);
+    // Marks every occurrence; empty: none.
+    void resaltar(const QString& patron);
+
+    // Asks for a file and writes what is shown at this moment, as UTF-8 with CR LF.
+    void guardar();
+
+Q_SIGNALS:
+    void pausaCambiada(bool pausada);
+    void busquedaTerminada(bool hallado);
 
 protected:
     QMimeData* createMimeDataFromSelection() const override;
+    void paintEvent(QPaintEvent* evento) override;
+    void resizeEvent(QResizeEvent* evento) override;
+    void changeEvent(QEvent* evento) override;
+    void showEvent(QShowEvent* evento) override;
+    void scrollContentsBy(int dx, int dy) override;
+    void keyPressEvent(QKeyEvent* evento) override;
+    void mousePressEvent(QMouseEvent* evento) override;
+    void mouseMoveEvent(QMouseEvent* evento) override;
+    void mouseReleaseEvent(QMouseEvent* evento) override;
+    void mouseDoubleClickEvent(QMouseEvent* evento) override;
+    void wheelEvent(QWheelEvent* evento) override;
+    void contextMenuEvent(QContextMenuEvent* evento) override;
+    void focusInEvent(QFocusEvent* evento) override;
+    void focusOutEvent(QFocusEvent* evento) override;
+
+    // The text starts over by itself, unlike by borrar().
+    void empezarDeNuevo();
+    // What holds the view was let go: no selection any more, or scrolled to the end again.
+    virtual void soltada() {}
+    // Told in a corner of the box, "" for nothing.
+    virtual QString rotuloDeEstado() const;
+    void moverAlFinal();
 
 private:
-    void mostrar(QDeadlineTimer plazo);
-    void seleccionar(int ancla, int posicion);
-    void insertar(QTextCursor& cursor, QStringView lineas);
-    QString textoEntre(int desde, int hasta) const;
+    // Painting and scrolling (VistaTexto.cpp)
+    FilasTexto filas() const { return {bytes(), columnas()}; }
+    int columnas() const;
+    int filasVisibles() const;
+    void medirLetra();
+    void cambiado();
+    void refrescar();
+    void ponerBarra();
+    std::size_t fondo() const;
+    void ponerArriba(std::size_t posicion);
+    void desplazar(int filas);
+    void alAccionarBarra(int accion);
+    void pintarFila(QPainter& pintor, const FilaTexto& fila, qreal y,
+                    const std::vector<BusquedaTexto::Hallazgo>& hallazgos) const;
+    std::vector<BusquedaTexto::Hallazgo> hallazgosVisibles(std::size_t hasta) const;
+    std::size_t finDePantalla() const;
 
-    QString pendiente_;       // what is not yet shown starts at mostrados_; empty when everything is
-    qsizetype mostrados_ = 0; // characters of pendiente_
-    bool trasCR_ = false;     // the last character shown was a CR: a following LF belongs to it
-    QTimer turno_;
+    // The document (VistaTextoEspejo.cpp)
+    void reflejar();
+    void reflejarTodo();
+    void reflejarSeleccion();
+    void alMoverCursorDelDocumento();
+
+    // Caret, selection, keys, mouse, menu (VistaTextoMando.cpp)
+    void mover(std::size_t posicion, bool seleccionando);
+    void moverFilas(int cuantas, bool seleccionando);
+    bool moverConTecla(const QKeyEvent& evento);
+    void ensenar(std::size_t posicion);
+    std::size_t posicionEn(QPointF punto) const;
+    void copiar() const;
+    void seguirBuscando();
+
+    qreal anchoCaracter_ = 1; // pixels
+    TextoBytes texto_;
+    std::optional<TextoBytes> congelado_; // what is shown while paused
+    std::size_t arriba_ = 0;              // first byte of the first row on the screen
+    bool sigue_ = true;                   // scrolled to the end
+    bool moviendoBarra_ = false;
+    std::size_t ancla_ = 0;    // the selection lies between these two;
+    std::size_t posicion_ = 0; // the caret stands here
+    bool arrastrando_ = false;
+
+    QTimer turno_;               // until the screen takes in what was appended
+    QTimer espejo_;              // until the document does
+    std::size_t reflejados_ = 0; // bytes that the document holds from the start on
+    bool espejoEntero_ = true;   // the document holds the text from its start on
+    bool sincronizando_ = false;
+    int espera_ = 0; // ms to the next turn of the document
+
+    BusquedaTexto resaltado_;
+    BusquedaTexto busqueda_;
+    bool adelante_ = true;
+    std::size_t buscadoHasta_ = 0; // where the next piece begins, or ends when searching backwards
+    std::size_t porBuscar_ = 0;    // bytes
+    QTimer busquedaTurno_;
+    BarraHallar* barra_ = nullptr; // made on first use
 };
