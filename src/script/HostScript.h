@@ -24,7 +24,7 @@ public:
     std::u16string inputBox(std::u16string_view prompt, std::u16string_view title,
                             std::u16string_view defaultText) override;
     // Shows the bar with which the operator can stop a script that has run for `elapsed`, boxes not counted.
-    void longRun(std::chrono::milliseconds elapsed);
+    void longRun(std::chrono::milliseconds elapsed) override;
     const vbs::Locale* locale(int id) override { return locales_.locale(id); }
 
     // What stops the running script.

@@ -74,7 +74,7 @@ bool ScriptControl::addCode(std::u16string_view text) {
     }
     const MemoryCeiling ceiling(m_ceiling);
     try {
-        m_vm->runUnit(m_vm->unitOf(text));
+        m_vm->runPass(m_vm->unitOf(text));
         m_failure = {}; // a text that ran inside this one may have failed
         return true;
     } catch (const CompileError& failure) {

@@ -12,7 +12,9 @@ namespace {
 using namespace vbs;
 
 constexpr int outOfMemory = 7;
-constexpr int outOfMemoryCompiling = 1001;
+constexpr int nestedTooDeep = 1901;
+constexpr int tooManyArguments = 1902;
+constexpr int tooManyNames = 1903;
 constexpr int timedOut = static_cast<int>(ErrorNumber::TimedOut);
 
 std::string repeat(std::string_view piece, int times) {
@@ -59,16 +61,16 @@ struct Nest {
 };
 
 TEST_F(BadInput, deepCallsInAStatementAreACompileError) {
-    EXPECT_EQ(errorOf(repeat("a(", 100000)), outOfMemoryCompiling);
-    EXPECT_EQ(errorOf("a " + repeat("b(", 100000)), outOfMemoryCompiling);
-    EXPECT_EQ(errorOf("a" + repeat(".b", 100000)), outOfMemoryCompiling);
-    EXPECT_EQ(errorOf("Dim a(1)\na" + repeat("(1)", 100000) + " = 1"), outOfMemoryCompiling);
+    EXPECT_EQ(errorOf(repeat("a(", 100000)), nestedTooDeep);
+    EXPECT_EQ(errorOf("a " + repeat("b(", 100000)), nestedTooDeep);
+    EXPECT_EQ(errorOf("a" + repeat(".b", 100000)), nestedTooDeep);
+    EXPECT_EQ(errorOf("Dim a(1)\na" + repeat("(1)", 100000) + " = 1"), nestedTooDeep);
 }
 
 class DeepOperators : public BadInput, public testing::WithParamInterface<Nest> {};
 
 TEST_P(DeepOperators, areACompileError) {
-    EXPECT_EQ(errorOf("x = " + repeat(GetParam().open, 100000) + "1"), outOfMemoryCompiling);
+    EXPECT_EQ(errorOf("x = " + repeat(GetParam().open, 100000) + "1"), nestedTooDeep);
 }
 
 INSTANTIATE_TEST_SUITE_P(OfExpressions, DeepOperators,
@@ -82,9 +84,9 @@ INSTANTIATE_TEST_SUITE_P(OfExpressions, DeepOperators,
 class DeepBlocks : public BadInput, public testing::WithParamInterface<Nest> {};
 
 TEST_P(DeepBlocks, areACompileError) {
-    EXPECT_EQ(errorOf(numbered(GetParam().open, 20000)), outOfMemoryCompiling);
-    EXPECT_EQ(errorOf("Sub s\n" + numbered(GetParam().open, 20000)), outOfMemoryCompiling);
-    EXPECT_EQ(errorOf("Class K\nSub s\n" + numbered(GetParam().open, 20000)), outOfMemoryCompiling);
+    EXPECT_EQ(errorOf(numbered(GetParam().open, 20000)), nestedTooDeep);
+    EXPECT_EQ(errorOf("Sub s\n" + numbered(GetParam().open, 20000)), nestedTooDeep);
+    EXPECT_EQ(errorOf("Class K\nSub s\n" + numbered(GetParam().open, 20000)), nestedTooDeep);
 }
 
 INSTANTIATE_TEST_SUITE_P(OfStatements, DeepBlocks,
@@ -101,9 +103,9 @@ TEST_F(BadInput, classesAndProceduresDoNotNest) {
     EXPECT_EQ(errorOf(repeat("Function f\n", 100000)), 1002);
 }
 
-TEST_F(BadInput, nestingMadeAtRunTimeIsErrorOutOfMemoryToo) {
-    EXPECT_EQ(errorOf("Execute \"x = \" & String(200000, \"(\")"), outOfMemoryCompiling);
-    EXPECT_EQ(errorOf("x = Eval(String(200000, \"-\") & 1)"), outOfMemoryCompiling);
+TEST_F(BadInput, nestingMadeAtRunTimeIsRefusedToo) {
+    EXPECT_EQ(errorOf("Execute \"x = \" & String(200000, \"(\")"), nestedTooDeep);
+    EXPECT_EQ(errorOf("x = Eval(String(200000, \"-\") & 1)"), nestedTooDeep);
 }
 
 // ---- large texts ----------------------------------------------------------------------------------------------------
@@ -138,11 +140,11 @@ TEST_F(BadInput, longNumbersAreRefusedOrRead) {
 }
 
 TEST_F(BadInput, aHundredThousandOfAKindAreRefusedOrRunInNoTime) {
-    EXPECT_EQ(errorOf(numbered("Dim v#\n", 100000)), outOfMemoryCompiling);
-    EXPECT_EQ(errorOf(numbered("v# = #\n", 100000)), outOfMemoryCompiling);
-    EXPECT_EQ(errorOf(numbered("Const c# = #\n", 100000)), outOfMemoryCompiling);
-    EXPECT_EQ(errorOf(numbered("Sub p#\nEnd Sub\n", 100000)), outOfMemoryCompiling);
-    EXPECT_EQ(errorOf(numbered("Class c#\nEnd Class\n", 100000)), outOfMemoryCompiling);
+    EXPECT_EQ(errorOf(numbered("Dim v#\n", 100000)), tooManyNames);
+    EXPECT_EQ(errorOf(numbered("v# = #\n", 100000)), tooManyNames);
+    EXPECT_EQ(errorOf(numbered("Const c# = #\n", 100000)), tooManyNames);
+    EXPECT_EQ(errorOf(numbered("Sub p#\nEnd Sub\n", 100000)), tooManyNames);
+    EXPECT_EQ(errorOf(numbered("Class c#\nEnd Class\n", 100000)), tooManyNames);
     EXPECT_EQ(errorOf("Class K\n" + numbered("Public v#\n", 100000) + "End Class\nSet o = New K\no.v99999 = 1"), 0);
     EXPECT_EQ(errorOf("Class K\n" + numbered("Sub p#\nEnd Sub\n", 100000) + "End Class\nSet o = New K\no.p99999"), 0);
     EXPECT_EQ(errorOf("Select Case 99999\n" + numbered("Case #\nx = #\n", 100000) +
@@ -178,8 +180,8 @@ TEST_F(BadInput, arraysHaveAtMostSixtyDimensions) {
     const std::string sixty = repeat("0, ", 59) + "0";
     EXPECT_EQ(errorOf("Dim a(" + sixty + ")\na(" + sixty + ") = 1"), 0);
     EXPECT_EQ(errorOf("ReDim b(" + sixty + ")\nb(" + sixty + ") = 1"), 0);
-    EXPECT_EQ(errorOf("Dim a(" + sixty + ", 0)"), outOfMemoryCompiling);
-    EXPECT_EQ(errorOf("ReDim b(" + sixty + ", 0)"), outOfMemoryCompiling);
+    EXPECT_EQ(errorOf("Dim a(" + sixty + ", 0)"), tooManyArguments);
+    EXPECT_EQ(errorOf("ReDim b(" + sixty + ", 0)"), tooManyArguments);
 }
 
 TEST_F(BadInput, aFixedArrayThatIsTooLargeTellsItsLine) {

@@ -285,13 +285,13 @@ TEST_F(ScriptControlTest, aNulByteInTheTextIsACompileError) {
 TEST_F(ScriptControlTest, deepNestingIsACompileError) {
     const std::string deep = "x = " + std::string(100000, '(') + "1" + std::string(100000, ')');
     EXPECT_FALSE(control.addCode(deep));
-    EXPECT_EQ(control.error().number, 1001);
+    EXPECT_EQ(control.error().number, 1901);
     std::string ifs;
     for (int i = 0; i < 100000; ++i) {
         ifs += "If 1 Then\n";
     }
     EXPECT_FALSE(control.addCode(ifs));
-    EXPECT_EQ(control.error().number, 1001);
+    EXPECT_EQ(control.error().number, 1901);
 }
 
 } // namespace

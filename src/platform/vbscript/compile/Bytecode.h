@@ -98,6 +98,7 @@ enum class Store : std::uint8_t { Raw = 0, Let = 1, Set = 2, Discard = 3 };
     OP(SetIndex2)      /* A(B, C) = D */                                                                               \
     OP(SetIndexN)      /* A(B, B+1 ... X of them) = C */                                                               \
     OP(SetDeep)        /* A(B, B+1 ...)(...) ... = C; shape D tells how many indexes each level has */                 \
+    OP(Wide)           /* the call that follows has J arguments, more than its X can tell */                           \
     OP(Call)           /* A = C(B, B+1 ... X of them): procedure, array or object */                                   \
     OP(CallSelf)       /* A = own procedure C(B ... X of them) on Me */                                                \
     OP(CallIntrinsic1) /* A = intrinsic C(B) */                                                                        \
@@ -198,6 +199,9 @@ constexpr Instruction encodeJump(Opcode op, Operand a, Operand b, std::int32_t j
            (static_cast<Instruction>(static_cast<std::uint32_t>(jump) & 0xffffffU) << 40);
 }
 inline constexpr std::int32_t maxJump = 0x7fffff;
+
+// The most arguments that X can tell.
+inline constexpr std::size_t maxPacked = 62;
 
 constexpr std::uint8_t packed(std::size_t count, Store store) noexcept {
     return static_cast<std::uint8_t>(count | (static_cast<std::size_t>(store) << 6));

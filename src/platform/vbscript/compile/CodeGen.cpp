@@ -46,7 +46,7 @@ void CodeGen::generate() {
 
 std::size_t CodeGen::newLocal(Symbol symbol, bool mayRefer, const Expr* literal) {
     if (m_nextLocal >= maxIndex / 2) {
-        throw CompileError{ErrorNumber::OutOfMemoryCompiling, m_decl.at};
+        refuse(ErrorNumber::ProcedureTooLarge);
     }
     m_locals[symbol] = {operandOf(Place::Frame, m_nextLocal), mayRefer, literal};
     m_localOrder.push_back(symbol);
@@ -104,7 +104,7 @@ void CodeGen::addImplicitLocals() {
             consider(passed.name);
         }
         if (!known && m_locals.contains(passed.name)) {
-            m_locals[passed.name].late = m_scope.globals.slotOf(passed.name);
+            m_locals[passed.name].late = m_scope.slotOf(passed.name);
         }
     }
 }
@@ -128,7 +128,7 @@ Resolved CodeGen::resolve(Symbol symbol) {
         if (const ClassMember* member = m_owner->find(symbol); member != nullptr) {
             const bool field = member->field >= 0;
             if (field && static_cast<std::size_t>(member->field) > maxIndex) {
-                throw CompileError{ErrorNumber::OutOfMemoryCompiling, m_decl.at};
+                refuse(ErrorNumber::ProcedureTooLarge);
             }
             r.kind = field ? Resolved::Kind::Variable : Resolved::Kind::OwnMember;
             r.operand = field ? operandOf(Place::Field, static_cast<std::size_t>(member->field)) : Operand{0};
@@ -185,7 +185,7 @@ Operand CodeGen::unresolved(const Resolved& name) {
 
 Operand CodeGen::newTemporary() {
     if (m_temporary >= maxIndex) {
-        throw CompileError{ErrorNumber::OutOfMemoryCompiling, m_decl.at};
+        refuse(ErrorNumber::ProcedureTooLarge);
     }
     const Operand o = operandOf(Place::Frame, m_temporary++);
     m_highest = std::max(m_highest, m_temporary);
@@ -231,7 +231,7 @@ Operand CodeGen::constant(Value value, bool computed) {
     }
     if (index > maxIndex) {
         if (index > static_cast<std::size_t>(maxJump)) {
-            throw CompileError{ErrorNumber::OutOfMemoryCompiling, m_decl.at};
+            refuse(ErrorNumber::ProcedureTooLarge);
         }
         const Operand temporary = newTemporary();
         emit(encodeJump(Opcode::LoadConstant, temporary, 0, static_cast<std::int32_t>(index)));
@@ -250,15 +250,40 @@ Operand CodeGen::textConstant(Symbol symbol) {
     return constant(Value::ofString(std::u16string_view(m_scope.symbols.name(symbol))));
 }
 
+// A place of its own, while there are any; then places with the same name share one.
 std::uint16_t CodeGen::site(Symbol symbol) {
     const std::size_t index = m_procedure.sites.size();
     if (index > 0xffff) {
-        throw CompileError{ErrorNumber::OutOfMemoryCompiling, m_decl.at};
+        const auto known = m_sites.find(symbol);
+        return known != m_sites.end() ? known->second : (refuse(ErrorNumber::ProcedureTooLarge), std::uint16_t{0});
     }
     MemberSite fresh;
     fresh.symbol = symbol;
     m_procedure.sites.push_back(fresh);
-    return static_cast<std::uint16_t>(index);
+    return m_sites[symbol] = static_cast<std::uint16_t>(index);
+}
+
+std::uint16_t CodeGen::selfCall(const Procedure* procedure) {
+    const auto [entry, added] =
+        m_selfCalls.try_emplace(procedure, static_cast<std::uint16_t>(m_procedure.selfCalls.size()));
+    if (added) {
+        if (m_procedure.selfCalls.size() > 0xffff) {
+            refuse(ErrorNumber::ProcedureTooLarge);
+        }
+        m_procedure.selfCalls.push_back(procedure);
+    }
+    return entry->second;
+}
+
+void CodeGen::refuse(ErrorNumber number) const {
+    throw CompileError{number, m_procedure.marks.empty() ? m_decl.at : m_procedure.marks.back().at};
+}
+
+void CodeGen::emitCall(Opcode op, Operand to, Operand b, Operand c, std::size_t count, Store store) {
+    if (count > maxPacked) {
+        emit(encodeJump(Opcode::Wide, 0, 0, static_cast<std::int32_t>(count)));
+    }
+    emit(encode(op, to, b, c, packed(count > maxPacked ? 0 : count, store)));
 }
 
 std::size_t CodeGen::emit(Instruction instruction) {
@@ -285,7 +310,7 @@ void CodeGen::bind(Label& label) {
 void CodeGen::patch(std::size_t at, std::size_t target) {
     const auto jump = static_cast<std::int64_t>(target) - static_cast<std::int64_t>(at) - 1;
     if (jump > maxJump || jump < -maxJump) {
-        throw CompileError{ErrorNumber::OutOfMemoryCompiling, m_decl.at};
+        refuse(ErrorNumber::ProcedureTooLarge);
     }
     Instruction& instruction = m_procedure.code[at];
     instruction =
@@ -295,6 +320,7 @@ void CodeGen::patch(std::size_t at, std::size_t target) {
 void CodeGen::beginMark(Position at) {
     const auto here = static_cast<std::uint32_t>(m_procedure.code.size());
     m_procedure.marks.push_back({here, here, at});
+    m_scope.at = at;
     m_markOpen = true;
 }
 

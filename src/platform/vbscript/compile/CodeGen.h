@@ -43,6 +43,10 @@ public:
     UnitScope(const Ast& ast, SymbolTable& symbols, Globals& globals, const Library& library, Unit& unit);
 
     Resolved resolve(Symbol symbol);
+    // The global slot of a name; the error for too many of them stands at `at`, or where the name is declared.
+    std::uint32_t slotOf(Symbol symbol);
+    std::uint32_t slotOf(Symbol symbol, Position declared);
+    Position at{1, 1}; // of what is being compiled
     // The name will be a global variable because the main text assigns it.
     void makeImplicit(Symbol symbol);
     // Whether a call may assign the parameter's variable.
@@ -96,9 +100,13 @@ private:
     Operand constantOf(const Expr& literal);
     Operand textConstant(Symbol symbol);
     std::uint16_t site(Symbol symbol);
+    std::uint16_t selfCall(const Procedure* procedure);
+    // The text asks for more than the machine can take: a compile error at the statement being compiled.
+    [[noreturn]] void refuse(ErrorNumber number) const;
 
     // emission
     std::size_t emit(Instruction instruction);
+    void emitCall(Opcode op, Operand to, Operand b, Operand c, std::size_t count, Store store);
     std::size_t emitJump(Opcode op, Operand a, Operand b, Label& label);
     void emitJumpTo(Opcode op, Operand a, Operand b, std::size_t target);
     void bind(Label& label);
@@ -207,7 +215,8 @@ private:
     std::unordered_map<std::u16string, Operand> m_textConstants;
     std::unordered_map<std::uint64_t, Operand> m_numberConstants;
     std::unordered_map<std::uint64_t, Operand> m_computedConstants;
-    std::unordered_map<Symbol, std::vector<std::uint16_t>> m_sites;
+    std::unordered_map<Symbol, std::uint16_t> m_sites; // the last of each name
+    std::unordered_map<const Procedure*, std::uint16_t> m_selfCalls;
     std::vector<Operand> m_withs;
     std::vector<Label*> m_exitDo;
     std::vector<Label*> m_exitFor;

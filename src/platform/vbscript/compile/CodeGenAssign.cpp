@@ -145,7 +145,7 @@ void CodeGen::storeDeep(const Road& road, Operand indexes, Operand from, Store s
     std::vector<std::int32_t> counts;
     for (const std::vector<Expr*>* level : road.levels) {
         if (level->size() > 60) {
-            throw CompileError{ErrorNumber::OutOfMemoryCompiling, m_decl.at};
+            refuse(ErrorNumber::TooManyArguments);
         }
         counts.push_back(static_cast<std::int32_t>(level->size()));
     }
@@ -169,7 +169,7 @@ void CodeGen::storeElement(Operand base, const std::vector<Expr*>& args, const E
         emit(from);
     } else {
         if (args.size() > 60) {
-            throw CompileError{ErrorNumber::OutOfMemoryCompiling, m_decl.at};
+            refuse(ErrorNumber::TooManyArguments);
         }
         const Operand first = contiguous(args);
         const Operand from = expr(value);
@@ -186,7 +186,7 @@ void CodeGen::assignMember(const Expr* object, Symbol symbol, const std::vector<
         return;
     }
     if (args.size() > 60) {
-        throw CompileError{ErrorNumber::OutOfMemoryCompiling, m_decl.at};
+        refuse(ErrorNumber::TooManyArguments);
     }
     std::vector<Expr*> all(args);
     all.push_back(const_cast<Expr*>(value));

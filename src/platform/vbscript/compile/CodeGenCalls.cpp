@@ -8,15 +8,6 @@ namespace vbs {
 
 namespace {
 
-constexpr std::size_t maxArguments = 62;
-
-std::size_t countOf(const std::vector<Expr*>& args, Position at) {
-    if (args.size() > maxArguments) {
-        throw CompileError{ErrorNumber::OutOfMemoryCompiling, at};
-    }
-    return args.size();
-}
-
 Operand nextTo(Operand o, std::size_t by) noexcept {
     return operandOf(placeOf(o), indexOf(o) + by);
 }
@@ -58,7 +49,7 @@ void CodeGen::callNameTo(const Expr* e, const Resolved& callee, Operand to, Stor
         return;
     case Kind::Variable:
     case Kind::Constant:
-        if (store != Store::Discard && !e->args.empty()) {
+        if (store != Store::Discard && !e->args.empty() && e->args.size() <= maxPacked) {
             indexTo(callee.operand, e->args, to, store);
             return;
         }
@@ -67,10 +58,10 @@ void CodeGen::callNameTo(const Expr* e, const Resolved& callee, Operand to, Stor
         break;
     }
     const Operand called = callee.kind == Kind::Unknown ? unresolved(callee) : callee.operand;
-    const std::size_t count = countOf(e->args, e->at);
+    const std::size_t count = e->args.size();
     const Prepared prepared =
         arguments(e->args, &callee, callee.kind == Kind::Callable ? Passing::Known : Passing::Unknown);
-    emit(encode(Opcode::Call, to, prepared.first, called, packed(count, store)));
+    emitCall(Opcode::Call, to, prepared.first, called, count, store);
     copyBack(prepared);
 }
 
@@ -88,7 +79,10 @@ Operand CodeGen::contiguous(const std::vector<Expr*>& args) {
 
 // base(args): an element of an array or the default member of an object
 void CodeGen::indexTo(Operand base, const std::vector<Expr*>& args, Operand to, Store store) {
-    const std::size_t count = countOf(args, m_decl.at);
+    const std::size_t count = args.size();
+    if (count > maxPacked) {
+        refuse(ErrorNumber::TooManyArguments);
+    }
     const bool missing =
         std::any_of(args.begin(), args.end(), [](const Expr* e) { return e->kind == Expr::Kind::Missing; });
     const bool inPlace = !isTemporary(base) && !missing && store != Store::Discard;
@@ -107,7 +101,7 @@ void CodeGen::indexTo(Operand base, const std::vector<Expr*>& args, Operand to, 
 }
 
 void CodeGen::intrinsicTo(const Expr* e, const Builtin& builtin, Operand to, Store store) {
-    const std::size_t count = countOf(e->args, e->at);
+    const std::size_t count = e->args.size();
     if (count < builtin.least || (count > builtin.most && builtin.most != anyNumber)) {
         raiseAtRun(ErrorNumber::WrongArgumentCount, m_scope.symbols.intern(builtin.name));
         return;
@@ -130,7 +124,7 @@ void CodeGen::emitIntrinsic(const Expr* e, const Builtin& builtin, std::size_t c
         return;
     }
     const Operand first = contiguous(e->args);
-    emit(encode(Opcode::CallIntrinsic, to, first, index, packed(count, store)));
+    emitCall(Opcode::CallIntrinsic, to, first, index, count, store);
 }
 
 void CodeGen::specialTo(const Expr* e, Special special, Operand to, Store store) {
@@ -166,10 +160,10 @@ void CodeGen::callMemberTo(const Expr* e, const Expr* callee, Operand to, Store 
         return;
     }
     const Operand object = callee->a != nullptr ? expr(callee->a) : withObject();
-    const std::size_t count = countOf(e->args, e->at);
+    const std::size_t count = e->args.size();
     const bool native = callee->a != nullptr && isNativeObject(callee->a);
     const Prepared prepared = arguments(e->args, nullptr, native ? Passing::Values : Passing::Unknown);
-    emit(encode(Opcode::CallMember, to, object, site(callee->symbol), packed(count, store)));
+    emitCall(Opcode::CallMember, to, object, site(callee->symbol), count, store);
     emit(prepared.first);
     copyBack(prepared);
 }
@@ -203,14 +197,8 @@ void CodeGen::ownMemberTo(const ClassMember& member, const std::vector<Expr*>& a
 }
 
 void CodeGen::callSelfTo(const Procedure* procedure, const std::vector<Expr*>& args, Operand to, Store store) {
-    const std::size_t count = countOf(args, m_decl.at);
     const Prepared prepared = arguments(args, nullptr, Passing::Unknown);
-    m_procedure.selfCalls.push_back(procedure);
-    const std::size_t index = m_procedure.selfCalls.size() - 1;
-    if (index > 0xffff) {
-        throw CompileError{ErrorNumber::OutOfMemoryCompiling, m_decl.at};
-    }
-    emit(encode(Opcode::CallSelf, to, prepared.first, static_cast<Operand>(index), packed(count, store)));
+    emitCall(Opcode::CallSelf, to, prepared.first, selfCall(procedure), args.size(), store);
     copyBack(prepared);
 }
 

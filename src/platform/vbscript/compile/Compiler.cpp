@@ -27,8 +27,20 @@ UnitScope::UnitScope(const Ast& theAst, SymbolTable& theSymbols, Globals& theGlo
 
 void UnitScope::makeImplicit(Symbol symbol) {
     if (m_implicit.insert(symbol).second) {
-        unit.implicit.push_back(globals.slotOf(symbol));
+        unit.implicit.push_back(slotOf(symbol));
     }
+}
+
+std::uint32_t UnitScope::slotOf(Symbol symbol) {
+    if (globals.full() && globals.find(symbol) == Globals::none) {
+        throw CompileError{ErrorNumber::TooManyNames, at};
+    }
+    return globals.slotOf(symbol);
+}
+
+std::uint32_t UnitScope::slotOf(Symbol symbol, Position declared) {
+    at = declared;
+    return slotOf(symbol);
 }
 
 Resolved UnitScope::resolve(Symbol symbol) {
@@ -50,7 +62,7 @@ Resolved UnitScope::resolve(Symbol symbol) {
             return r;
         }
     }
-    r.slot = globals.slotOf(symbol);
+    r.slot = slotOf(symbol);
     r.operand = operandOf(Place::Global, r.slot);
     r.procedure = procedure != m_procedures.end() ? procedure->second : nullptr;
     if (r.procedure != nullptr || m_classes.contains(symbol)) {
@@ -157,10 +169,10 @@ std::unique_ptr<ScriptClass> declareClass(const ClassDecl& decl, Unit& unit, Sym
 void declareGlobals(UnitScope& scope) {
     const ProcedureDecl& main = scope.ast.main;
     for (const ConstDecl& decl : main.constants) {
-        scope.unit.constants.emplace_back(scope.globals.slotOf(decl.name), foldConstant(*decl.value));
+        scope.unit.constants.emplace_back(scope.slotOf(decl.name, decl.at), foldConstant(*decl.value));
     }
     for (const Variable& variable : main.variables) {
-        scope.unit.variables.push_back(scope.globals.slotOf(variable.name));
+        scope.unit.variables.push_back(scope.slotOf(variable.name, variable.at));
         if (variable.array) {
             scope.unit.arrays.push_back(scope.unit.variables.back());
         }
@@ -214,12 +226,12 @@ void compileDeclarations(UnitScope& scope) {
     std::vector<std::pair<const ProcedureDecl*, Procedure*>> bodies;
     for (const ClassDecl* decl : ast.classes) {
         unit.classes.push_back(declareClass(*decl, unit, scope.symbols, bodies));
-        unit.callables.emplace_back(scope.globals.slotOf(decl->name), unit.classes.back().get());
+        unit.callables.emplace_back(scope.slotOf(decl->name, decl->at), unit.classes.back().get());
     }
     for (const ProcedureDecl* decl : ast.procedures) {
         Procedure* procedure = unit.procedures.emplace_back(std::make_unique<Procedure>()).get();
         bodies.emplace_back(decl, procedure);
-        unit.callables.emplace_back(scope.globals.slotOf(decl->name), procedure);
+        unit.callables.emplace_back(scope.slotOf(decl->name, decl->at), procedure);
     }
     for (const auto& [decl, procedure] : bodies) {
         CodeGen(scope, *decl, *procedure, procedure->owner).generate();
@@ -228,54 +240,30 @@ void compileDeclarations(UnitScope& scope) {
 
 } // namespace
 
-class Compiler::Slots {
-public:
-    explicit Slots(Globals& globals) noexcept : m_globals(globals), m_size(globals.size()) {}
-    ~Slots() {
-        if (!m_kept) {
-            m_globals.forgetFrom(m_size);
-        }
-    }
-    Slots(const Slots&) = delete;
-    Slots& operator=(const Slots&) = delete;
-
-    Unit* keepFor(std::unique_ptr<Unit> unit) noexcept {
-        m_kept = true;
-        return unit.release();
-    }
-
-private:
-    Globals& m_globals;
-    std::size_t m_size;
-    bool m_kept = false;
-};
-
 Unit* Compiler::compile(std::u16string_view text) {
-    Slots slots(m_globals);
-    return slots.keepFor(compileUnit(text));
+    return compileUnit(text).release();
 }
 
 void Compiler::check(std::u16string_view text) {
-    const Slots slots(m_globals);
     compileUnit(text);
 }
 
 std::unique_ptr<Unit> Compiler::compileUnit(std::u16string_view text) {
+    auto unit = std::make_unique<Unit>(m_symbols, m_globals);
     Parser parser(text, m_symbols);
     const std::unique_ptr<Ast> ast = parser.parse();
-    auto unit = std::make_unique<Unit>();
     UnitScope scope(*ast, m_symbols, m_globals, m_library, *unit);
     declareGlobals(scope);
     compileDeclarations(scope);
     CodeGen(scope, ast->main, unit->main, nullptr).generate();
+    unit->names.close();
     return unit;
 }
 
 Unit* Compiler::compileLocal(std::u16string_view text, const LocalScope& localScope, std::vector<Symbol>& created) {
-    Slots slots(m_globals);
+    auto unit = std::make_unique<Unit>(m_symbols, m_globals);
     Parser parser(text, m_symbols);
     const std::unique_ptr<Ast> ast = parser.parse();
-    auto unit = std::make_unique<Unit>();
     UnitScope scope(*ast, m_symbols, m_globals, m_library, *unit);
     compileDeclarations(scope);
     CodeGen main(scope, ast->main, unit->main, localScope.owner);
@@ -301,23 +289,24 @@ Unit* Compiler::compileLocal(std::u16string_view text, const LocalScope& localSc
         main.addCaptured(name);
     }
     main.generate();
-    return slots.keepFor(std::move(unit));
+    unit->names.close();
+    return unit.release();
 }
 
 Unit* Compiler::compileExpression(std::u16string_view text, const LocalScope& localScope) {
-    Slots slots(m_globals);
+    auto unit = std::make_unique<Unit>(m_symbols, m_globals);
     const Symbol result = m_symbols.intern(u"(eval)");
     Parser parser(text, m_symbols);
     const std::unique_ptr<Ast> ast = parser.parseExpression(result);
     ast->main.name = result;
-    auto unit = std::make_unique<Unit>();
     UnitScope scope(*ast, m_symbols, m_globals, m_library, *unit);
     CodeGen main(scope, ast->main, unit->main, localScope.owner);
     for (const Symbol name : localScope.names) {
         main.addCaptured(name);
     }
     main.generate();
-    return slots.keepFor(std::move(unit));
+    unit->names.close();
+    return unit.release();
 }
 
 } // namespace vbs

@@ -36,9 +36,6 @@ public:
     Unit* compileExpression(std::u16string_view text, const LocalScope& scope);
 
 private:
-    // Takes back the global slots of a text that did not compile.
-    class Slots;
-
     std::unique_ptr<Unit> compileUnit(std::u16string_view text);
 
     SymbolTable& m_symbols;

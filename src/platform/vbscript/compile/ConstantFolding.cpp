@@ -13,7 +13,7 @@ public:
     explicit FoldingContext(Host& theHost) : Context(theHost) {}
     Value defaultValue(const Value& /*object*/) override { raise(ErrorNumber::TypeMismatch); }
     Value call(const Value& /*procedure*/, Arguments /*arguments*/) override { raise(ErrorNumber::TypeMismatch); }
-    void adopt(Object& /*object*/) override {}
+    void adopt(Object& /*object*/) noexcept override {}
     void abandon(Object& /*object*/) noexcept override {}
     void poll() override {}
     void spend(std::size_t /*work*/) override {}

@@ -1,4 +1,5 @@
-// The names of an engine's global scope and their values. Slots never move, so code addresses them directly.
+// The names of an engine's global scope and their values. Slots never move, so code addresses them directly. The slot
+// of a name that nothing has defined goes back when the last unit that mentions it has gone.
 #pragma once
 
 #include "platform/vbscript/syntax/Ast.h"
@@ -23,14 +24,17 @@ public:
     static constexpr std::uint32_t none = 0xffffffff;
 
     std::uint32_t find(Symbol symbol) const noexcept { return symbol < m_slots.size() ? m_slots[symbol] : none; }
-    // The slot of a name, made if need be (Undefined). Raises CompileError 1001 when there are too many names.
+    bool full() const noexcept { return m_free == none && m_info.size() == capacity; }
+    // The slot of a name, made if need be (Undefined); noted if somebody notes. Raises CompileError 1903 if full.
     std::uint32_t slotOf(Symbol symbol);
 
     GlobalKind kind(std::uint32_t slot) const noexcept { return m_info[slot].kind; }
     bool predefined(std::uint32_t slot) const noexcept { return m_info[slot].predefined; }
     Symbol symbol(std::uint32_t slot) const noexcept { return m_info[slot].symbol; }
-    // Takes back the slots from number `size` on; none of them may be defined or in use by code.
-    void forgetFrom(std::size_t size);
+    // From now on every slot that is asked for gets a holder and goes into `notes`, once; null ends that.
+    void noteIn(std::vector<std::uint32_t>* notes) noexcept;
+    // The last holder's release takes the slot back if nothing has defined it.
+    void release(std::uint32_t slot) noexcept;
     // The pass that last declared or made the variable, and whether as an array.
     struct Declared {
         std::uint32_t pass = 0;
@@ -46,14 +50,39 @@ public:
 
 private:
     struct Info {
-        Symbol symbol;
+        Symbol symbol = noSymbol;
         GlobalKind kind = GlobalKind::Undefined;
         bool predefined = false;
         Declared declared{};
+        std::uint32_t holders = 0;
+        std::uint32_t round = 0; // of the notes that have it
+        std::uint32_t nextFree = none;
     };
     Value* m_values;
     std::vector<Info> m_info;
     std::vector<std::uint32_t> m_slots; // by symbol
+    std::uint32_t m_free = none;
+    std::vector<std::uint32_t>* m_notes = nullptr;
+    std::uint32_t m_round = 0;
+};
+
+// What a unit mentions: it holds every name and slot that is asked for between its making and close(), for as long as
+// it lives itself.
+class UnitNames {
+public:
+    UnitNames(SymbolTable& symbols, Globals& globals) noexcept;
+    ~UnitNames();
+    UnitNames(const UnitNames&) = delete;
+    UnitNames& operator=(const UnitNames&) = delete;
+
+    void close() noexcept;
+
+private:
+    SymbolTable& m_symbols;
+    Globals& m_globals;
+    std::vector<Symbol> m_heldSymbols;
+    std::vector<std::uint32_t> m_heldSlots;
+    bool m_open = true;
 };
 
 } // namespace vbs

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/vbscript/compile/Bytecode.h"
+#include "platform/vbscript/compile/Globals.h"
 #include "platform/vbscript/syntax/Ast.h"
 #include "platform/vbscript/value/Value.h"
 
@@ -96,6 +97,9 @@ struct ScriptClass : Callable {
 // One compiled text. It lives while the cache, a global name, an instance or a running frame refers to it.
 class Unit : public Counted {
 public:
+    Unit(SymbolTable& symbols, Globals& globals) noexcept : names(symbols, globals) {}
+
+    UnitNames names;
     std::u16string text;
     Procedure main;
     std::vector<std::unique_ptr<Procedure>> procedures;
@@ -110,6 +114,8 @@ public:
 
     // Names that procedures took as local because no global of that name was known.
     std::vector<Symbol> assumedLocal;
+
+    Unit* nextRetired = nullptr; // without references, but its code may be running
 };
 
 } // namespace vbs

@@ -26,6 +26,7 @@ Value msgBox(Context& context, Arguments arguments) {
     const std::int32_t buttons = longArgument(context, arguments, 1, 0);
     const std::u16string title = textOr(context, arguments, 2, u"VBScript");
     checkHelp(arguments, 3);
+    const PausedClock waiting(context);
     return Value::ofInteger(static_cast<std::int16_t>(context.host.messageBox(prompt.view(), buttons, title)));
 }
 
@@ -37,6 +38,7 @@ Value inputBox(Context& context, Arguments arguments) {
     longArgument(context, arguments, 3, 0);
     longArgument(context, arguments, 4, 0);
     checkHelp(arguments, 5);
+    const PausedClock waiting(context);
     return Value::ofString(std::u16string_view(context.host.inputBox(prompt.view(), title, start)));
 }
 

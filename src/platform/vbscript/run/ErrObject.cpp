@@ -15,9 +15,9 @@ constexpr std::int32_t greatestNumber = 65535; // that a script may raise
 std::span<const ErrObject::Member> ErrObject::members() {
     static constexpr Member table[] = {
         {u"Number", &ErrObject::number, readWrite, 0, 0},
-        {u"Source", &ErrObject::source, readWrite, 0, 0},
-        {u"Description", &ErrObject::description, readWrite, 0, 0},
-        {u"HelpFile", &ErrObject::helpFile, readWrite, 0, 0},
+        {u"Source", &ErrObject::text<&ErrorState::source>, readWrite, 0, 0},
+        {u"Description", &ErrObject::text<&ErrorState::description>, readWrite, 0, 0},
+        {u"HelpFile", &ErrObject::text<&ErrorState::helpFile>, readWrite, 0, 0},
         {u"HelpContext", &ErrObject::helpContext, readWrite, 0, 0},
         {u"Clear", &ErrObject::clear, readOnly, 0, 0},
         {u"Raise", &ErrObject::raiseError, readOnly, 0, 5},
@@ -80,25 +80,13 @@ Value ErrObject::number(Context& context, Access access, Arguments arguments) {
     return Value::ofLong(m_vm.error.number);
 }
 
-Value ErrObject::source(Context& context, Access access, Arguments arguments) {
+template <String ErrorState::*part>
+Value ErrObject::text(Context& context, Access access, Arguments arguments) {
+    String& text = m_vm.error.*part;
     if (access == Access::Let) {
-        m_vm.error.source = toString(context, arguments[0]);
+        text = toString(context, arguments[0]);
     }
-    return Value::ofString(m_vm.error.source);
-}
-
-Value ErrObject::description(Context& context, Access access, Arguments arguments) {
-    if (access == Access::Let) {
-        m_vm.error.description = toString(context, arguments[0]);
-    }
-    return Value::ofString(m_vm.error.description);
-}
-
-Value ErrObject::helpFile(Context& context, Access access, Arguments arguments) {
-    if (access == Access::Let) {
-        m_vm.error.helpFile = toString(context, arguments[0]);
-    }
-    return Value::ofString(m_vm.error.helpFile);
+    return Value::ofString(text);
 }
 
 Value ErrObject::helpContext(Context& context, Access access, Arguments arguments) {

@@ -8,6 +8,7 @@
 namespace vbs {
 
 class Vm;
+struct ErrorState;
 
 class ErrObject final : public NativeObject<ErrObject> {
 public:
@@ -17,9 +18,9 @@ public:
 
 private:
     Value number(Context& context, Access access, Arguments arguments);
-    Value source(Context& context, Access access, Arguments arguments);
-    Value description(Context& context, Access access, Arguments arguments);
-    Value helpFile(Context& context, Access access, Arguments arguments);
+    // Source, Description and HelpFile.
+    template <String ErrorState::*part>
+    Value text(Context& context, Access access, Arguments arguments);
     Value helpContext(Context& context, Access access, Arguments arguments);
     Value clear(Context& context, Access access, Arguments arguments);
     Value raiseError(Context& context, Access access, Arguments arguments);

@@ -15,8 +15,7 @@ std::size_t bytesOf(const ScriptClass& cls) noexcept {
 
 } // namespace
 
-Instance::Instance(Vm& vm, const ScriptClass& cls) : m_vm(vm), m_class(cls) {
-    chargeMemory(bytesOf(cls));
+Instance::Instance(Vm& vm, const ScriptClass& cls) : m_vm(vm), m_class(cls), m_charge(bytesOf(cls)) {
     role = Role::Instance;
     shape = cls.shape;
     m_fields = std::make_unique<Value[]>(cls.fields.size());
@@ -32,12 +31,11 @@ Instance::Instance(Vm& vm, const ScriptClass& cls) : m_vm(vm), m_class(cls) {
 Instance::~Instance() {
     m_vm.abandon(*this);
     m_fields.reset();
-    releaseMemory(bytesOf(m_class));
     m_vm.release(m_class.unit);
 }
 
 int Instance::resolve(std::u16string_view name) {
-    const auto found = m_class.index.find(m_vm.symbols().intern(name));
+    const auto found = m_class.index.find(m_vm.symbols().find(name));
     return found != m_class.index.end() ? found->second : noMember;
 }
 

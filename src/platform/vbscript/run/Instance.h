@@ -3,6 +3,7 @@
 
 #include "platform/vbscript/compile/Program.h"
 #include "platform/vbscript/value/Array.h"
+#include "platform/vbscript/value/Memory.h"
 #include "platform/vbscript/value/Object.h"
 
 #include <memory>
@@ -32,6 +33,7 @@ protected:
 private:
     Vm& m_vm;
     const ScriptClass& m_class;
+    const MemoryCharge m_charge;
     std::unique_ptr<Value[]> m_fields;
 };
 

@@ -44,6 +44,9 @@ public:
 
     // The unit of a text, compiled or from the cache. Throws CompileError.
     Unit* unitOf(std::u16string_view text);
+    // Runs a unit for the host, with a time-out and an end of its own: what a text that is let in by a host object does
+    // with its time is nothing to the text around it. Throws as runUnit().
+    void runPass(Unit* unit);
     // Defines what the unit declares and runs its main procedure. Throws ScriptError; nothing of the run remains on the
     // stack then.
     void runUnit(Unit* unit);
@@ -51,10 +54,12 @@ public:
     // Context
     Value defaultValue(const Value& object) override;
     Value call(const Value& procedure, Arguments arguments) override;
-    void adopt(Object& object) override;
+    void adopt(Object& object) noexcept override;
     void abandon(Object& object) noexcept override;
     void poll() override;
     void spend(std::size_t work) override;
+    void pauseClock() override;
+    void resumeClock() noexcept override;
     bool idle() const noexcept { return m_depth == 0; }
     [[noreturn]] void interrupt() override;
 
@@ -82,6 +87,7 @@ public:
 
 private:
     static constexpr std::size_t stackSize = 1 << 20; // registers
+    static constexpr std::size_t stackSlack = 256;    // behind them: what an instruction puts above its frame
     static constexpr std::size_t maxFrames = 20000;
     static constexpr int maxReentries = 120;
     static constexpr int pollInterval = 10000;
@@ -107,6 +113,8 @@ private:
     void noteError(const ScriptError& failure);
     void locate(ScriptError& failure) const;
     void pollSlow();
+    void checkClock(bool betweenStatements);
+    void tellLongRun(double now);
 
     // Dead objects
     void terminateDead() noexcept;
@@ -117,6 +125,8 @@ private:
     Frame* pushFrame(const Procedure* procedure, Value* base, std::size_t count, Instance* me, Value* result,
                      Store store);
     void popFrame();
+    void dropExtra(const Frame& frame) noexcept;
+    bool mayRun(const Unit& unit) const noexcept;
     Value* freeRegisters() noexcept;
     Frame& top() noexcept { return m_frames[m_depth - 1]; }
     Value& at(Operand o) noexcept;
@@ -152,13 +162,14 @@ private:
     void setDeep(Value& base, Value* indexes, std::span<const std::int32_t> levels, Value value, Store store);
     Value assignable(Value value, Store store);
     void indexNumbers(std::span<Value* const> indexes, std::int32_t* numbers);
-    void callOther(Instruction instruction);
+    void callOther(Instruction instruction, std::size_t count);
+    void callWide(Instruction instruction, Operand first, std::size_t count);
     void runIntrinsic(const Builtin& intrinsic, Value& argument, Value& to, Store store);
     void runNative(Object& target, int member, Arguments arguments, Value& to, Store store);
     void callIntrinsic1(Instruction instruction);
     void runIntrinsicRow(const Builtin& intrinsic, Value* first, std::size_t count, Value& to, Store store);
     void getMember(Instruction instruction);
-    void callMember(Instruction instruction, Operand first);
+    void callMember(Instruction instruction, Operand first, std::size_t count);
     void setMember(Instruction instruction);
     void setMemberN(Instruction instruction);
     void assignMember(Object* object, MemberSite& site, Value* first, std::size_t count, Store store);
@@ -183,11 +194,13 @@ private:
     // Units
     void bind(Unit* unit);
     void checkLater(const Unit& unit);
-    void define(std::uint32_t slot, GlobalKind kind, Value value);
+    void define(std::uint32_t slot, GlobalKind kind, Value value, Unit* owner = nullptr);
     void forgetCache(const Unit* except);
     void trimCache();
+    Unit* compiled(std::u16string_view text);
     void defineBuiltins();
     void startClock();
+    void freeRetired() noexcept;
 
     const Library& m_library;
     SymbolTable m_symbols;
@@ -199,18 +212,35 @@ private:
     std::size_t m_depth = 0;
     int m_reentries = 0;
     int m_budget = pollInterval;
-    double m_deadline = 0;
-    bool m_interrupted = false; // a time-out or stop that no On Error may catch
-    ErrorNumber m_interruption = ErrorNumber::None;
+    // The time of a pass; milliseconds of the host's clock.
+    struct Clock {
+        double started = 0;
+        double deadline = 0; // 0: none
+        double nextLongRun = 0;
+        double pausedAt = 0;
+        int pauses = 0;
+        bool interrupted = false; // a time-out or stop that no On Error may catch
+        ErrorNumber interruption = ErrorNumber::None;
+    };
+    class Pass;
+    Clock m_clock;
+    bool m_tellsLongRun = false;
+
+    // Texts that did not compile, the last ones first: they fail again without being compiled again.
+    struct Refused {
+        std::u16string text;
+        CompileError error;
+    };
+    std::list<Refused> m_refused;
 
     std::list<Unit*> m_recent; // most recently used first
     std::unordered_map<std::u16string_view, std::list<Unit*>::iterator> m_cache;
     bool m_cacheStale = false;
     std::uint32_t m_pass = 0; // counts the texts that the host runs; what they run in turn belongs to them
     std::unordered_set<Symbol> m_assumedLocal;
-    std::vector<Unit*> m_retired;
+    Unit* m_retired = nullptr;                         // a list
     std::unordered_map<std::uint32_t, Unit*> m_owners; // of global callables
-    std::unordered_set<Object*> m_adopted;
+    Object* m_adopted = nullptr;                       // a list
     bool m_closing = false;
 
     // Objects that wait for their Class_Terminate, in the order in which their last references went.

@@ -1,4 +1,5 @@
 // Arrays: reading and writing elements, ReDim, Erase.
+#include "platform/vbscript/compile/Instruction.h"
 #include "platform/vbscript/run/Instance.h"
 #include "platform/vbscript/run/Vm.h"
 #include "platform/vbscript/value/Array.h"
@@ -15,22 +16,6 @@ namespace vbs {
 namespace {
 
 constexpr std::size_t maxIndexes = 64;
-
-Operand operandA(Instruction i) noexcept {
-    return static_cast<Operand>(i >> 8);
-}
-Operand operandB(Instruction i) noexcept {
-    return static_cast<Operand>(i >> 24);
-}
-Operand operandC(Instruction i) noexcept {
-    return static_cast<Operand>(i >> 40);
-}
-std::size_t countOf(Instruction i) noexcept {
-    return (i >> 56) & 63;
-}
-Store storeOf(Instruction i) noexcept {
-    return static_cast<Store>(i >> 62);
-}
 
 // The values of a row, as the functions below want them.
 struct Row {

@@ -462,6 +462,16 @@ labelSetDeep : {
     SLOW(storeDeep(i, shape));
 }
 
+labelWide : {
+    const auto count = static_cast<std::size_t>(J);
+    i = *pc++;
+    const Operand first = hasSecondWord(static_cast<Opcode>(i & 0xff)) ? static_cast<Operand>(*pc++) : Operand{0};
+    SAVE;
+    callWide(i, first, count);
+    LOAD;
+    NEXT;
+}
+
 labelCall : {
     const Value& callee = R(C);
     SAVE;
@@ -475,7 +485,7 @@ labelCall : {
         ENTER;
         NEXT;
     }
-    callOther(i);
+    callOther(i, X & 63);
     LOAD;
     NEXT;
 }
@@ -548,7 +558,7 @@ labelCallMember : {
             NEXT;
         }
     }
-    callMember(i, first);
+    callMember(i, first, X & 63);
     LOAD;
     NEXT;
 }

@@ -24,6 +24,23 @@ inline void put(Value& to, Type type, std::int64_t payload) noexcept {
     to.n = payload;
 }
 
+// Counts a re-entry of the machine; error 28 when the stack of C++ would be at risk.
+class Reentry {
+public:
+    Reentry(int& counter, int most) : m_counter(counter) {
+        if (m_counter >= most) {
+            raise(ErrorNumber::OutOfStack);
+        }
+        ++m_counter;
+    }
+    ~Reentry() { --m_counter; }
+    Reentry(const Reentry&) = delete;
+    Reentry& operator=(const Reentry&) = delete;
+
+private:
+    int& m_counter;
+};
+
 // `base` holds `count` arguments already. Raises 450 or 28.
 inline Vm::Frame* Vm::pushFrame(const Procedure* procedure, Value* base, std::size_t count, Instance* me, Value* result,
                                 Store store) {

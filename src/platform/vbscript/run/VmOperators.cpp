@@ -1,4 +1,5 @@
 // Operators, assignments and loops beyond what the dispatch loop does on the spot.
+#include "platform/vbscript/compile/Instruction.h"
 #include "platform/vbscript/run/Instance.h"
 #include "platform/vbscript/run/Vm.h"
 #include "platform/vbscript/value/Array.h"
@@ -12,15 +13,6 @@ namespace vbs {
 
 namespace {
 
-Operand operandA(Instruction i) noexcept {
-    return static_cast<Operand>(i >> 8);
-}
-Operand operandB(Instruction i) noexcept {
-    return static_cast<Operand>(i >> 24);
-}
-Operand operandC(Instruction i) noexcept {
-    return static_cast<Operand>(i >> 40);
-}
 Opcode opcode(Instruction i) noexcept {
     return generalForm(static_cast<Opcode>(i & 0xff));
 }
@@ -263,7 +255,7 @@ void Vm::concatenateInto(Instruction instruction) {
 // A row of texts made one; with `append` it goes onto the variable that takes the result.
 void Vm::join(Instruction instruction, bool append) {
     Value* parts = &at(operandB(instruction));
-    const std::size_t count = (instruction >> 56) & 63;
+    const std::size_t count = countOf(instruction);
     bool allNull = true;
     bool odd = false;
     std::size_t length = 0;

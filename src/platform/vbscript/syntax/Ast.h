@@ -20,18 +20,38 @@ namespace vbs {
 using Symbol = std::uint32_t;
 inline constexpr Symbol noSymbol = 0xffffffff;
 
+// The names of an engine. One that nobody holds any more gives its number to another, so that texts which bring a new
+// name each leave nothing behind.
 class SymbolTable {
 public:
+    // The number of a name, which is noted if somebody notes.
     Symbol intern(std::u16string_view name);
-    const std::u16string& name(Symbol s) const { return *m_spelling[s]; } // as first written
-    const std::u16string& folded(Symbol s) const { return *m_folded[s]; } // in small letters
+    // The same without making one; noSymbol if there is none.
+    Symbol find(std::u16string_view name) const;
+    const std::u16string& name(Symbol s) const { return m_info[s].spelling; }  // as first written
+    const std::u16string& folded(Symbol s) const { return *m_info[s].folded; } // in small letters
     // A number that was never given before.
     std::uintptr_t nextSerial() noexcept { return ++m_serial; }
 
+    // From now on every name that is interned gets a holder and goes into `notes`, once; null ends that.
+    void noteIn(std::vector<Symbol>* notes) noexcept;
+    void hold(Symbol s) noexcept { ++m_info[s].holders; }
+    void release(Symbol s) noexcept; // the last holder's release forgets the name
+
 private:
+    struct Info {
+        const std::u16string* folded = nullptr;
+        std::u16string spelling;
+        std::uint32_t holders = 0;
+        std::uint32_t round = 0; // of the notes that have it
+        Symbol nextFree = noSymbol;
+    };
+
     std::unordered_map<std::u16string, Symbol> m_index;
-    std::vector<const std::u16string*> m_folded;
-    std::vector<std::unique_ptr<std::u16string>> m_spelling;
+    std::vector<Info> m_info;
+    Symbol m_free = noSymbol;
+    std::vector<Symbol>* m_notes = nullptr;
+    std::uint32_t m_round = 0;
     std::uintptr_t m_serial = 0;
 };
 

@@ -14,7 +14,7 @@ Parser::Parser(std::u16string_view text, SymbolTable& symbols)
 Parser::Nesting::Nesting(Parser& parser) : m_parser(parser) {
     if (++parser.m_nesting > maxNesting) {
         --parser.m_nesting;
-        parser.fail(ErrorNumber::OutOfMemoryCompiling);
+        parser.fail(ErrorNumber::NestedTooDeep);
     }
 }
 

@@ -8,7 +8,7 @@ namespace vbs {
 
 namespace {
 
-constexpr std::size_t maxParameters = 60;
+constexpr std::size_t maxParameters = 1000;
 
 } // namespace
 
@@ -90,7 +90,7 @@ Variable Parser::parseVariable(bool isPrivate) {
             fail(ErrorNumber::ExpectedInteger);
         }
         if (m_token.value.n == 0x7fffffff || variable.sizes.size() == 60) {
-            fail(ErrorNumber::OutOfMemoryCompiling);
+            fail(ErrorNumber::TooManyArguments);
         }
         variable.sizes.push_back(static_cast<std::int32_t>(m_token.value.n) + 1);
         advance();
@@ -203,7 +203,7 @@ void Parser::parseParameters(ProcedureDecl& procedure) {
         }
         procedure.parameters.push_back(parameter);
         if (procedure.parameters.size() > maxParameters) {
-            fail(ErrorNumber::OutOfMemoryCompiling);
+            fail(ErrorNumber::TooManyArguments);
         }
     } while (accept(Sign::Comma));
     expect(Sign::Close, ErrorNumber::ExpectedRightParenthesis);

@@ -298,7 +298,7 @@ void Parser::setHeight(Expr& e) {
         height = std::max(height, part != nullptr ? int{part->height} : 0);
     }
     if (++height > (e.kind == Expr::Kind::Binary ? maxHeight : maxChain)) {
-        fail(ErrorNumber::OutOfMemoryCompiling, e.at);
+        fail(ErrorNumber::NestedTooDeep, e.at);
     }
     e.height = static_cast<std::uint16_t>(height);
 }

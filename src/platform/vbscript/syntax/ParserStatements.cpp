@@ -141,7 +141,7 @@ Stmt* Parser::parseReDim() {
             fail(ErrorNumber::ExpectedLeftParenthesis);
         }
         if (target->args.size() > 60) {
-            fail(ErrorNumber::OutOfMemoryCompiling);
+            fail(ErrorNumber::TooManyArguments);
         }
         noteAssigned(target->a);
         if (target->a->kind == Expr::Kind::Name) {

@@ -58,7 +58,7 @@ public:
 
     // Objects that can be part of a reference cycle register themselves for the engine's end (see
     // Object::dropContents).
-    virtual void adopt(Object& object) = 0;
+    virtual void adopt(Object& object) noexcept = 0;
     virtual void abandon(Object& object) noexcept = 0;
 
     // To be called now and then by builtins that may run long; raises when the script was stopped or its time is up.
@@ -66,12 +66,28 @@ public:
     // The same for one long step: `work` tells how many turns of an empty loop it was worth.
     virtual void spend(std::size_t work) = 0;
 
+    // The clock of the time-out stands still between these two; see PausedClock.
+    virtual void pauseClock() {}
+    virtual void resumeClock() noexcept {}
+
     // Ends the running text at once; no On Error sees it.
     [[noreturn]] virtual void interrupt() { raise(ErrorNumber::Stopped); }
 
 private:
     const Locale* m_locale;
     std::array<Value, 256> m_characters;
+};
+
+// While it lives the script waits for the user, which does not count against its time-out; for whatever opens a box.
+class PausedClock {
+public:
+    explicit PausedClock(Context& context) : m_context(context) { context.pauseClock(); }
+    ~PausedClock() { m_context.resumeClock(); }
+    PausedClock(const PausedClock&) = delete;
+    PausedClock& operator=(const PausedClock&) = delete;
+
+private:
+    Context& m_context;
 };
 
 } // namespace vbs

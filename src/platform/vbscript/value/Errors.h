@@ -59,7 +59,11 @@ enum class ErrorNumber : std::int32_t {
     TimedOut = 32765,
     Stopped = 32766,
     ElementNotFound = 32811,
-    // compile time
+    // compile time; those from 1900 are this engine's own limits
+    NestedTooDeep = 1901,
+    TooManyArguments = 1902,
+    TooManyNames = 1903,
+    ProcedureTooLarge = 1904,
     OutOfMemoryCompiling = 1001,
     SyntaxError = 1002,
     ExpectedColon = 1003,

@@ -44,6 +44,8 @@ std::u16string Host::inputBox(std::u16string_view /*prompt*/, std::u16string_vie
     return std::u16string(defaultText);
 }
 
+void Host::longRun(std::chrono::milliseconds /*elapsed*/) {}
+
 LocalTime Host::now() {
     using namespace std::chrono;
     const auto instant = system_clock::now();

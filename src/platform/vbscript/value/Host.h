@@ -4,6 +4,7 @@
 
 #include "platform/vbscript/value/Locale.h"
 
+#include <chrono>
 #include <span>
 #include <string>
 #include <string_view>
@@ -35,6 +36,11 @@ public:
     virtual LocalTime now();
     // A clock that only runs forward, in milliseconds; time-outs are measured with it.
     virtual double monotonicMilliseconds();
+
+    // Called while a text runs: first after half a second of its time, then about every 50 ms, between two of its
+    // statements. May run other texts in the same engine and may call ScriptControl::stop(), which ends the text with
+    // error 32766, whatever its On Error says. The time spent here does not count. Default: does nothing.
+    virtual void longRun(std::chrono::milliseconds elapsed);
 
     // Facts of a locale number (0: the user's own), or null if it is not known. Must outlive the engine.
     virtual const Locale* locale(int id);

@@ -202,8 +202,8 @@ bool KeyedTable::remove(const Value& key) {
     m_recent.entry = 0;
     entry->alive = false;
     --m_count;
-    const Value oldKey = std::move(entry->key); // these two end last: they may run script code
-    const Value oldItem = std::move(entry->item);
+    entry->item.clear();
+    entry->key.clear();
     return true;
 }
 

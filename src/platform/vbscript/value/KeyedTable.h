@@ -1,8 +1,7 @@
 // A hash table from script values to script values that keeps the order of insertion; what a Dictionary is made of.
 //
 // Numbers are one key whatever their type (1 and 1.0), a text is never a number, objects are keys by identity; Empty
-// and Null are keys of their own. Arrays are no keys: hashing one raises error 5. Replacing or removing a value may run
-// script code (Class_Terminate), which may use this very table: every operation leaves the table whole before that.
+// and Null are keys of their own. Arrays are no keys: hashing one raises error 5. No operation runs code of the script.
 #pragma once
 
 #include "platform/vbscript/value/Value.h"

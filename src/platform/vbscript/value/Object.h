@@ -70,6 +70,10 @@ public:
 
     Object* nextDead = nullptr; // in a list of those whose last reference is gone
 
+    // Neighbours among the objects that an engine has adopted (see Context::adopt).
+    Object* adoptedBefore = nullptr;
+    Object* adoptedAfter = nullptr;
+
 protected:
     // Asked when the last reference goes. True: whoever answers has taken a reference and drops it in its own time (an
     // object of a script class waits so for its Class_Terminate). Runs no code of the script.

@@ -1,0 +1,40 @@
+// What the instructions that call share.
+#pragma once
+
+#include "platform/vbscript/compile/Instruction.h"
+#include "platform/vbscript/compile/Program.h"
+#include "platform/vbscript/value/Errors.h"
+#include "platform/vbscript/value/Object.h"
+
+namespace vbs {
+
+// References in a row of arguments become plain values.
+inline void settle(Value* first, std::size_t count) {
+    for (std::size_t i = 0; i < count; ++i) {
+        if (first[i].type == Type::Reference) {
+            first[i] = Value(*first[i].target);
+        }
+    }
+}
+
+inline const Procedure* readerOf(const ClassMember& member) noexcept {
+    return member.method != nullptr ? member.method : member.get;
+}
+
+// The procedure that a global name stands for, or null.
+inline const Procedure* procedureIn(const Value& named) noexcept {
+    const auto* callable = named.type == Type::Procedure ? static_cast<const Callable*>(named.pointer) : nullptr;
+    return callable != nullptr && callable->kind == Callable::Kind::Procedure ? static_cast<const Procedure*>(callable)
+                                                                              : nullptr;
+}
+
+// The object behind a value. Raises 424 for what is no object and for Nothing.
+inline Object& objectOf(const Value& v) {
+    const Value& value = v.deref();
+    if (!value.isObject() || value.object() == nullptr) {
+        raise(ErrorNumber::ObjectRequired);
+    }
+    return *value.object();
+}
+
+} // namespace vbs
