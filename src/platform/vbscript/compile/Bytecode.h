@@ -80,15 +80,20 @@ enum class Store : std::uint8_t { Raw = 0, Let = 1, Set = 2, Discard = 3 };
     OP(JumpGreater)                                                                                                    \
     OP(JumpLessEqual)                                                                                                  \
     OP(JumpGreaterEqual)                                                                                               \
+    OP(JumpIs)                                                                                                         \
+    OP(JumpBoth)    /* A And B: J */                                                                                   \
     OP(UnlessEqual) /* not (A op B), Null included: J */                                                               \
     OP(UnlessNotEqual)                                                                                                 \
     OP(UnlessLess)                                                                                                     \
     OP(UnlessGreater)                                                                                                  \
     OP(UnlessLessEqual)                                                                                                \
     OP(UnlessGreaterEqual)                                                                                             \
+    OP(UnlessIs)                                                                                                       \
+    OP(UnlessBoth)                                                                                                     \
     OP(Back)           /* J, at the end of a loop: polls */                                                            \
     OP(ForPrepare)     /* A variable, B limit, B+1 step, B+2 start; J past the loop if it does not run */              \
     OP(ForLoop)        /* A variable, B limit, B+1 step; J to the body while it runs */                                \
+    OP(ForNext)        /* the same for a step of 1 */                                                                  \
     OP(EachPrepare)    /* A = iterator over B */                                                                       \
     OP(EachNext)       /* A = next element of iterator B and J to the body, if there is one */                         \
     OP(Index)          /* A = B(C) */                                                                                  \
@@ -128,7 +133,8 @@ enum class Store : std::uint8_t { Raw = 0, Let = 1, Set = 2, Discard = 3 };
 // The commonest operands have forms of their own, which specialize() picks when a procedure is complete. Local: every
 // operand is a register of the frame. Small: the last operand is a whole constant of -128 to 127, the others are
 // registers of the frame; the number also stands in X, or, where the instruction jumps, in the low 8 bits of J (which
-// then has 16 bits above them). The operands stay as they are, so the long roads need not know.
+// then has 16 bits above them). Self: a small form whose result goes where its first operand is. The operands stay as
+// they are, so the long roads need not know.
 #define VBS_LOCAL_FORMS(OP)                                                                                            \
     OP(Move)                                                                                                           \
     OP(Let)                                                                                                            \
@@ -147,8 +153,11 @@ enum class Store : std::uint8_t { Raw = 0, Let = 1, Set = 2, Discard = 3 };
     OP(Greater)                                                                                                        \
     OP(LessEqual)                                                                                                      \
     OP(GreaterEqual)                                                                                                   \
-    OP(Index) OP(Index2) OP(SetIndex) OP(SetIndex2) OP(JumpIf) OP(JumpUnless) OP(ForLoop) VBS_JUMPS_ON(OP)
+    OP(Index)                                                                                                          \
+    OP(Index2) OP(SetIndex) OP(SetIndex2) OP(JumpIf) OP(JumpUnless) OP(JumpBoth) OP(UnlessBoth) OP(ForLoop)            \
+        OP(ForNext) VBS_JUMPS_ON(OP)
 #define VBS_SMALL_FORMS(OP) OP(Add) OP(Subtract) OP(Multiply) OP(IntegerDivide) OP(Modulo) OP(And) VBS_JUMPS_ON(OP)
+#define VBS_SELF_FORMS(OP) OP(Add) OP(Subtract)
 #define VBS_JUMPS_ON(OP)                                                                                               \
     OP(JumpEqual)                                                                                                      \
     OP(JumpNotEqual)                                                                                                   \
@@ -162,10 +171,12 @@ enum class Opcode : std::uint8_t {
 #define VBS_OPCODE(name) name,
 #define VBS_LOCAL(name) name##Local,
 #define VBS_SMALL(name) name##Small,
-    VBS_OPCODES(VBS_OPCODE) VBS_LOCAL_FORMS(VBS_LOCAL) VBS_SMALL_FORMS(VBS_SMALL)
+#define VBS_SELF(name) name##Self,
+    VBS_OPCODES(VBS_OPCODE) VBS_LOCAL_FORMS(VBS_LOCAL) VBS_SMALL_FORMS(VBS_SMALL) VBS_SELF_FORMS(VBS_SELF)
 #undef VBS_OPCODE
 #undef VBS_LOCAL
 #undef VBS_SMALL
+#undef VBS_SELF
 };
 
 // The opcode that a form was picked for.
@@ -177,10 +188,15 @@ constexpr Opcode generalForm(Opcode op) noexcept {
 #define VBS_SMALL(name)                                                                                                \
     case Opcode::name##Small:                                                                                          \
         return Opcode::name;
+#define VBS_SELF(name)                                                                                                 \
+    case Opcode::name##Self:                                                                                           \
+        return Opcode::name;
         VBS_LOCAL_FORMS(VBS_LOCAL)
         VBS_SMALL_FORMS(VBS_SMALL)
+        VBS_SELF_FORMS(VBS_SELF)
 #undef VBS_LOCAL
 #undef VBS_SMALL
+#undef VBS_SELF
     default:
         return op;
     }

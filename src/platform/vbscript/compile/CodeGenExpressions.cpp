@@ -55,9 +55,19 @@ Opcode opcodeOf(BinaryOp op) noexcept {
     }
 }
 
-// The fused compare-and-jump of a comparison, or nothing.
+// The jump on an operator, counted from the jump on Equal: of a comparison, Is or And; else nothing.
 std::optional<Opcode> jumpOf(const Expr& e, Opcode equal) noexcept {
-    if (e.kind != Expr::Kind::Binary || e.op < BinaryOp::Equal || e.op > BinaryOp::GreaterEqual) {
+    const auto counted = [equal](Opcode op) {
+        return static_cast<Opcode>(static_cast<int>(equal) + static_cast<int>(op) -
+                                   static_cast<int>(Opcode::JumpEqual));
+    };
+    if (e.kind != Expr::Kind::Binary) {
+        return std::nullopt;
+    }
+    if (e.op == BinaryOp::Is || e.op == BinaryOp::And) {
+        return counted(e.op == BinaryOp::Is ? Opcode::JumpIs : Opcode::JumpBoth);
+    }
+    if (e.op < BinaryOp::Equal || e.op > BinaryOp::GreaterEqual) {
         return std::nullopt;
     }
     const auto index = static_cast<std::uint8_t>(e.op) - static_cast<std::uint8_t>(BinaryOp::Equal);

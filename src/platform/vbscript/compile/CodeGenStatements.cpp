@@ -184,7 +184,8 @@ void CodeGen::forStatement(const Stmt& s) {
     m_exitFor.pop_back();
     beginMark(s.closing);
     searchAgain(s.target->symbol, variable);
-    emitJumpTo(Opcode::ForLoop, variable, limit, body);
+    const bool byOne = s.step == nullptr && !m_decl.resumesNext; // the step is sure to be there
+    emitJumpTo(byOne ? Opcode::ForNext : Opcode::ForLoop, variable, limit, body);
     endMark();
     bind(exit);
     m_hidden = hiddenMark;

@@ -56,6 +56,8 @@ struct Procedure : Callable {
     std::vector<bool> byValue;                     // a parameter each
     bool anyByValue = false;
     std::uint16_t parameters = 0;
+    std::uint16_t plainParameters = 0; // the same; noPlain if a call must look at its arguments
+    static constexpr std::uint16_t noPlain = 0xffff;
     std::uint16_t firstTemporary = 0;
     std::uint16_t registers = 0;
     int resultSlot = -1;

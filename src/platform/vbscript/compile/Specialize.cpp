@@ -10,20 +10,24 @@ namespace {
 struct Forms {
     Opcode local;
     Opcode small;
+    Opcode self;
 };
 
 // The forms of every opcode; one without forms stands for itself.
 constexpr auto forms = [] {
     std::array<Forms, 256> of{};
     for (std::size_t i = 0; i < of.size(); ++i) {
-        of[i] = {static_cast<Opcode>(i), static_cast<Opcode>(i)};
+        of[i] = {static_cast<Opcode>(i), static_cast<Opcode>(i), static_cast<Opcode>(i)};
     }
 #define VBS_LOCAL(name) of[static_cast<std::size_t>(Opcode::name)].local = Opcode::name##Local;
 #define VBS_SMALL(name) of[static_cast<std::size_t>(Opcode::name)].small = Opcode::name##Small;
+#define VBS_SELF(name) of[static_cast<std::size_t>(Opcode::name)].self = Opcode::name##Self;
     VBS_LOCAL_FORMS(VBS_LOCAL)
     VBS_SMALL_FORMS(VBS_SMALL)
+    VBS_SELF_FORMS(VBS_SELF)
 #undef VBS_LOCAL
 #undef VBS_SMALL
+#undef VBS_SELF
     return of;
 }();
 
@@ -34,7 +38,12 @@ constexpr bool jumps(Opcode op) noexcept {
 #undef VBS_JUMP
     case Opcode::JumpIf:
     case Opcode::JumpUnless:
+    case Opcode::JumpIs:
+    case Opcode::JumpBoth:
+    case Opcode::UnlessIs:
+    case Opcode::UnlessBoth:
     case Opcode::ForLoop:
+    case Opcode::ForNext:
         return true;
     default:
         return false;
@@ -108,7 +117,8 @@ void specialize(std::span<Instruction> code, std::span<const Value> constants) n
             i = all ? withOpcode(i, form.local) : i;
         } else if (form.small != op && inFrame(i, count - 1)) {
             const std::optional<std::uint8_t> number = smallNumber(operandAt(i, count - 1), constants);
-            i = number ? smallForm(i, op, form.small, *number) : i;
+            const bool self = form.self != op && operandAt(i, 0) == operandAt(i, 1);
+            i = number ? smallForm(i, op, self ? form.self : form.small, *number) : i;
         }
         at += twoWords ? 1 : 0;
     }

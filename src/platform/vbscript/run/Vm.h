@@ -141,6 +141,7 @@ private:
     void unary(Instruction instruction);
     bool condition(Operand o);
     bool comparison(Opcode op, Operand a, Operand b);
+    bool conditionOf(Opcode op, Operand a, Operand b);
     Literals literalsOf(Operand a, Operand b) noexcept;
     void letInto(Value& target, Operand from);
     void setInto(Value& target, Operand from);

@@ -13,6 +13,13 @@
 
 namespace vbs {
 
+// The compiler cannot tell how often the loop reads its program counter, so it is told the register.
+#if defined(__GNUC__) && !defined(__clang__) && defined(__x86_64__)
+#define PROGRAM_COUNTER register const Instruction* pc asm("rbx")
+#else
+#define PROGRAM_COUNTER const Instruction* pc
+#endif
+
 namespace {
 
 // The value that an operand names. The index stands two bits up in an operand, so its distance in bytes is four times
@@ -35,14 +42,16 @@ void Vm::dispatch(std::size_t floor) {
 #define VBS_LABEL(name) &&label##name,
 #define VBS_LOCAL(name) &&label##name##Local,
 #define VBS_SMALL(name) &&label##name##Small,
-        VBS_OPCODES(VBS_LABEL) VBS_LOCAL_FORMS(VBS_LOCAL) VBS_SMALL_FORMS(VBS_SMALL)
+#define VBS_SELF(name) &&label##name##Self,
+        VBS_OPCODES(VBS_LABEL) VBS_LOCAL_FORMS(VBS_LOCAL) VBS_SMALL_FORMS(VBS_SMALL) VBS_SELF_FORMS(VBS_SELF)
 #undef VBS_LABEL
 #undef VBS_LOCAL
 #undef VBS_SMALL
+#undef VBS_SELF
     };
 
     Frame* frame = &top();
-    const Instruction* pc = frame->pc;
+    PROGRAM_COUNTER = frame->pc;
     Instruction i = 0;
     const Builtin* const intrinsics = m_library.builtins.data();
     Value* base = frame->base;
@@ -185,6 +194,18 @@ labelClear:
         SLOW(binary(i));                                                                                               \
     }
 
+// The same where the result goes back into the first operand.
+#define BINARY_SELF(name, road)                                                                                        \
+    label##name##Self : {                                                                                              \
+        if (road(L(A), SMALL)) [[likely]] {                                                                            \
+            NEXT;                                                                                                      \
+        }                                                                                                              \
+        if (isReference(L(A)) && lookThrough<arithmeticSmall<Opcode::name>>(L(A), L(A), SMALL)) {                      \
+            NEXT;                                                                                                      \
+        }                                                                                                              \
+        SLOW(binary(i));                                                                                               \
+    }
+
     BINARY_FORMS(Add, arithmetic<Opcode::Add>)
     BINARY_FORMS(Subtract, arithmetic<Opcode::Subtract>)
     BINARY_FORMS(Multiply, arithmetic<Opcode::Multiply>)
@@ -200,6 +221,8 @@ labelClear:
     BINARY_SMALL(IntegerDivide, wholeQuotientSmall)
     BINARY_SMALL(Modulo, restSmall)
     BINARY_SMALL(And, andSmall)
+    BINARY_SELF(Add, arithmeticSelf<Opcode::Add>)
+    BINARY_SELF(Subtract, arithmeticSelf<Opcode::Subtract>)
 
 labelConcatenate:
     SLOW(concatenateInto(i));
@@ -361,6 +384,45 @@ labelBack:
     JUMP_ON_FORMS(LessEqual, Opcode::LessEqual)
     JUMP_ON_FORMS(GreaterEqual, Opcode::GreaterEqual)
 
+#define JUMP_ON_IS(label, wanted)                                                                                      \
+    label : {                                                                                                          \
+        const Value& x = R(A).deref();                                                                                 \
+        const Value& y = R(B).deref();                                                                                 \
+        bool holds = x.counted == y.counted;                                                                           \
+        if (x.type == Type::Object && y.type == Type::Object) [[likely]] {                                             \
+            USED_UP(A)                                                                                                 \
+            USED_UP(B)                                                                                                 \
+        } else {                                                                                                       \
+            SAVE;                                                                                                      \
+            holds = conditionOf(Opcode::Is, A, B);                                                                     \
+        }                                                                                                              \
+        BURY;                                                                                                          \
+        if (holds == (wanted)) {                                                                                       \
+            TAKE_JUMP                                                                                                  \
+        }                                                                                                              \
+        NEXT;                                                                                                          \
+    }
+    JUMP_ON_IS(labelJumpIs, true)
+    JUMP_ON_IS(labelUnlessIs, false)
+
+#define JUMP_ON_BOTH(label, a, b, wanted)                                                                              \
+    label : {                                                                                                          \
+        bool holds;                                                                                                    \
+        if (!both(holds, a, b)) [[unlikely]] {                                                                         \
+            SAVE;                                                                                                      \
+            holds = conditionOf(Opcode::And, A, B);                                                                    \
+            BURY;                                                                                                      \
+        }                                                                                                              \
+        if (holds == (wanted)) {                                                                                       \
+            TAKE_JUMP                                                                                                  \
+        }                                                                                                              \
+        NEXT;                                                                                                          \
+    }
+    JUMP_ON_BOTH(labelJumpBoth, R(A), R(B), true)
+    JUMP_ON_BOTH(labelJumpBothLocal, L(A), L(B), true)
+    JUMP_ON_BOTH(labelUnlessBoth, R(A), R(B), false)
+    JUMP_ON_BOTH(labelUnlessBothLocal, L(A), L(B), false)
+
 labelForPrepare : {
     Value& variable = R(A);
     const Value* limits = &R(B);
@@ -395,6 +457,22 @@ labelForPrepare : {
     }
     FOR_LOOP(labelForLoop, R(A), R(B))
     FOR_LOOP(labelForLoopLocal, L(A), L(B))
+
+#define FOR_NEXT(label, a, b)                                                                                          \
+    label : {                                                                                                          \
+        bool runs = countedByOne(a, b);                                                                                \
+        if (!runs && !countedOn(runs, a, &b)) {                                                                        \
+            SAVE;                                                                                                      \
+            runs = forStep(R(A).deref(), &R(B));                                                                       \
+            BURY;                                                                                                      \
+        }                                                                                                              \
+        if (runs) [[likely]] {                                                                                         \
+            TAKE_JUMP                                                                                                  \
+        }                                                                                                              \
+        NEXT;                                                                                                          \
+    }
+    FOR_NEXT(labelForNext, R(A), R(B))
+    FOR_NEXT(labelForNextLocal, L(A), L(B))
 
 labelEachPrepare:
     SLOW(eachPrepare(i));

@@ -205,6 +205,16 @@ bool Vm::condition(Operand o) {
     return !v.isNull() && toBoolean(*this, v);
 }
 
+// Whether `a Is b` or `a And b` counts as true.
+bool Vm::conditionOf(Opcode op, Operand a, Operand b) {
+    const Value x = at(a).deref(); // held: default members may change either variable
+    const Value y = at(b).deref();
+    const Value result = op == Opcode::Is ? Value::ofBoolean(isSameObject(x, y)) : logicalAnd(*this, x, y);
+    consume(a);
+    consume(b);
+    return !result.isNull() && toBoolean(*this, result);
+}
+
 bool Vm::comparison(Opcode op, Operand a, Operand b) {
     const Value& x = at(a).deref();
     const Value& y = at(b).deref();

@@ -58,6 +58,15 @@ inline void putDouble(Value& to, double d) noexcept {
     to.d = d;
 }
 
+// False if the number is too large for a Double.
+inline bool putFinite(Value& to, double d) noexcept {
+    if (std::fabs(d) <= DBL_MAX) [[likely]] {
+        putDouble(to, d);
+        return true;
+    }
+    return false;
+}
+
 inline void putBoolean(Value& to, bool b) noexcept {
     put(to, Type::Boolean, b ? -1 : 0);
 }
@@ -89,24 +98,16 @@ template <Opcode op>
         putWhole(to, widerType(b, c), computed<op>(b.n, c.n));
         return true;
     }
-    if (isReal(b) && isReal(c)) {
-        const double result = computed<op>(real(b), real(c));
-        if (std::fabs(result) <= DBL_MAX) [[likely]] {
-            putDouble(to, result);
-            return true;
-        }
+    if (b.type == Type::Double && c.type == Type::Double) [[likely]] {
+        return putFinite(to, computed<op>(b.d, c.d));
     }
-    return false;
+    return isReal(b) && isReal(c) && putFinite(to, computed<op>(real(b), real(c)));
 }
 
 [[gnu::always_inline]] inline bool quotient(Value& to, const Value& b, const Value& c) noexcept {
     if (isReal(b) && isReal(c)) {
         const double divisor = real(c);
-        const double result = real(b) / divisor;
-        if (divisor != 0.0 && std::fabs(result) <= DBL_MAX) [[likely]] {
-            putDouble(to, result);
-            return true;
-        }
+        return divisor != 0.0 && putFinite(to, real(b) / divisor);
     }
     return false;
 }
@@ -164,6 +165,10 @@ template <Opcode op>
         holds = related<op>(b.n, c.n);
         return true;
     }
+    if (b.type == Type::Double && c.type == Type::Double) [[likely]] {
+        holds = related<op>(b.d, c.d);
+        return true;
+    }
     if (isReal(b) && isReal(c)) {
         holds = related<op>(real(b), real(c));
         return true;
@@ -188,10 +193,25 @@ template <Opcode op>
         putWhole(to, static_cast<std::uint64_t>(b.type), computed<op>(b.n, std::int64_t{c}));
         return true;
     }
-    if (b.type == Type::Double) {
-        const double result = computed<op>(b.d, static_cast<double>(c));
+    return b.type == Type::Double && putFinite(to, computed<op>(b.d, static_cast<double>(c)));
+}
+
+// A variable that takes its own sum or difference with a small number.
+template <Opcode op>
+[[gnu::always_inline]] inline bool arithmeticSelf(Value& v, std::int8_t c) noexcept {
+    if (v.isWhole()) [[likely]] {
+        const std::int64_t n = computed<op>(v.n, std::int64_t{c});
+        if (n == static_cast<std::int16_t>(n)) [[likely]] {
+            v.n = n;
+        } else {
+            putWhole(v, static_cast<std::uint64_t>(v.type), n);
+        }
+        return true;
+    }
+    if (v.type == Type::Double) {
+        const double result = computed<op>(v.d, static_cast<double>(c));
         if (std::fabs(result) <= DBL_MAX) [[likely]] {
-            putDouble(to, result);
+            v.d = result;
             return true;
         }
     }
@@ -230,6 +250,15 @@ template <Opcode op>
     }
     if (b.type == Type::Double) {
         holds = related<op>(b.d, static_cast<double>(c));
+        return true;
+    }
+    return false;
+}
+
+// Whether b And c counts as true.
+[[gnu::always_inline]] inline bool both(bool& holds, const Value& b, const Value& c) noexcept {
+    if ((b.type == Type::Boolean && c.type == Type::Boolean) || bothWhole(b, c)) [[likely]] {
+        holds = (b.n & c.n) != 0;
         return true;
     }
     return false;
@@ -337,6 +366,17 @@ template <bool (*road)(Value&, const Value&, std::int8_t) noexcept>
             put(array.elements()[b.n + c.n * array.size(0)], value.type, value.n);
             return true;
         }
+    }
+    return false;
+}
+
+// The counter of a For loop without a Step goes on; false, and nothing has changed, if the loop ends or an operand is
+// no whole number.
+[[gnu::always_inline]] inline bool countedByOne(Value& variable, const Value& limit) noexcept {
+    if (bothWhole(variable, limit) && variable.n < limit.n) [[likely]] {
+        const std::int64_t n = ++variable.n;
+        variable.type = static_cast<Type>(static_cast<std::uint64_t>(variable.type) | (n > INT16_MAX ? 1 : 0));
+        return true;
     }
     return false;
 }
