@@ -13,11 +13,12 @@
 
 namespace vbs {
 
-// The compiler cannot tell how often the loop reads its program counter, so it is told the register.
+// The compiler cannot tell how often the loop reads its program counter and the instruction, so it is told the
+// registers.
 #if defined(__GNUC__) && !defined(__clang__) && defined(__x86_64__)
-#define PROGRAM_COUNTER register const Instruction* pc asm("rbx")
+#define IN_REGISTER(declaration, name) register declaration asm(name)
 #else
-#define PROGRAM_COUNTER const Instruction* pc
+#define IN_REGISTER(declaration, name) declaration
 #endif
 
 namespace {
@@ -51,8 +52,8 @@ void Vm::dispatch(std::size_t floor) {
     };
 
     Frame* frame = &top();
-    PROGRAM_COUNTER = frame->pc;
-    Instruction i = 0;
+    IN_REGISTER(const Instruction* pc, "rbx") = frame->pc;
+    IN_REGISTER(Instruction i, "r15") = 0;
     const Builtin* const intrinsics = m_library.builtins.data();
     Value* base = frame->base;
     Value* places[4] = {base, m_globals.values(), const_cast<Value*>(frame->procedure->constants.data()),
