@@ -19,6 +19,7 @@ struct ColoresCodigo {
     QColor error;       // underlines and messages
     QColor lineaActual; // background
     QColor lineaError;  // background of the line where the running script failed
+    QColor pareja;      // background of words and brackets that belong together
     QColor margen;      // background of the line numbers
     QColor numeroLinea;
 };

@@ -1,6 +1,7 @@
 #include "script/EditorCodigo.h"
 
-#include "script/Sangria.h"
+#include "script/CompletadorCodigo.h"
+#include "script/ParejasCodigo.h"
 
 #include <QCoreApplication>
 #include <QFontDatabase>
@@ -13,8 +14,8 @@
 
 namespace {
 
-// Lines looked at for the beginning of a block, at most.
-constexpr int alcanceApertura = 5000;
+// Lines looked at above and below for the words of a block, at most.
+constexpr int alcanceParejas = 1500;
 
 class MargenNumeros final : public QWidget {
 public:
@@ -35,35 +36,22 @@ private:
     EditorCodigo* editor_;
 };
 
-EfectoLinea efecto(const QString& linea) {
-    return efectoDeLinea(
-        std::u16string_view(reinterpret_cast<const char16_t*>(linea.utf16()), static_cast<std::size_t>(linea.size())));
+std::u16string_view vista(const QString& texto) {
+    return {reinterpret_cast<const char16_t*>(texto.utf16()), static_cast<std::size_t>(texto.size())};
 }
 
-bool esBlanco(QChar c) {
-    return c == u' ' || c == u'\t';
-}
-
-QString sangriaDe(const QString& linea) {
-    const auto fin = std::find_if_not(linea.begin(), linea.end(), esBlanco);
-    return linea.left(fin - linea.begin());
-}
-
-// Columns that a beginning of blanks takes.
-int columnas(QStringView blancos) {
-    int columna = 0;
-    for (const QChar c : blancos)
-        columna += c == u'\t' ? EditorCodigo::sangria - columna % EditorCodigo::sangria : 1;
-    return columna;
+std::size_t aTamano(int numero) {
+    return static_cast<std::size_t>(numero);
 }
 
 } // namespace
 
 EditorCodigo::EditorCodigo(QWidget* parent)
-    : QPlainTextEdit(parent), resaltado_(palette()), margen_(new MargenNumeros(this)) {
+    : QPlainTextEdit(parent), resaltado_(palette()), sangria_(*this), completador_(new CompletadorCodigo(*this)),
+      margen_(new MargenNumeros(this)) {
     setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     setLineWrapMode(NoWrap);
-    setTabStopDistance(sangria * fontMetrics().horizontalAdvance(u' '));
+    setTabStopDistance(TeclasSangria::columnas * fontMetrics().horizontalAdvance(u' '));
     setCenterOnScroll(false);
     connect(this, &QPlainTextEdit::blockCountChanged, this, &EditorCodigo::colocarMargen);
     connect(this, &QPlainTextEdit::cursorPositionChanged, this, &EditorCodigo::ponerMarcas);
@@ -73,6 +61,7 @@ EditorCodigo::EditorCodigo(QWidget* parent)
         else
             margen_->update(0, zona.y(), margen_->width(), zona.height());
     });
+    connect(completador_, &CompletadorCodigo::completado, this, [this] { sangria_.trasEscribir(); });
     connect(document(), &QTextDocument::contentsChange, this, [this](int posicion, int /*quitados*/, int puestos) {
         ResaltadoVBScript::olvidar(*document(), posicion, puestos);
     });
@@ -131,6 +120,7 @@ void EditorCodigo::ponerMarcas() {
     lineaEntera(textCursor(), colores().lineaActual);
     if (conFallo_)
         lineaEntera(fallo_, colores().lineaError);
+    ponerParejas(marcas);
     if (error_.hasSelection()) {
         QTextEdit::ExtraSelection marca;
         marca.cursor = error_;
@@ -140,6 +130,29 @@ void EditorCodigo::ponerMarcas() {
     }
     setExtraSelections(marcas);
     margen_->update();
+}
+
+// The words or brackets that belong together with what the text cursor touches: a frame of colour and a line below.
+void EditorCodigo::ponerParejas(QList<QTextEdit::ExtraSelection>& marcas) const {
+    const QTextBlock linea = textCursor().block();
+    const int columna = textCursor().positionInBlock();
+    if (linea.length() > ResaltadoVBScript::maximoLinea || !puedeTenerPareja(vista(linea.text()), aTamano(columna)))
+        return;
+    const QTextBlock primera = document()->findBlockByNumber(std::max(linea.blockNumber() - alcanceParejas, 0));
+    QString texto;
+    QTextBlock otra = primera;
+    for (; otra.isValid() && otra.blockNumber() <= linea.blockNumber() + alcanceParejas; otra = otra.next())
+        texto += otra.text() + u'\n';
+    const auto lugar = aTamano(textCursor().position() - primera.position());
+    for (const Tramo& tramo : parejasEn(vista(texto), lugar)) {
+        QTextEdit::ExtraSelection marca;
+        marca.cursor = QTextCursor(primera);
+        marca.cursor.setPosition(primera.position() + static_cast<int>(tramo.inicio));
+        marca.cursor.setPosition(marca.cursor.position() + static_cast<int>(tramo.largo), QTextCursor::KeepAnchor);
+        marca.format.setBackground(colores().pareja);
+        marca.format.setUnderlineStyle(QTextCharFormat::SingleUnderline);
+        marcas.append(marca);
+    }
 }
 
 void EditorCodigo::irA(int linea, int columna) {
@@ -192,7 +205,7 @@ void EditorCodigo::changeEvent(QEvent* evento) {
         ponerMarcas();
     }
     if (evento->type() == QEvent::FontChange) {
-        setTabStopDistance(sangria * fontMetrics().horizontalAdvance(u' '));
+        setTabStopDistance(TeclasSangria::columnas * fontMetrics().horizontalAdvance(u' '));
         colocarMargen();
     }
 }
@@ -237,111 +250,11 @@ int EditorCodigo::lineaEnMargen(int y) const {
 // keys
 
 void EditorCodigo::keyPressEvent(QKeyEvent* evento) {
-    const QTextCursor cursor = textCursor();
-    const bool variasLineas =
-        document()->findBlock(cursor.selectionStart()) != document()->findBlock(cursor.selectionEnd());
-    if (evento->key() == Qt::Key_Backtab) {
-        sangrarSeleccion(-1);
-    } else if (evento->key() == Qt::Key_Tab && evento->modifiers() == Qt::NoModifier) {
-        variasLineas ? sangrarSeleccion(1) : insertarTabulador();
-    } else if ((evento->key() == Qt::Key_Return || evento->key() == Qt::Key_Enter) &&
-               (evento->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier) {
-        nuevaLinea();
-    } else if (evento->key() != Qt::Key_Backspace || evento->modifiers() != Qt::NoModifier || !borrarSangria()) {
+    if (completador_->atender(*evento))
+        return;
+    if (!sangria_.atender(*evento)) {
         QPlainTextEdit::keyPressEvent(evento);
+        sangria_.trasTecla(*evento);
     }
-}
-
-// Blanks up to the next tabulator column, in place of the selection.
-void EditorCodigo::insertarTabulador() {
-    QTextCursor cursor = textCursor();
-    cursor.beginEditBlock();
-    cursor.removeSelectedText();
-    const int columna = columnas(QStringView(cursor.block().text()).left(cursor.positionInBlock()));
-    cursor.insertText(QString(sangria - columna % sangria, u' '));
-    cursor.endEditBlock();
-    setTextCursor(cursor);
-}
-
-// Moves every line of the selection (or the cursor's) one step to the right (1) or to the left (-1).
-void EditorCodigo::sangrarSeleccion(int sentido) {
-    QTextCursor cursor = textCursor();
-    const QTextBlock primera = document()->findBlock(cursor.selectionStart());
-    QTextBlock ultima = document()->findBlock(cursor.selectionEnd());
-    if (ultima != primera && ultima.position() == cursor.selectionEnd())
-        ultima = ultima.previous(); // nothing of that line is selected
-    cursor.beginEditBlock();
-    for (QTextBlock linea = primera; linea.isValid() && linea.blockNumber() <= ultima.blockNumber();
-         linea = linea.next()) {
-        const QString blancos = sangriaDe(linea.text());
-        if (sentido > 0 && linea.length() == 1)
-            continue; // an empty line stays empty
-        const int columna = columnas(blancos);
-        const int nueva = sentido > 0 ? columna + sangria : std::max(columna - sangria, 0);
-        QTextCursor cambio(linea);
-        cambio.setPosition(linea.position() + static_cast<int>(blancos.size()), QTextCursor::KeepAnchor);
-        if (nueva != columna)
-            cambio.insertText(QString(nueva, u' '));
-    }
-    cursor.endEditBlock();
-    if (primera != ultima) { // the lines stay selected as a whole
-        cursor.setPosition(primera.position());
-        cursor.setPosition(ultima.position() + ultima.length() - 1, QTextCursor::KeepAnchor);
-        setTextCursor(cursor);
-    }
-}
-
-// Backspace behind the blanks at the head of a line takes one step of indentation. False: it is an ordinary one.
-bool EditorCodigo::borrarSangria() {
-    QTextCursor cursor = textCursor();
-    const QString antes = cursor.block().text().left(cursor.positionInBlock());
-    if (cursor.hasSelection() || antes.isEmpty() || !std::all_of(antes.begin(), antes.end(), esBlanco) ||
-        antes.back() == u'\t')
-        return false;
-    const int sobran = (columnas(antes) - 1) % sangria + 1;
-    for (int i = 0; i < sobran && cursor.positionInBlock() > 0; ++i)
-        cursor.movePosition(QTextCursor::PreviousCharacter, QTextCursor::KeepAnchor);
-    cursor.removeSelectedText();
-    return true;
-}
-
-// A new line with the indentation of this one, one step more where this one opens a block.
-void EditorCodigo::nuevaLinea() {
-    QTextCursor cursor = textCursor();
-    cursor.beginEditBlock();
-    cursor.removeSelectedText();
-    const EfectoLinea esta = efecto(cursor.block().text().left(cursor.positionInBlock()));
-    if (esta.cierra > 0)
-        alinearCierre(cursor, esta.cierra);
-    QString blancos = sangriaDe(cursor.block().text()).left(cursor.positionInBlock());
-    if (esta.abre > 0)
-        blancos = QString(columnas(blancos) + sangria, u' ');
-    cursor.insertBlock();
-    cursor.insertText(blancos);
-    cursor.endEditBlock();
-    setTextCursor(cursor);
-    ensureCursorVisible();
-}
-
-// A line that ends a block goes back to the column where the block began, if it stands further to the right.
-void EditorCodigo::alinearCierre(QTextCursor& cursor, int cierra) const {
-    int pendientes = cierra;
-    QTextBlock linea = cursor.block().previous();
-    for (int vistas = 0; linea.isValid() && vistas < alcanceApertura; linea = linea.previous(), ++vistas) {
-        const EfectoLinea otra = efecto(linea.text());
-        pendientes -= otra.abre;
-        if (pendientes <= 0)
-            break;
-        pendientes += otra.cierra;
-    }
-    if (pendientes > 0 || !linea.isValid())
-        return;
-    // What that line opened beyond what ends here (the cases of a Select) still stands one step to the right of it.
-    const int columna = columnas(sangriaDe(linea.text())) - pendientes * sangria;
-    const QString actual = sangriaDe(cursor.block().text());
-    if (columnas(actual) <= columna)
-        return;
-    QTextCursor cambio(cursor.block());
-    cambio.setPosition(cursor.block().position() + static_cast<int>(actual.size()), QTextCursor::KeepAnchor);
-    cambio.insertText(QString(columna, u' '));
+    completador_->trasTecla(*evento);
 }

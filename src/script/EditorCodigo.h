@@ -1,21 +1,23 @@
-// The text box of the script editor: monospaced, with line numbers, colours, automatic indentation and marks.
+// The text box of the script editor: monospaced, with line numbers, colours, automatic indentation, completion and
+// marks.
 //
 // It gives and takes its whole text, with '\n' as line end, character by character. Texts of many megabytes stay
 // usable: what is not in sight costs nothing.
 #pragma once
 
 #include "script/ResaltadoVBScript.h"
+#include "script/TeclasSangria.h"
 
 #include <QPlainTextEdit>
 #include <QTextCursor>
+
+class CompletadorCodigo;
 
 class EditorCodigo final : public QPlainTextEdit {
     Q_OBJECT
     Q_PROPERTY(QString plainText READ texto WRITE ponerTexto)
 
 public:
-    static constexpr int sangria = 4; // columns
-
     explicit EditorCodigo(QWidget* parent = nullptr);
 
     // Taking a text forgets what could be undone and the marks.
@@ -57,13 +59,11 @@ private:
     void colorearVisibles();
     void colocarMargen();
     void ponerMarcas();
-    void sangrarSeleccion(int sentido);
-    void insertarTabulador();
-    bool borrarSangria();
-    void nuevaLinea();
-    void alinearCierre(QTextCursor& cursor, int cierra) const;
+    void ponerParejas(QList<QTextEdit::ExtraSelection>& marcas) const;
 
     ResaltadoVBScript resaltado_;
+    TeclasSangria sangria_;
+    CompletadorCodigo* completador_;
     QWidget* margen_;
     QTextCursor error_; // its selection is underlined; without one: no error
     QTextCursor fallo_; // in the line marked

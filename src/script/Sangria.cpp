@@ -41,6 +41,21 @@ bool abreProcedimiento(const Sentencia& sentencia) {
     return false;
 }
 
+bool acabaBloque(Word trasEnd) {
+    switch (trasEnd) {
+    case Word::If:
+    case Word::Select:
+    case Word::With:
+    case Word::Sub:
+    case Word::Function:
+    case Word::Property:
+    case Word::Class:
+        return true;
+    default:
+        return false;
+    }
+}
+
 void aplicar(EfectoLinea& efecto, const Sentencia& sentencia) {
     if (sentencia.empty())
         return;
@@ -71,7 +86,8 @@ void aplicar(EfectoLinea& efecto, const Sentencia& sentencia) {
         aplicarCierre(efecto);
         break;
     case Word::End:
-        aplicarCierre(efecto);
+        if (sentencia.size() > 1 && acabaBloque(sentencia[1].word))
+            aplicarCierre(efecto);
         if (sentencia.size() > 1 && sentencia[1].word == Word::Select)
             aplicarCierre(efecto);
         break;

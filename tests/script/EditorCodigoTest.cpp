@@ -186,6 +186,84 @@ private Q_SLOTS:
         QCOMPARE(e_->texto(), QStringLiteral("  Next\n  "));
     }
 
+    void closersGoBackAsSoonAsTheyAreWritten_data() {
+        QTest::addColumn<QString>("abre");
+        QTest::addColumn<QString>("cierra");
+        for (const auto& [abre, cierra] :
+             std::initializer_list<std::pair<const char*, const char*>>{{"If a Then", "End If"},
+                                                                        {"If a Then", "Else"},
+                                                                        {"If a Then", "ElseIf"},
+                                                                        {"For i = 1 To 2", "Next"},
+                                                                        {"Do", "Loop"},
+                                                                        {"While a", "Wend"},
+                                                                        {"With a", "End With"},
+                                                                        {"Select Case a", "End Select"},
+                                                                        {"Sub f", "End Sub"},
+                                                                        {"Function f", "end function"},
+                                                                        {"Property Get f", "End Property"},
+                                                                        {"Class c", "End Class"}})
+            QTest::newRow(cierra) << QString::fromLatin1(abre) << QString::fromLatin1(cierra);
+    }
+    void closersGoBackAsSoonAsTheyAreWritten() {
+        QFETCH(QString, abre);
+        QFETCH(QString, cierra);
+        teclas(QStringLiteral("  ") + abre + u'\n' + cierra);
+        QCOMPARE(e_->texto(), QStringLiteral("  ") + abre + QStringLiteral("\n  ") + cierra);
+    }
+
+    void caseGoesBackToItsSelect() {
+        teclas(QStringLiteral("Select Case a\nCase 1\nb = 1\nCase"));
+        QCOMPARE(e_->texto(), QStringLiteral("Select Case a\n    Case 1\n        b = 1\n    Case"));
+    }
+
+    void nameThatOnlyBeginsLikeACloserStays() {
+        teclas(QStringLiteral("For i = 1 To 2\nNextStep = 1"));
+        QCOMPARE(e_->texto(), QStringLiteral("For i = 1 To 2\n    NextStep = 1"));
+    }
+
+    void moveOfACloserIsAStepOfItsOwnToUndo() {
+        e_->ponerTexto(QStringLiteral("Do\n    "));
+        e_->moveCursor(QTextCursor::End);
+        teclas(QStringLiteral("Loop"));
+        QCOMPARE(e_->texto(), QStringLiteral("Do\nLoop"));
+        QTest::keyClick(e_.get(), Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(e_->texto(), QStringLiteral("Do\n    Loop"));
+        QTest::keyClick(e_.get(), Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(e_->texto(), QStringLiteral("Do\n    "));
+    }
+
+    void closerIsNotMovedWhereThereIsTextBehindIt() {
+        e_->ponerTexto(QStringLiteral("Do\n    Loo ' nota"));
+        e_->irA(2, 8);
+        teclas(QStringLiteral("p"));
+        QCOMPARE(e_->texto(), QStringLiteral("Do\n    Loop ' nota"));
+    }
+
+    void wordsOfABlockAndBracketsAreMarkedTogether_data() {
+        QTest::addColumn<int>("linea");
+        QTest::addColumn<int>("columna");
+        QTest::addColumn<QStringList>("marcados");
+        QTest::newRow("block") << 1 << 1 << QStringList{"If", "Then", "Else", "End If"};
+        QTest::newRow("from its end") << 5 << 7 << QStringList{"If", "Then", "Else", "End If"};
+        QTest::newRow("brackets") << 2 << 10 << QStringList{"(", ")"};
+        QTest::newRow("nothing") << 2 << 6 << QStringList{};
+    }
+    void wordsOfABlockAndBracketsAreMarkedTogether() {
+        QFETCH(int, linea);
+        QFETCH(int, columna);
+        e_->ponerTexto(QStringLiteral("If a Then\n    b = f(1)\nElse\n    b = 2\nEnd If"));
+        e_->irA(linea, columna);
+        QStringList marcados;
+        const auto marcas = e_->extraSelections();
+        for (const auto& marca : marcas) {
+            if (marca.format.underlineStyle() == QTextCharFormat::SingleUnderline) { // seen without colours, too
+                marcados.append(marca.cursor.selectedText());
+                QCOMPARE(marca.format.background().color(), e_->colores().pareja);
+            }
+        }
+        QTEST(marcados, "marcados");
+    }
+
     void backspaceTakesOneStepOfIndentation() {
         e_->ponerTexto(QStringLiteral("      a"));
         e_->irA(1, 7);
@@ -260,7 +338,7 @@ private Q_SLOTS:
         paleta.setColor(QPalette::Text, tinta);
         const ColoresCodigo c(paleta);
         for (const QColor& color : {c.palabra, c.incorporada, c.mw, c.literal, c.numero, c.comentario}) {
-            for (const QColor& detras : {fondo, c.lineaActual, c.lineaError})
+            for (const QColor& detras : {fondo, c.lineaActual, c.lineaError, c.pareja})
                 QVERIFY2(contraste(color, detras) >= 4.5, qPrintable(color.name() + " on " + detras.name()));
         }
         QVERIFY(contraste(c.error, fondo) >= 4.5);

@@ -38,8 +38,9 @@ TEST(Sangria, selectHoldsItsCases) {
 }
 
 TEST(Sangria, linesWithoutEffect) {
-    for (const char16_t* linea : {u"", u"a = 1", u"If a Then b = 1", u"Exit For", u"Exit Sub", u"' For", u"Rem Sub",
-                                  u"x = \"Do\"", u"Public a", u"Dim ende", u"o.Next", u"On Error Resume Next"})
+    for (const char16_t* linea :
+         {u"", u"a = 1", u"If a Then b = 1", u"Exit For", u"Exit Sub", u"' For", u"Rem Sub", u"x = \"Do\"", u"Public a",
+          u"Dim ende", u"o.Next", u"On Error Resume Next", u"End", u"End x", u"End Su"})
         EXPECT_EQ(de(linea), Par(0, 0)) << std::string(linea, linea + std::char_traits<char16_t>::length(linea));
 }
 

@@ -9,6 +9,7 @@
 #include "platform/vbscript/value/Value.h"
 
 #include <cstdint>
+#include <span>
 #include <string_view>
 
 namespace vbs {
@@ -160,6 +161,14 @@ private:
     bool m_afterDot = false;     // a keyword after a dot is a name
     bool m_afterOperand = false; // an & after an operand joins texts
 };
+
+// A reserved word as the language reference spells it.
+struct WordEntry {
+    std::u16string_view name;
+    Word word;
+};
+// All of them, in alphabetical order.
+std::span<const WordEntry> reservedWords() noexcept;
 
 // The reserved word, or None.
 Word wordOf(std::u16string_view name) noexcept;

@@ -8,89 +8,98 @@ namespace vbs {
 
 namespace {
 
-struct WordEntry {
-    std::u16string_view name;
-    Word word;
-};
-
-// Ascending by name.
+// Ascending by name without regard to case.
 constexpr WordEntry words[] = {
-    {u"and", Word::And},
-    {u"byref", Word::ByRef},
-    {u"byval", Word::ByVal},
-    {u"call", Word::Call},
-    {u"case", Word::Case},
-    {u"class", Word::Class},
-    {u"const", Word::Const},
-    {u"default", Word::Default},
-    {u"dim", Word::Dim},
-    {u"do", Word::Do},
-    {u"each", Word::Each},
-    {u"else", Word::Else},
-    {u"elseif", Word::ElseIf},
-    {u"empty", Word::Empty},
-    {u"end", Word::End},
-    {u"eqv", Word::Eqv},
-    {u"erase", Word::Erase},
-    {u"error", Word::Error},
-    {u"exit", Word::Exit},
-    {u"explicit", Word::Explicit},
-    {u"false", Word::False},
-    {u"for", Word::For},
-    {u"function", Word::Function},
-    {u"get", Word::Get},
-    {u"goto", Word::GoTo},
-    {u"if", Word::If},
-    {u"imp", Word::Imp},
-    {u"in", Word::In},
-    {u"is", Word::Is},
-    {u"let", Word::Let},
-    {u"loop", Word::Loop},
-    {u"me", Word::Me},
-    {u"mod", Word::Mod},
-    {u"new", Word::New},
-    {u"next", Word::Next},
-    {u"not", Word::Not},
-    {u"nothing", Word::Nothing},
-    {u"null", Word::Null},
-    {u"on", Word::On},
-    {u"option", Word::Option},
-    {u"or", Word::Or},
-    {u"preserve", Word::Preserve},
-    {u"private", Word::Private},
-    {u"property", Word::Property},
-    {u"public", Word::Public},
-    {u"redim", Word::Redim},
-    {u"resume", Word::Resume},
-    {u"select", Word::Select},
-    {u"set", Word::Set},
-    {u"step", Word::Step},
-    {u"stop", Word::Stop},
-    {u"sub", Word::Sub},
-    {u"then", Word::Then},
-    {u"to", Word::To},
-    {u"true", Word::True},
-    {u"until", Word::Until},
-    {u"wend", Word::Wend},
-    {u"while", Word::While},
-    {u"with", Word::With},
-    {u"xor", Word::Xor},
+    {u"And", Word::And},
+    {u"ByRef", Word::ByRef},
+    {u"ByVal", Word::ByVal},
+    {u"Call", Word::Call},
+    {u"Case", Word::Case},
+    {u"Class", Word::Class},
+    {u"Const", Word::Const},
+    {u"Default", Word::Default},
+    {u"Dim", Word::Dim},
+    {u"Do", Word::Do},
+    {u"Each", Word::Each},
+    {u"Else", Word::Else},
+    {u"ElseIf", Word::ElseIf},
+    {u"Empty", Word::Empty},
+    {u"End", Word::End},
+    {u"Eqv", Word::Eqv},
+    {u"Erase", Word::Erase},
+    {u"Error", Word::Error},
+    {u"Exit", Word::Exit},
+    {u"Explicit", Word::Explicit},
+    {u"False", Word::False},
+    {u"For", Word::For},
+    {u"Function", Word::Function},
+    {u"Get", Word::Get},
+    {u"GoTo", Word::GoTo},
+    {u"If", Word::If},
+    {u"Imp", Word::Imp},
+    {u"In", Word::In},
+    {u"Is", Word::Is},
+    {u"Let", Word::Let},
+    {u"Loop", Word::Loop},
+    {u"Me", Word::Me},
+    {u"Mod", Word::Mod},
+    {u"New", Word::New},
+    {u"Next", Word::Next},
+    {u"Not", Word::Not},
+    {u"Nothing", Word::Nothing},
+    {u"Null", Word::Null},
+    {u"On", Word::On},
+    {u"Option", Word::Option},
+    {u"Or", Word::Or},
+    {u"Preserve", Word::Preserve},
+    {u"Private", Word::Private},
+    {u"Property", Word::Property},
+    {u"Public", Word::Public},
+    {u"ReDim", Word::Redim},
+    {u"Resume", Word::Resume},
+    {u"Select", Word::Select},
+    {u"Set", Word::Set},
+    {u"Step", Word::Step},
+    {u"Stop", Word::Stop},
+    {u"Sub", Word::Sub},
+    {u"Then", Word::Then},
+    {u"To", Word::To},
+    {u"True", Word::True},
+    {u"Until", Word::Until},
+    {u"Wend", Word::Wend},
+    {u"While", Word::While},
+    {u"With", Word::With},
+    {u"Xor", Word::Xor},
 };
 
 constexpr std::size_t longestWord = 8;
+using Folded = std::array<char16_t, longestWord>; // in lower case, zeros behind it
+
+constexpr auto folded = [] {
+    std::array<Folded, std::size(words)> names{};
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        for (std::size_t c = 0; c < words[i].name.size(); ++c) {
+            const char16_t letter = words[i].name[c];
+            names[i][c] = static_cast<char16_t>(letter <= u'Z' ? letter + (u'a' - u'A') : letter);
+        }
+    }
+    return names;
+}();
 
 } // namespace
+
+std::span<const WordEntry> reservedWords() noexcept {
+    return words;
+}
 
 Word wordOf(std::u16string_view name) noexcept {
     if (name.size() > longestWord) {
         return Word::None;
     }
-    std::array<char16_t, longestWord> buffer{};
-    std::transform(name.begin(), name.end(), buffer.begin(), toLower);
-    const std::u16string_view low(buffer.data(), name.size());
-    const auto* found = std::lower_bound(std::begin(words), std::end(words), low,
-                                         [](const WordEntry& e, std::u16string_view n) { return e.name < n; });
-    return found != std::end(words) && found->name == low ? found->word : Word::None;
+    Folded low{};
+    std::transform(name.begin(), name.end(), low.begin(), toLower);
+    const auto* found = std::lower_bound(folded.begin(), folded.end(), low);
+    return found != folded.end() && *found == low ? words[found - folded.begin()].word : Word::None;
 }
 
 } // namespace vbs
