@@ -39,6 +39,15 @@ void ScriptControl::addObject(std::u16string_view name, Ref<Object> object) {
     m_objects.push_back({std::u16string(name), std::move(object)});
 }
 
+void ScriptControl::removeObject(std::u16string_view name) {
+    m_vm->removeObject(name);
+    std::erase_if(m_objects, [name](const Added& added) { return equalNoCase(added.name, name); });
+}
+
+void ScriptControl::globals(const std::function<void(std::u16string_view, const Value&, Context&)>& visit) {
+    m_vm->visitVariables([&](std::u16string_view name, const Value& value) { visit(name, value, *m_vm); });
+}
+
 bool ScriptControl::addCode(std::string_view utf8) {
     return addCode(std::u16string_view(text::toUtf16(utf8)));
 }

@@ -14,6 +14,7 @@
 #include <chrono>
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -21,6 +22,7 @@
 
 namespace vbs {
 
+class Context;
 class Vm;
 
 // What went wrong in the last text; number 0 if nothing did.
@@ -31,6 +33,7 @@ struct ScriptFailure {
     std::uint32_t line = 0;   // from 1; 0 if unknown
     std::uint32_t column = 0; // from 1, in UTF-16 code units
     std::u16string lineText;  // the line of the script that `line` names
+    bool operator==(const ScriptFailure&) const = default;
 };
 
 class ScriptControl {
@@ -44,6 +47,10 @@ public:
     // Makes an object known to scripts; the engine shares it. Survives reset().
     void addObject(std::u16string_view name, Ref<Object> object);
 
+    // Takes an object away again: its name stands for nothing then. Does nothing for other names and those that a
+    // script has given another meaning.
+    void removeObject(std::u16string_view name);
+
     // Compiles the text (UTF-8; invalid bytes become U+FFFD) and runs its top-level statements. False after an error.
     bool addCode(std::string_view utf8);
     bool addCode(std::u16string_view text);
@@ -55,6 +62,11 @@ public:
     // The error state of the addCode() or check() that ended last.
     const ScriptFailure& error() const noexcept { return m_failure; }
     void clearError() { m_failure = {}; }
+
+    // Shows every variable of the global scope that scripts have made, in the order in which they came up; no
+    // constants, procedures or added objects. Runs nothing of a script, and `visit` must not either; the value is to be
+    // looked at at once.
+    void globals(const std::function<void(std::u16string_view name, const Value& value, Context& context)>& visit);
 
     // Longest time of one addCode(); zero: no limit. A text that is stopped so fails, whatever On Error says.
     void setTimeout(std::chrono::milliseconds timeout);

@@ -294,4 +294,44 @@ TEST_F(ScriptControlTest, deepNestingIsACompileError) {
     EXPECT_EQ(control.error().number, 1901);
 }
 
+TEST(ScriptControl, globalsShowsTheVariablesThatScriptsHaveMade) {
+    Host host;
+    ScriptControl control(host);
+    control.addObject(u"out", Ref<Object>(makeObject<Recorder>().get()));
+    ASSERT_TRUE(
+        control.addCode("Dim One : Const two = 2 : three = \"x\" : Sub four(five) : Dim six : End Sub : four 1"));
+    std::vector<std::string> names;
+    control.globals([&](std::u16string_view name, const Value& value, Context& context) {
+        names.push_back(toUtf8(name) + "=" + toUtf8(toString(context, value).view()));
+    });
+    EXPECT_EQ(names, (std::vector<std::string>{"One=", "three=x"}));
+}
+
+TEST(ScriptControl, objectThatWasTakenAwayLeavesItsNameFree) {
+    Host host;
+    ScriptControl control(host);
+    const auto recorder = makeObject<Recorder>();
+    control.addObject(u"Out", Ref<Object>(recorder.get()));
+    ASSERT_TRUE(control.addCode("Sub tell : out.put 1 : End Sub : tell"));
+    EXPECT_FALSE(control.addCode("out = 5"));
+    control.removeObject(u"oUT");
+    EXPECT_FALSE(control.addCode("tell")); // what was compiled for it finds nothing
+    EXPECT_TRUE(control.addCode("out = 5 : out = out + 1")) << control.error().number;
+    control.removeObject(u"out"); // a variable now
+    EXPECT_TRUE(control.addCode("If out <> 6 Then Err.Raise 5")) << control.error().number;
+    control.addObject(u"Out", Ref<Object>(recorder.get()));
+    EXPECT_TRUE(control.addCode("out.put 2 : tell")) << control.error().number;
+    EXPECT_EQ(recorder->seen, (std::vector<std::string>{"1", "2", "1"}));
+}
+
+TEST(ScriptControl, objectThatWasTakenAwayDoesNotComeBackWithReset) {
+    Host host;
+    ScriptControl control(host);
+    control.addObject(u"out", Ref<Object>(makeObject<Recorder>().get()));
+    control.removeObject(u"out");
+    control.removeObject(u"nobody");
+    control.reset();
+    EXPECT_TRUE(control.addCode("out = 5"));
+}
+
 } // namespace

@@ -91,6 +91,21 @@ void Vm::addObject(std::u16string_view name, Object& object) {
     define(m_globals.slotOf(m_symbols.intern(name)), GlobalKind::Object, Value::ofObject(&object));
 }
 
+void Vm::removeObject(std::u16string_view name) {
+    const std::uint32_t slot = m_globals.find(m_symbols.find(name));
+    if (slot != Globals::none && m_globals.kind(slot) == GlobalKind::Object && !m_globals.predefined(slot)) {
+        define(slot, GlobalKind::Undefined, Value(Type::Undefined, 0));
+    }
+}
+
+void Vm::visitVariables(const std::function<void(std::u16string_view name, const Value& value)>& visit) {
+    for (std::uint32_t slot = 0; slot < m_globals.size(); ++slot) {
+        if (m_globals.kind(slot) == GlobalKind::Variable) {
+            visit(m_symbols.name(m_globals.symbol(slot)), m_globals[slot]);
+        }
+    }
+}
+
 // ---------------------------------------------------------------------------------------------------------------
 // entered from native code
 

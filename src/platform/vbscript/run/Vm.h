@@ -12,6 +12,7 @@
 
 #include <array>
 #include <csignal>
+#include <functional>
 #include <list>
 #include <memory>
 #include <string>
@@ -41,6 +42,10 @@ public:
 
     // Makes `object` a global name. Its members are found without regard to case.
     void addObject(std::u16string_view name, Object& object);
+    // Makes the name of an added object undefined.
+    void removeObject(std::u16string_view name);
+    // Every global variable with its name as it was written first.
+    void visitVariables(const std::function<void(std::u16string_view name, const Value& value)>& visit);
 
     // The unit of a text, compiled or from the cache. Throws CompileError.
     Unit* unitOf(std::u16string_view text);
