@@ -4,11 +4,14 @@
 #include "platform/text/Numbers.h"
 #include "platform/window/MsgBox.h"
 #include "registers/ErrorEjecucion.h"
+#include "script/BarraEjecucion.h"
+#include "script/FalloScript.h"
 #include "script/FrmEdicionCodigo.h"
 #include "script/PeriodoScript.h"
 
 #include <QCheckBox>
 #include <QElapsedTimer>
+#include <QEvent>
 #include <QLabel>
 
 #include <cmath>
@@ -33,6 +36,7 @@ AutomatizacionScript::AutomatizacionScript(Esclavos& esclavos, ConfiguracionScri
     host_.alParar([this] { detener(); });
     prepararTimers();
     connect(&ventana_.chScript, &QCheckBox::toggled, this, &AutomatizacionScript::clicChScript);
+    ventana_.chScript.installEventFilter(this);
 }
 
 void AutomatizacionScript::prepararTimers() {
@@ -50,7 +54,8 @@ AutomatizacionScript::~AutomatizacionScript() {
 
 FrmEdicionCodigo& AutomatizacionScript::editor() {
     if (!editor_)
-        editor_ = new FrmEdicionCodigo(codigo_, configuracion_, ventana_.chScript, eventos_, &ventana_.principal);
+        editor_ =
+            new FrmEdicionCodigo(codigo_, configuracion_, ventana_.chScript, ejecutor_, eventos_, &ventana_.principal);
     editor_->mostrarFallo(ejecutor_.ultimoError());
     return *editor_;
 }
@@ -109,6 +114,7 @@ void AutomatizacionScript::mostrarResultado(bool sinError) {
         reposo_.setRemainingTime(pausaTrasPersona);
     if (editor_)
         editor_->mostrarFallo(ejecutor_.ultimoError());
+    contarFallo();
     const QColor color = QColor::fromRgb(sinError ? verde : rojo);
     if (ventana_.chScript.palette().color(QPalette::Window) == color)
         return;
@@ -116,6 +122,40 @@ void AutomatizacionScript::mostrarResultado(bool sinError) {
     colores.setColor(QPalette::Window, color);
     colores.setColor(QPalette::WindowText, Qt::black); // legible on both, whatever the theme
     ventana_.chScript.setPalette(colores);
+    contarPasada();
+}
+
+// Notes when the script failed; the box tells of another error at once, not only to who points at it.
+void AutomatizacionScript::contarFallo() {
+    const vbs::ScriptFailure& fallo = ejecutor_.ultimoError();
+    if (fallo.number != 0)
+        horaDelFallo_ = QTime::currentTime();
+    if (fallo == fallo_)
+        return;
+    fallo_ = fallo;
+    contarPasada();
+}
+
+// What the colour means, in words.
+void AutomatizacionScript::contarPasada() {
+    const Pasadas& pasadas = ejecutor_.pasadas();
+    if (fallo_.number == 0 && pasadas.cuantas == 0)
+        return;
+    const QString texto =
+        fallo_.number != 0
+            ? textoDeFallo(QStringLiteral("Con error a las ") + horaDelFallo_.toString(QStringLiteral("HH:mm:ss")),
+                           fallo_, static_cast<int>(fallo_.line))
+            : QStringLiteral("Sin errores. Pasadas: %1; la última duró %2")
+                  .arg(QString::number(pasadas.cuantas), textoDeDuracion(pasadas.ultima));
+    ventana_.chScript.setToolTip(texto);
+    ventana_.chScript.setAccessibleDescription(texto);
+}
+
+// The figures are put together when somebody asks for them, not in every pass.
+bool AutomatizacionScript::eventFilter(QObject* objeto, QEvent* evento) {
+    if (objeto == &ventana_.chScript && evento->type() == QEvent::ToolTip)
+        contarPasada();
+    return QObject::eventFilter(objeto, evento);
 }
 
 void AutomatizacionScript::aplazarPasada() {

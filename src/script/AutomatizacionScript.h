@@ -14,6 +14,7 @@
 #include <QDeadlineTimer>
 #include <QObject>
 #include <QPointer>
+#include <QTime>
 #include <QTimer>
 
 #include <chrono>
@@ -69,12 +70,17 @@ public:
 
     vbs::ScriptControl& ScriptControl1() { return ScriptControl1_; }
 
+protected:
+    bool eventFilter(QObject* objeto, QEvent* evento) override;
+
 private:
     // EntornoScript
     bool ejecucionActiva() const override;
     void mostrarResultado(bool sinError) override;
     void aplazarPasada() override;
 
+    void contarFallo();
+    void contarPasada();
     void clicChScript();
     void prepararTimers();
     void armarTimer(double periodo);
@@ -93,4 +99,6 @@ private:
     QPointer<FrmEdicionCodigo> editor_;
     QDeadlineTimer reposo_; // no pass before it has expired
     bool puedePasar_ = false;
+    vbs::ScriptFailure fallo_; // that the tooltip of chScript tells; number 0: none
+    QTime horaDelFallo_;
 };

@@ -23,6 +23,8 @@ constexpr const char* teclas =
     "la lista</td></tr>"
     "<tr><td><b>Ctrl+S</b></td><td>Guardar</td></tr>"
     "<tr><td><b>Ctrl+F, Ctrl+H</b></td><td>Buscar, reemplazar</td></tr>"
+    "<tr><td><b>F5</b></td><td>Poner el script en marcha, pararlo</td></tr>"
+    "<tr><td><b>F6</b></td><td>Variables y consola</td></tr>"
     "<tr><td><b>F3, Mayús+F3</b></td><td>Siguiente, anterior</td></tr>"
     "<tr><td><b>Ctrl+G</b></td><td>Ir a una línea</td></tr>"
     "<tr><td><b>F8</b></td><td>Ir al error</td></tr>"

@@ -17,7 +17,7 @@ ComprobadorCodigo::ComprobadorCodigo(std::function<QString()> texto, std::functi
 
 void ComprobadorCodigo::pedir() {
     if (cuantos_() <= maximo) {
-        reloj_.start(std::max(pausa, ultima_ * pausaPorTrabajo));
+        reloj_.start(std::max(pausa, std::chrono::duration_cast<std::chrono::milliseconds>(ultima_ * pausaPorTrabajo)));
     } else {
         reloj_.stop();
         Q_EMIT demasiadoLargo();
@@ -26,11 +26,11 @@ void ComprobadorCodigo::pedir() {
 
 void ComprobadorCodigo::comprobar() {
     reloj_.stop();
-    QElapsedTimer duracion;
-    duracion.start();
     const QString texto = texto_();
+    QElapsedTimer reloj;
+    reloj.start();
     motor_.check(
         std::u16string_view(reinterpret_cast<const char16_t*>(texto.utf16()), static_cast<std::size_t>(texto.size())));
-    ultima_ = std::chrono::milliseconds(duracion.elapsed());
+    ultima_ = std::chrono::nanoseconds(reloj.nsecsElapsed());
     Q_EMIT comprobado(motor_.error());
 }

@@ -29,6 +29,9 @@ public:
     // Compiles now, whatever the length.
     void comprobar();
 
+    // What the last compilation took.
+    std::chrono::nanoseconds duracion() const { return ultima_; }
+
 Q_SIGNALS:
     // The first error; number 0: it compiles. The columns count as the text box does.
     void comprobado(const vbs::ScriptFailure& resultado);
@@ -41,5 +44,5 @@ private:
     vbs::Host host_;
     vbs::ScriptControl motor_{host_};
     QTimer reloj_;
-    std::chrono::milliseconds ultima_{0}; // what the last compilation took
+    std::chrono::nanoseconds ultima_{0};
 };

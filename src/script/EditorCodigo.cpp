@@ -80,6 +80,12 @@ void EditorCodigo::ponerTexto(const QString& texto) {
     setPlainText(texto);
 }
 
+void EditorCodigo::cambiarTexto(const QString& texto) {
+    QTextCursor cursor(document());
+    cursor.select(QTextCursor::Document);
+    cursor.insertText(texto);
+}
+
 // ---------------------------------------------------------------------------------------------------------------
 // marks
 
@@ -175,9 +181,7 @@ int EditorCodigo::reemplazarTodo(const QString& buscado, const QString& nuevo, Q
         return 0;
     const int linea = textCursor().blockNumber();
     const int columna = textCursor().positionInBlock();
-    QTextCursor cursor(document());
-    cursor.select(QTextCursor::Document);
-    cursor.insertText(todo.replace(buscado, nuevo, caja));
+    cambiarTexto(todo.replace(buscado, nuevo, caja));
     irA(linea + 1, columna + 1);
     return veces;
 }

@@ -24,6 +24,9 @@ public:
     QString texto() const;
     void ponerTexto(const QString& texto);
 
+    // Another text in place of the whole, as one step that can be undone.
+    void cambiarTexto(const QString& texto);
+
     // Underlines the word at that place as an error of compilation; line and column from 1. Line 0: no error.
     void marcarError(int linea, int columna);
 

@@ -1,7 +1,9 @@
 #include "script/EjecutorScript.h"
 
 #include "platform/profile/Archivos.h"
+#include "platform/text/Utf.h"
 
+#include <algorithm>
 #include <string>
 
 namespace {
@@ -60,7 +62,30 @@ void EjecutorScript::pasar() {
     const std::string texto = textoDelScript(codigo_.rutaParaLeer());
     motor_.clearError();
     if (entorno_.ejecucionActiva())
-        motor_.addCode(texto);
+        ejecutar(texto);
     ultimoError_ = motor_.error();
     entorno_.mostrarResultado(ultimoError_.number == 0);
+}
+
+void EjecutorScript::ejecutar(const std::string& texto) {
+    ponerConsola(texto);
+    const auto comienzo = std::chrono::steady_clock::now();
+    motor_.addCode(texto);
+    pasadas_.ultima = std::chrono::steady_clock::now() - comienzo;
+    pasadas_.maxima = std::max(pasadas_.maxima, pasadas_.ultima);
+    ++pasadas_.cuantas;
+}
+
+// A script may use the name WScript for what it likes; only one that does not gets the console under it.
+void EjecutorScript::ponerConsola(const std::string& texto) {
+    if (texto == textoVisto_)
+        return;
+    textoVisto_ = texto;
+    const UsoDeWScript uso = usoDeWScript(text::toUtf16(texto));
+    if (uso == UsoDeWScript::Miembros && !consolaPuesta_)
+        motor_.addObject(u"WScript", vbs::Ref<vbs::Object>(consola_.get()));
+    else if (uso == UsoDeWScript::Propio && consolaPuesta_)
+        motor_.removeObject(u"WScript");
+    if (uso != UsoDeWScript::Ninguno)
+        consolaPuesta_ = uso == UsoDeWScript::Miembros;
 }

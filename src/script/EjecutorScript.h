@@ -7,7 +7,21 @@
 
 #include "platform/events/Eventos.h"
 #include "platform/vbscript/ScriptControl.h"
+#include "script/ConsolaScript.h"
 #include "script/Modulo_Codigo.h"
+
+#include <chrono>
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <string_view>
+
+// How often and how long the script has run.
+struct Pasadas {
+    std::uint64_t cuantas = 0;
+    std::chrono::nanoseconds ultima{0};
+    std::chrono::nanoseconds maxima{0};
+};
 
 class EntornoScript {
 public:
@@ -38,8 +52,22 @@ public:
     // Error of the last pass; number 0 after a good one.
     const vbs::ScriptFailure& ultimoError() const { return ultimoError_; }
 
+    // Since the start; a pass with "Ejecutar" unticked does not count.
+    const Pasadas& pasadas() const { return pasadas_; }
+
+    // What the script wrote with WScript.Echo. The name is there for every text that has nothing of its own under it.
+    ConsolaScript& consola() { return *consola_; }
+    const ConsolaScript& consola() const { return *consola_; }
+
+    // Shows the global variables of the scripts that ran; see ScriptControl::globals().
+    void globales(const std::function<void(std::u16string_view, const vbs::Value&, vbs::Context&)>& visitante) {
+        motor_.globals(visitante);
+    }
+
 private:
     void pasar();
+    void ejecutar(const std::string& texto);
+    void ponerConsola(const std::string& texto);
 
     vbs::ScriptControl& motor_;
     const Modulo_Codigo& codigo_;
@@ -47,4 +75,8 @@ private:
     Eventos& eventos_;
     vbs::ScriptFailure ultimoError_;
     bool enPasada_ = false;
+    Pasadas pasadas_;
+    vbs::Ref<ConsolaScript> consola_ = vbs::makeObject<ConsolaScript>();
+    bool consolaPuesta_ = false; // the engine knows it
+    std::string textoVisto_;     // by ponerConsola()
 };

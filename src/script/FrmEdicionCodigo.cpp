@@ -8,19 +8,18 @@
 #include "script/AyudaMW.h"
 #include "script/BarraBusqueda.h"
 #include "script/EditorCodigo.h"
+#include "script/FalloScript.h"
+#include "script/PanelEjecucion.h"
 #include "script/PeriodoScript.h"
 
 #include <QCheckBox>
 #include <QEvent>
 #include <QFocusEvent>
-#include <QHBoxLayout>
 #include <QInputDialog>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPushButton>
-#include <QShortcut>
+#include <QSplitter>
 #include <QTextBlock>
-#include <QVBoxLayout>
 
 namespace {
 
@@ -30,13 +29,6 @@ constexpr int letraMaxima = 48;
 
 QString deUtf16(std::u16string_view texto) {
     return QString::fromUtf16(texto.data(), static_cast<qsizetype>(texto.size()));
-}
-
-template <typename Control>
-Control* nombrado(Control* control, const char* nombre, const QString& nombreAccesible) {
-    control->setObjectName(QLatin1String(nombre));
-    control->setAccessibleName(nombreAccesible);
-    return control;
 }
 
 QString deRuta(const std::filesystem::path& ruta) {
@@ -53,118 +45,18 @@ void rearmar(QCheckBox& casilla, Eventos& eventos) {
     }
 }
 
-bool mismoFallo(const vbs::ScriptFailure& a, const vbs::ScriptFailure& b) {
-    return a.number == b.number && a.line == b.line && a.column == b.column && a.description == b.description;
-}
-
 } // namespace
 
 FrmEdicionCodigo::FrmEdicionCodigo(const Modulo_Codigo& codigo, ConfiguracionScript& configuracion, QCheckBox& chScript,
-                                   Eventos& eventos, QWidget* padre)
+                                   EjecutorScript& ejecutor, Eventos& eventos, QWidget* padre)
     : QWidget(padre, Qt::Window), archivo_(codigo), configuracion_(configuracion), chScript_(chScript),
-      eventos_(eventos) {
+      ejecutor_(ejecutor), eventos_(eventos) {
     setObjectName(QStringLiteral("FrmEdicionCodigo"));
     setAttribute(Qt::WA_DeleteOnClose);
     crearControles();
     conectar();
     crearTeclas();
     cargar();
-}
-
-// ---------------------------------------------------------------------------------------------------------------
-// controls
-
-void FrmEdicionCodigo::crearControles() {
-    txtCodigo_ = nombrado(new EditorCodigo(this), "txtCodigo", QStringLiteral("Código del script"));
-    busqueda_ = new BarraBusqueda(*txtCodigo_, this);
-    lblEstado_ = nombrado(new QLabel(this), "lblEstado", QString());
-    lblEstado_->setTextFormat(Qt::PlainText);
-    lblEstado_->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    lblEstado_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    lblPosicion_ = nombrado(new QLabel(this), "lblPosicion", QString());
-    comprobador_ = new ComprobadorCodigo([this] { return txtCodigo_->texto(); },
-                                         [this] { return txtCodigo_->document()->characterCount(); }, this);
-
-    auto* estado = new QHBoxLayout;
-    estado->addWidget(lblEstado_, 1);
-    estado->addWidget(lblPosicion_);
-    auto* columna = new QVBoxLayout(this);
-    columna->addWidget(txtCodigo_, 1);
-    columna->addWidget(busqueda_);
-    columna->addLayout(estado);
-    crearFilaInferior(*columna);
-    resize(txtCodigo_->anchoMargen() + txtCodigo_->fontMetrics().horizontalAdvance(u'0') * 112,
-           txtCodigo_->fontMetrics().height() * 42);
-    txtCodigo_->setFocus();
-}
-
-void FrmEdicionCodigo::crearFilaInferior(QVBoxLayout& columna) {
-    txtIntervaloDeTiempo_ =
-        nombrado(new QLineEdit(this), "txtIntervaloDeTiempo", QStringLiteral("Intervalo de tiempo en milisegundos"));
-    txtIntervaloDeTiempo_->setMaximumWidth(fontMetrics().horizontalAdvance(QStringLiteral("00000000000")));
-    txtIntervaloDeTiempo_->setToolTip(QStringLiteral("De 10 a 60000 milisegundos"));
-    txtIntervaloDeTiempo_->installEventFilter(this);
-    auto* rotulo = new QLabel(QStringLiteral("&Intervalo (milisegundos):"), this);
-    rotulo->setBuddy(txtIntervaloDeTiempo_);
-    auto* btnBuscar = nombrado(new QPushButton(QStringLiteral("&Buscar"), this), "btnBuscar", {});
-    btnBuscar->setToolTip(QStringLiteral("Ctrl+F; reemplazar: Ctrl+H"));
-    connect(btnBuscar, &QPushButton::clicked, this, [this] { busqueda_->abrir(true); });
-    auto* btnAyuda = nombrado(new QPushButton(QStringLiteral("A&yuda"), this), "btnAyuda", {});
-    btnAyuda->setToolTip(QStringLiteral("F1"));
-    connect(btnAyuda, &QPushButton::clicked, this, &FrmEdicionCodigo::mostrarAyuda);
-    BtnGuardar_ = nombrado(new QPushButton(QStringLiteral("&Guardar"), this), "BtnGuardar", {});
-    BtnGuardar_->setToolTip(QStringLiteral("Ctrl+S"));
-    BtnSalir_ = nombrado(new QPushButton(QStringLiteral("&Salir"), this), "BtnSalir", {});
-    BtnSalir_->setToolTip(QStringLiteral("Cierra sin guardar"));
-
-    auto* fila = new QHBoxLayout;
-    fila->addWidget(rotulo);
-    fila->addWidget(txtIntervaloDeTiempo_);
-    fila->addStretch(1);
-    for (QPushButton* const boton : {btnBuscar, btnAyuda, BtnGuardar_, BtnSalir_})
-        fila->addWidget(boton);
-    columna.addLayout(fila);
-}
-
-void FrmEdicionCodigo::conectar() {
-    connect(BtnGuardar_, &QPushButton::clicked, this, &FrmEdicionCodigo::guardar);
-    connect(BtnSalir_, &QPushButton::clicked, this, &FrmEdicionCodigo::salir);
-    connect(txtIntervaloDeTiempo_, &QLineEdit::textChanged, this, &FrmEdicionCodigo::mostrarTitulo);
-    connect(txtCodigo_, &QPlainTextEdit::modificationChanged, this, &FrmEdicionCodigo::mostrarTitulo);
-    connect(txtCodigo_, &QPlainTextEdit::cursorPositionChanged, this, &FrmEdicionCodigo::mostrarPosicion);
-    connect(txtCodigo_, &QPlainTextEdit::textChanged, this, [this] {
-        demasiadoLargo_ = false;
-        aviso_.clear();
-        comprobador_->pedir();
-        mostrarEstado();
-    });
-    connect(comprobador_, &ComprobadorCodigo::comprobado, this, [this](const vbs::ScriptFailure& resultado) {
-        errorCompilacion_ = resultado;
-        txtCodigo_->marcarError(static_cast<int>(resultado.line), static_cast<int>(resultado.column));
-        mostrarEstado();
-    });
-    connect(comprobador_, &ComprobadorCodigo::demasiadoLargo, this, [this] {
-        demasiadoLargo_ = true;
-        errorCompilacion_ = {};
-        txtCodigo_->marcarError(0, 0);
-        mostrarEstado();
-    });
-}
-
-void FrmEdicionCodigo::crearTeclas() {
-    const auto tecla = [this](const QKeySequence& secuencia, auto accion) {
-        connect(new QShortcut(secuencia, this), &QShortcut::activated, this, accion);
-    };
-    tecla(Qt::CTRL | Qt::Key_S, [this] { guardar(); });
-    tecla(Qt::CTRL | Qt::Key_F, [this] { busqueda_->abrir(false); });
-    tecla(Qt::CTRL | Qt::Key_H, [this] { busqueda_->abrir(true); });
-    tecla(Qt::CTRL | Qt::Key_G, [this] { irALinea(); });
-    tecla(Qt::Key_F3, [this] { busqueda_->buscar(false); });
-    tecla(Qt::SHIFT | Qt::Key_F3, [this] { busqueda_->buscar(true); });
-    tecla(Qt::Key_F8, [this] { irAlError(); });
-    tecla(Qt::Key_F1, [this] { mostrarAyuda(); });
-    tecla(QKeySequence::ZoomIn, [this] { cambiarLetra(1); });
-    tecla(QKeySequence::ZoomOut, [this] { cambiarLetra(-1); });
 }
 
 // ---------------------------------------------------------------------------------------------------------------
@@ -302,7 +194,7 @@ bool FrmEdicionCodigo::eventFilter(QObject* objeto, QEvent* evento) {
 // errors
 
 void FrmEdicionCodigo::mostrarFallo(const vbs::ScriptFailure& fallo) {
-    if (mismoFallo(fallo, fallo_))
+    if (fallo == fallo_)
         return;
     fallo_ = fallo;
     txtCodigo_->marcarFallo(lineaDelFallo());
@@ -334,20 +226,12 @@ int FrmEdicionCodigo::lineaParaDecir() const {
 }
 
 void FrmEdicionCodigo::mostrarEstado() {
-    const auto descripcion = [](const QString& que, const vbs::ScriptFailure& error, int linea) {
-        return QStringLiteral("%1, línea %2, columna %3: %4 (error %5)")
-            .arg(que)
-            .arg(linea)
-            .arg(error.column)
-            .arg(deUtf16(error.description))
-            .arg(error.number);
-    };
     const bool conError = errorCompilacion_.number != 0 || fallo_.number != 0;
     QString error;
     if (errorCompilacion_.number != 0)
-        error = descripcion(QStringLiteral("Error"), errorCompilacion_, static_cast<int>(errorCompilacion_.line));
+        error = textoDeFallo(QStringLiteral("Error"), errorCompilacion_, static_cast<int>(errorCompilacion_.line));
     else if (fallo_.number != 0)
-        error = descripcion(QStringLiteral("Falló al ejecutar"), fallo_, lineaParaDecir());
+        error = textoDeFallo(QStringLiteral("Falló al ejecutar"), fallo_, lineaParaDecir());
     else if (demasiadoLargo_)
         error = QStringLiteral("Texto muy largo: se comprueba al guardar.");
     const QString estado = aviso_.isEmpty() || error.isEmpty() ? aviso_ + error : aviso_ + u' ' + error;
@@ -409,6 +293,26 @@ void FrmEdicionCodigo::mostrarAyuda() {
     ayuda_->show();
     ayuda_->raise();
     ayuda_->activateWindow();
+}
+
+// Puts a sample in place of the text, which may have to be asked for; nothing is saved by it.
+void FrmEdicionCodigo::ponerEjemplo(const QString& texto) {
+    const QPointer<FrmEdicionCodigo> viva = this;
+    if (!txtCodigo_->texto().trimmed().isEmpty() &&
+        MsgBox(this, QStringLiteral("¿Reemplazar el texto de esta ventana con el ejemplo?\r\nCtrl+Z lo deshace."),
+               vbYesNo + vbQuestion + vbDefaultButton2) != vbYes)
+        return;
+    if (!viva)
+        return;
+    txtCodigo_->cambiarTexto(texto);
+    txtCodigo_->irA(1, 1);
+    txtCodigo_->setFocus();
+}
+
+void FrmEdicionCodigo::mostrarPanel(bool visible) {
+    panel_->setVisible(visible);
+    if (visible && partes_->sizes().constLast() < partes_->width() / 5)
+        partes_->setSizes({partes_->width() * 3 / 5, partes_->width() * 2 / 5});
 }
 
 void FrmEdicionCodigo::changeEvent(QEvent* evento) {

@@ -3,7 +3,7 @@
 // It loads the script file when it is made, saves it with "Guardar" or Ctrl+S (asking first when the file was changed
 // meanwhile) and goes away when it is closed, without saving. While one types, the text is compiled and its first error
 // underlined; where the running script failed is marked as well. A star in the title tells of changes that are not
-// saved.
+// saved. Beside the text one can see the variables of the running script and its console.
 #pragma once
 
 #include "platform/vbscript/ScriptControl.h"
@@ -16,21 +16,26 @@
 
 class AyudaMW;
 class BarraBusqueda;
+class BarraEjecucion;
 class EditorCodigo;
+class EjecutorScript;
 class Eventos;
 class QCheckBox;
 class QLabel;
 class QLineEdit;
+class PanelEjecucion;
 class QPushButton;
+class QSplitter;
 class QVBoxLayout;
 
 class FrmEdicionCodigo final : public QWidget {
     Q_OBJECT
 
 public:
-    // All borrowed. `chScript` is unticked and ticked again to arm the timer with a new period.
+    // All borrowed. `chScript` starts and stops the script, and is unticked and ticked again to arm the timer with a
+    // new period; of `ejecutor` the variables, the console and the times are shown.
     FrmEdicionCodigo(const Modulo_Codigo& codigo, ConfiguracionScript& configuracion, QCheckBox& chScript,
-                     Eventos& eventos, QWidget* padre);
+                     EjecutorScript& ejecutor, Eventos& eventos, QWidget* padre);
 
     // Tells the outcome of a pass of the script; number 0: good. Cheap when nothing has changed.
     void mostrarFallo(const vbs::ScriptFailure& fallo);
@@ -58,6 +63,8 @@ private:
     void irAlError();
     void mostrarAyuda();
     void cambiarLetra(int puntos);
+    void ponerEjemplo(const QString& texto);
+    void mostrarPanel(bool visible);
     void mostrarTitulo();
     void mostrarPosicion();
     void mostrarEstado();
@@ -69,8 +76,12 @@ private:
     ArchivoCodigo archivo_;
     ConfiguracionScript& configuracion_;
     QCheckBox& chScript_;
+    EjecutorScript& ejecutor_;
     Eventos& eventos_;
 
+    BarraEjecucion* barra_ = nullptr;
+    QSplitter* partes_ = nullptr; // the text and the panel beside it
+    PanelEjecucion* panel_ = nullptr;
     EditorCodigo* txtCodigo_ = nullptr;
     QLineEdit* txtIntervaloDeTiempo_ = nullptr;
     QPushButton* BtnGuardar_ = nullptr;

@@ -216,3 +216,44 @@ TEST_F(Runner, windows1252AndUtf8TextsAreTheSameToTheScript) {
     EXPECT_EQ(pass(), "+eee");
     EXPECT_EQ(at(5), 5);
 }
+
+TEST_F(Runner, passesAreCountedWithTheirTimes) {
+    script("For i = 1 To 200000 : Next");
+    pass();
+    const auto longest = runner_.pasadas().ultima;
+    script("x = 1");
+    pass();
+    EXPECT_EQ(runner_.pasadas().cuantas, 2U);
+    EXPECT_LT(runner_.pasadas().ultima, longest);
+    EXPECT_EQ(runner_.pasadas().maxima, longest);
+    active_ = false;
+    pass();
+    EXPECT_EQ(runner_.pasadas().cuantas, 2U);
+}
+
+TEST_F(Runner, echoNeverStopsAPass) {
+    script("Dim a(3) : WScript.Echo a, Nothing, Null, Empty : mw.escribir 1, 5, 1");
+    EXPECT_EQ(pass(), "+eee");
+    EXPECT_EQ(at(5), 1);
+    EXPECT_EQ(runner_.consola().lineas().size(), 1U);
+}
+
+TEST_F(Runner, consoleIsThereOnlyForScriptsWithoutAWScriptOfTheirOwn) {
+    for (const char* text :
+         {"WScript = 5 : mw.escribir 1, 5, WScript", "Dim WScript : WScript = 5 : mw.escribir 1, 5, WScript",
+          "Function WScript : WScript = 5 : End Function : mw.escribir 1, 5, WScript",
+          "Const WScript = 5 : mw.escribir 1, 5, WScript",
+          "For Each WScript In Array(4, 5) : mw.escribir 1, 5, WScript : Next"}) {
+        script("WScript.Echo 1 : mw.escribir 1, 5, 0");
+        EXPECT_EQ(pass(), "+eee") << text;
+        script(text);
+        EXPECT_EQ(pass(), "+eee") << text << runner_.ultimoError().number;
+        EXPECT_EQ(at(5), 5) << text;
+    }
+    EXPECT_EQ(runner_.consola().lineas().size(), 5U);
+}
+
+TEST_F(Runner, echoFromAnInstanceThatEndsWithTheEngineIsHarmless) {
+    script("Class C : Sub Class_Terminate : WScript.Echo \"fin\" : End Sub : End Class : Set c1 = New C");
+    EXPECT_EQ(pass(), "+eee");
+}

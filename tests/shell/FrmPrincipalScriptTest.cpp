@@ -5,11 +5,13 @@
 
 #include <QCheckBox>
 #include <QElapsedTimer>
+#include <QHelpEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPointer>
 #include <QPushButton>
+#include <QRegularExpression>
 
 #include <functional>
 
@@ -88,6 +90,32 @@ private Q_SLOTS:
         e.script("x = 1 / 0");
         e.pasada();
         QCOMPARE(fondo(), rojo);
+    }
+
+    void boxTellsTheErrorWithItsPlaceAndTime() {
+        EstacionConScript e("Codigo_Ejecutar=1\r\n");
+        QVERIFY(e.cargar());
+        e.script("x = 1\r\nx = 1 / 0");
+        e.pasada();
+        const QRegularExpression error(QStringLiteral(
+            "^Con error a las \\d\\d:\\d\\d:\\d\\d, línea 2, columna \\d+: División por cero \\(error 11\\)$"));
+        QVERIFY2(error.match(e.chScript().toolTip()).hasMatch(), qPrintable(e.chScript().toolTip()));
+        QCOMPARE(e.chScript().accessibleDescription(), e.chScript().toolTip());
+        e.script("x = y(");
+        e.pasada();
+        QVERIFY(e.chScript().toolTip().contains(QStringLiteral("línea 1")));
+    }
+
+    void boxTellsPassesAndTheirTimeToWhoPointsAtIt() {
+        EstacionConScript e("Codigo_Ejecutar=1\r\nEjecucion_Codigo_Milisegundos=60000\r\n");
+        QVERIFY(e.cargar());
+        e.script("x = 1");
+        for (int vez = 0; vez < 3; ++vez)
+            e.pasada();
+        QHelpEvent senalar(QEvent::ToolTip, QPoint(3, 3), e.chScript().mapToGlobal(QPoint(3, 3)));
+        QApplication::sendEvent(&e.chScript(), &senalar);
+        QVERIFY2(e.chScript().toolTip().startsWith(QStringLiteral("Sin errores. Pasadas: 3; la última duró ")),
+                 qPrintable(e.chScript().toolTip()));
     }
 
     void startWithTheKeyOffLeavesTimerLabelAndPeriodAlone() {
