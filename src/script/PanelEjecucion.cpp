@@ -56,7 +56,7 @@ QWidget* PanelEjecucion::crearVariables() {
     variables_->setAlternatingRowColors(true);
     const int letra = fontMetrics().averageCharWidth();
     variables_->setColumnWidth(Nombre, letra * 16);
-    variables_->setColumnWidth(Tipo, letra * 11);
+    variables_->setColumnWidth(Tipo, letra * 13);
     resumen_->setBuddy(variables_);
     auto* columna = new QVBoxLayout(parte);
     columna->setContentsMargins(0, 0, 0, 0);

@@ -3,27 +3,13 @@
 #include "script/FrmEdicionCodigo.h"
 
 #include "CajaDeMensaje.h"
-#include "CarpetaTemporal.h"
-#include "ConfiguracionFalsa.h"
-#include "platform/window/EventosQt.h"
 #include "script/BarraBusqueda.h"
-#include "script/BarraEjecucion.h"
-#include "script/EditorCodigo.h"
-#include "script/Ejemplos.h"
-#include "script/PanelEjecucion.h"
+#include "script/EditorDePrueba.h"
 
-#include <QCheckBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMenu>
-#include <QPointer>
-#include <QPushButton>
-#include <QScrollBar>
 #include <QTextBlock>
 #include <QTextBrowser>
-#include <QTreeWidget>
-
-#include <memory>
 
 namespace {
 
@@ -41,69 +27,14 @@ vbs::ScriptFailure falloEn(std::uint32_t linea, std::u16string texto) {
 
 } // namespace
 
-class TestFrmEdicionCodigo : public QObject, public EntornoScript {
+class TestFrmEdicionCodigo : public EditorDePrueba {
     Q_OBJECT
 
-    std::unique_ptr<CarpetaTemporal> carpeta_;
-    std::unique_ptr<ConfiguracionFalsa> config_;
-    std::unique_ptr<Modulo_Codigo> codigo_;
-    std::unique_ptr<QWidget> principal_;
-    QCheckBox* chScript_ = nullptr;
-    std::vector<bool> clics_; // of chScript
-    EventosQt eventos_;
-    vbs::Host host_;
-    std::unique_ptr<vbs::ScriptControl> motor_;
-    std::unique_ptr<EjecutorScript> ejecutor_;
-    QPointer<FrmEdicionCodigo> frm_;
-
-    bool ejecucionActiva() const override { return true; }
-    void mostrarResultado(bool /*sinError*/) override {}
-    void aplazarPasada() override {}
-
-    // A pass of that text as the station runs it.
-    void pasada(std::string_view texto) {
-        escribirArchivo(archivo(), texto);
-        ejecutor_->ejecutarScript();
-        QCOMPARE(ejecutor_->ultimoError().number, 0);
-    }
-
-    std::filesystem::path archivo() const { return *carpeta_ / "codigoTrelvano.txt"; }
-
-    // Opens the window as the main window does.
-    void abrir() {
-        frm_ = new FrmEdicionCodigo(*codigo_, *config_, *chScript_, *ejecutor_, eventos_, principal_.get());
-        frm_->show();
-        frm_->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(frm_));
-    }
-    void abrirCon(std::string_view texto) {
-        escribirArchivo(archivo(), texto);
-        abrir();
-    }
-    template <typename Control>
-    Control& control(const char* nombre) const {
-        auto* hallado = frm_->findChild<Control*>(QLatin1String(nombre));
-        if (hallado == nullptr)
-            qFatal("no control %s", nombre);
-        return *hallado;
-    }
-    EditorCodigo& txtCodigo() const { return control<EditorCodigo>("txtCodigo"); }
     QLineEdit& periodo() const { return control<QLineEdit>("txtIntervaloDeTiempo"); }
     QString estado() const { return control<QLabel>("lblEstado").text(); }
     QString mensajeBusqueda() const { return control<QLabel>("lblBusqueda").text(); }
     QString seleccionado() const { return txtCodigo().textCursor().selectedText(); }
-    void clic(const char* boton) const { QTest::mouseClick(&control<QPushButton>(boton), Qt::LeftButton); }
     void guardar() const { clic("BtnGuardar"); }
-    void tecla(Qt::Key cual, Qt::KeyboardModifiers con = {}) const {
-        QTest::keyClick(QApplication::focusWidget(), cual, con);
-    }
-    QAction* ejemplo(const QString& titulo) const {
-        const auto acciones = control<QMenu>("menuEjemplos").actions();
-        for (QAction* accion : acciones)
-            if (accion->text() == titulo)
-                return accion;
-        return nullptr;
-    }
     void escribirPeriodo(const QString& texto) const {
         QTest::mouseClick(&periodo(), Qt::LeftButton);
         periodo().selectAll();
@@ -113,32 +44,9 @@ class TestFrmEdicionCodigo : public QObject, public EntornoScript {
             QTest::keyClicks(&periodo(), texto);
     }
 
-    QTreeWidget& variables() const { return control<QTreeWidget>("listaVariables"); }
-    QStringList fila(int cual) const {
-        const QTreeWidgetItem* item = variables().topLevelItem(cual);
-        return item == nullptr ? QStringList() : QStringList{item->text(0), item->text(1), item->text(2)};
-    }
-    QString consola() const { return control<QPlainTextEdit>("txtConsola").toPlainText(); }
-    QString tiempos() const { return control<QLabel>("lblTiempos").text(); }
-
 private Q_SLOTS:
-    void init() {
-        carpeta_ = std::make_unique<CarpetaTemporal>();
-        config_ = std::make_unique<ConfiguracionFalsa>();
-        codigo_ = std::make_unique<Modulo_Codigo>(*config_, carpeta_->ruta());
-        motor_ = std::make_unique<vbs::ScriptControl>(host_);
-        ejecutor_ = std::make_unique<EjecutorScript>(*motor_, *codigo_, *this, eventos_);
-        principal_ = std::make_unique<QWidget>();
-        chScript_ = new QCheckBox(principal_.get());
-        clics_.clear();
-        connect(chScript_, &QCheckBox::toggled, this, [this](bool marcada) { clics_.push_back(marcada); });
-    }
-
-    void cleanup() {
-        principal_.reset();
-        ejecutor_.reset();
-        motor_.reset();
-    }
+    void init() { preparar(); }
+    void cleanup() { recoger(); }
 
     // ------------------------------------------------------------------------------------------------ loading
 
@@ -747,188 +655,6 @@ private:
             if (marca.format.background().color() == txtCodigo().colores().lineaError)
                 return marca.cursor.blockNumber() + 1;
         return 0;
-    }
-
-    // ------------------------------------------------------------------------------------------ the running script
-
-private Q_SLOTS:
-    void panelIsShownAndHiddenByKeyAndButton() {
-        abrir();
-        auto& panel = control<QWidget>("panelEjecucion");
-        QVERIFY(!panel.isVisible());
-        tecla(Qt::Key_F6);
-        QVERIFY(panel.isVisible());
-        QVERIFY(txtCodigo().width() > 200 && panel.width() > 100);
-        clic("btnPanel");
-        QVERIFY(!panel.isVisible());
-    }
-
-    void variablesFollowThePasses() {
-        abrir();
-        tecla(Qt::Key_F6);
-        QCOMPARE(variables().topLevelItemCount(), 0);
-        pasada("Dim m(4) : nivel = nivel + 5 : Sub s : End Sub");
-        QTRY_COMPARE(variables().topLevelItemCount(), 2);
-        QCOMPARE(fila(0), (QStringList{"m", "Variant()", "5 elementos"}));
-        QCOMPARE(fila(1), (QStringList{"nivel", "Integer", "5"}));
-        variables().setCurrentItem(variables().topLevelItem(1));
-        pasada("nivel = nivel + 5 : nuevo = 1");
-        QTRY_COMPARE(fila(1), (QStringList{"nivel", "Integer", "10"}));
-        QCOMPARE(fila(2).value(0), QStringLiteral("nuevo"));
-        QCOMPARE(variables().currentItem(), variables().topLevelItem(1)); // the choice stays
-    }
-
-    void hiddenPanelFollowsNothing() {
-        abrir();
-        pasada("nivel = 5");
-        QTest::qWait(2 * static_cast<int>(BarraEjecucion::pulso.count()));
-        QCOMPARE(variables().topLevelItemCount(), 0);
-        tecla(Qt::Key_F6); // at once, without waiting
-        QCOMPARE(fila(0).value(2), QStringLiteral("5"));
-    }
-
-    void manyVariablesAreShownUpToALimit() {
-        std::string texto;
-        for (int i = 0; i < PanelEjecucion::maximoVariables + 10; ++i)
-            texto += "v" + std::to_string(i) + " = 1\r\n";
-        abrir();
-        pasada(texto);
-        tecla(Qt::Key_F6);
-        QCOMPARE(variables().topLevelItemCount(), PanelEjecucion::maximoVariables);
-        QCOMPARE(control<QLabel>("lblVariables").text(), QStringLiteral("Variables globales: se ven 1000 de 1010"));
-    }
-
-    void consoleShowsWhatWasWrittenBeforeAndAfterOpening() {
-        pasada("WScript.Echo \"antes\"");
-        abrir();
-        tecla(Qt::Key_F6);
-        QVERIFY(consola().endsWith(QStringLiteral("antes")));
-        pasada("WScript.Echo \"nivel\", 5");
-        QTRY_VERIFY(consola().endsWith(QStringLiteral("  nivel 5")));
-        QCOMPARE(consola().count(u'\n'), 1);
-        clic("btnBorrarConsola");
-        QCOMPARE(consola(), QString());
-        pasada("WScript.Echo 7");
-        QTRY_VERIFY(consola().endsWith(QStringLiteral("  7")));
-    }
-
-    void consoleDropsItsOldestLinesAndHoldsTheView() {
-        abrir();
-        tecla(Qt::Key_F6);
-        pasada("For i = 1 To 100 : WScript.Echo i : Next");
-        QTRY_VERIFY(consola().endsWith(QStringLiteral("  100")));
-        auto& caja = control<QPlainTextEdit>("txtConsola");
-        caja.verticalScrollBar()->setValue(20);
-        QTextCursor elegido(caja.document()->findBlockByNumber(50));
-        elegido.select(QTextCursor::LineUnderCursor);
-        caja.setTextCursor(elegido);
-        const int arriba = caja.verticalScrollBar()->value();
-        pasada("WScript.Echo \"nueva\"");
-        QTRY_VERIFY(consola().endsWith(QStringLiteral("nueva")));
-        QCOMPARE(caja.verticalScrollBar()->value(), arriba);
-        QVERIFY(caja.textCursor().selectedText().endsWith(QStringLiteral("  51")));
-        pasada("For i = 1 To 20000 : WScript.Echo i : Next");
-        QTRY_VERIFY(consola().endsWith(QStringLiteral("  20000")));
-        QVERIFY(consola().size() <= static_cast<qsizetype>(ConsolaScript::maximo));
-    }
-
-    void scriptWithAWScriptOfItsOwnRunsAsBefore() {
-        pasada("WScript.Echo 1");
-        pasada("WScript = 5 : WScript = WScript + 1");
-        abrir();
-        tecla(Qt::Key_F6);
-        QCOMPARE(fila(0), (QStringList{"WScript", "Integer", "6"}));
-        pasada("Set WScript = CreateObject(\"Scripting.Dictionary\") : WScript.Add 1, 2");
-        QTRY_COMPARE(fila(0).value(1), QStringLiteral("Dictionary"));
-        pasada("WScript.Echo \"otra vez\"");
-        QTRY_VERIFY(consola().endsWith(QStringLiteral("otra vez")));
-        QCOMPARE(variables().topLevelItemCount(), 0);
-    }
-
-    void timesOfPassesAndOfCompilingAreShown() {
-        abrirCon("x = 1");
-        QTRY_VERIFY(tiempos().startsWith(QStringLiteral("Sin pasadas todavía; compilar: ")));
-        pasada("x = 1");
-        pasada("For i = 1 To 100000 : Next");
-        QTRY_VERIFY(tiempos().startsWith(QStringLiteral("Pasadas: 2, la última ")));
-        QVERIFY(ejecutor_->pasadas().ultima == ejecutor_->pasadas().maxima);
-        QVERIFY(tiempos().contains(QStringLiteral("la más larga ") + textoDeDuracion(ejecutor_->pasadas().maxima)));
-    }
-
-    void durationsHaveThreeFigures() {
-        using namespace std::chrono_literals;
-        const QChar coma = QLocale().decimalPoint().front();
-        QCOMPARE(textoDeDuracion(850us), QStringLiteral("0") + coma + QStringLiteral("85 ms"));
-        QCOMPARE(textoDeDuracion(12'340us), QStringLiteral("12") + coma + QStringLiteral("3 ms"));
-        QCOMPARE(textoDeDuracion(123'400us), QStringLiteral("123 ms"));
-        QCOMPARE(textoDeDuracion(2'500ms), QStringLiteral("2") + coma + QStringLiteral("50 s"));
-    }
-
-    void scriptIsStartedAndStoppedFromHere() {
-        abrir();
-        tecla(Qt::Key_F5);
-        QCOMPARE(clics_, std::vector<bool>{true});
-        QVERIFY(control<QCheckBox>("chEjecutar").isChecked());
-        auto& casilla = control<QCheckBox>("chEjecutar");
-        QTest::mouseClick(&casilla, Qt::LeftButton, {}, QPoint(8, casilla.height() / 2));
-        QCOMPARE(clics_, (std::vector<bool>{true, false}));
-        chScript_->setChecked(true); // in the main window
-        QVERIFY(casilla.isChecked());
-    }
-
-    void sampleFillsAnEmptyTextAtOnce() {
-        abrir();
-        QAction* const rampa = ejemplo(QStringLiteral("Rampa"));
-        QVERIFY(rampa != nullptr);
-        rampa->trigger();
-        QVERIFY(txtCodigo().texto().startsWith(QStringLiteral("' Rampa:")));
-        QVERIFY(frm_->windowTitle().startsWith(u'*'));
-        QVERIFY(!std::filesystem::exists(archivo())); // nothing is saved by it
-    }
-
-    void sampleReplacesATextOnlyAfterAQuestion() {
-        abrirCon("mio = 1");
-        CajaDeMensaje caja;
-        caja.boton = QStringLiteral("&No");
-        ejemplo(QStringLiteral("Rampa"))->trigger();
-        QCOMPARE(caja.vistas, 1);
-        QCOMPARE(txtCodigo().texto(), QStringLiteral("mio = 1\n"));
-        caja.boton = caja.botones.value(0);
-        ejemplo(QStringLiteral("Rampa"))->trigger();
-        QVERIFY(txtCodigo().texto().startsWith(QStringLiteral("' Rampa:")));
-        QTest::keyClick(&txtCodigo(), Qt::Key_Z, Qt::ControlModifier);
-        QCOMPARE(txtCodigo().texto(), QStringLiteral("mio = 1\n"));
-    }
-
-    void everySampleIsOfferedAndCompiles() {
-        abrir();
-        QStringList titulos;
-        for (const Ejemplo& ejemplo : ejemplos()) {
-            titulos.append(ejemplo.titulo);
-            QVERIFY2(motor_->check(ejemplo.texto.toStdU16String()), qPrintable(ejemplo.titulo));
-        }
-        QCOMPARE(titulos.size(), 7);
-        QStringList ofrecidos;
-        const auto acciones = control<QMenu>("menuEjemplos").actions();
-        for (const QAction* accion : acciones)
-            ofrecidos.append(accion->text());
-        QCOMPARE(ofrecidos, titulos);
-    }
-
-    void fitsSmallScreensWithThePanelOpen_data() {
-        QTest::addColumn<QSize>("pantalla");
-        QTest::newRow("1024x700") << QSize(1024, 700);
-        QTest::newRow("960x540") << QSize(960, 540);
-    }
-    void fitsSmallScreensWithThePanelOpen() {
-        QFETCH(QSize, pantalla);
-        abrirCon("x = 1");
-        tecla(Qt::Key_F6);
-        tecla(Qt::Key_H, Qt::ControlModifier);
-        frm_->resize(pantalla);
-        QVERIFY2(frm_->minimumSizeHint().width() <= pantalla.width() && frm_->height() <= pantalla.height(),
-                 qPrintable(QStringLiteral("%1x%2").arg(frm_->minimumSizeHint().width()).arg(frm_->height())));
-        QVERIFY(txtCodigo().height() > 150);
     }
 };
 
