@@ -2,6 +2,7 @@
 
 #include "platform/text/Numbers.h"
 
+#include <algorithm>
 #include <cmath>
 #include <iterator>
 #include <system_error>
@@ -16,8 +17,16 @@ public:
     std::string_view direccionRemota() const override { return socket.RemoteHostIP(); }
     bool enviar(std::span<const std::uint8_t> respuesta) override { return socket.SendData(respuesta); }
 
+    void empezar(Maestro::Instante ahora) {
+        desde = ahora;
+        ultima.reset();
+        peticiones = 0;
+    }
+
     Winsock socket;
     bool libre = false; // stands in the list of the free ones
+    Maestro::Instante desde;
+    std::optional<Maestro::Instante> ultima;
 };
 
 namespace {
@@ -102,6 +111,7 @@ void Escucha::aceptarConexion(std::uint32_t requestId) {
     Levantado& levantado = *WinSockLevantados_[j];
     levantado.socket.Close();
     levantado.socket.LocalPort(0);
+    levantado.empezar(reactor_.callTime());
     if (!levantado.socket.Accept(requestId))
         liberar(levantado);
     asegurarFila(j);
@@ -135,7 +145,9 @@ void Escucha::asegurarFila(std::size_t j) {
 }
 
 void Escucha::onDataArrival(Winsock& socket, std::span<const std::uint8_t> data) {
-    peticiones_.atender(data, *WinSockLevantados_[static_cast<std::size_t>(socket.Index())]);
+    Levantado& levantado = *WinSockLevantados_[static_cast<std::size_t>(socket.Index())];
+    levantado.ultima = reactor_.callTime();
+    peticiones_.atender(data, levantado);
 }
 
 void Escucha::onClose(Winsock& socket) {
@@ -151,4 +163,23 @@ void Escucha::refrescarConexiones() {
         entorno_.mostrarFila(j, socket.RemoteHostIP(), textoDeEstado(socket.State()));
     }
     entorno_.mostrarEscuchando(escuchando());
+}
+
+std::vector<Maestro> Escucha::maestros() const {
+    std::vector<Maestro> todos;
+    for (const auto& uno : WinSockLevantados_)
+        if (uno->conectada())
+            todos.push_back(
+                {uno->socket.RemoteHostIP(), uno->socket.RemotePort(), uno->desde, uno->ultima, uno->peticiones});
+    return todos;
+}
+
+std::size_t Escucha::conectados() const {
+    return static_cast<std::size_t>(std::count_if(WinSockLevantados_.begin(), WinSockLevantados_.end(),
+                                                  [](const auto& uno) { return uno->conectada(); }));
+}
+
+void Escucha::ponerACero() {
+    for (const auto& uno : WinSockLevantados_)
+        uno->peticiones = 0;
 }

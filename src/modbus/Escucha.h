@@ -11,8 +11,10 @@
 
 #include <queue>
 
+#include <chrono>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -33,6 +35,17 @@ protected:
     ~EntornoEscucha() = default;
 };
 
+// A master that is connected.
+struct Maestro {
+    using Instante = std::chrono::steady_clock::time_point;
+
+    std::string direccion; // dotted text
+    std::uint16_t puerto;  // its own, not the station's
+    Instante desde;
+    std::optional<Instante> ultima; // arrival; nothing before the first
+    std::uint64_t peticiones;
+};
+
 class Escucha final : private WinsockEvents {
 public:
     // All borrowed. `rutaPrograma` is the executable, named in the advice about ports below 1024.
@@ -50,6 +63,12 @@ public:
 
     bool escuchando() const { return WinSockEscucha_.State() == WinsockState::listening; }
     std::size_t conexiones() const { return WinSockLevantados_.size(); }
+
+    // The masters that are connected now, in the order of their rows.
+    std::vector<Maestro> maestros() const;
+    std::size_t conectados() const;
+    // Begins to count the requests of each connection anew.
+    void ponerACero();
 
 private:
     class Levantado;

@@ -33,6 +33,9 @@ void Peticiones::atender(Bytes llegada, Conexion& conexion) noexcept {
 }
 
 void Peticiones::recorrer(Bytes llegada, Conexion& conexion) {
+    if (llegada.empty())
+        return;
+    contar(llegada, conexion);
     if (llegada.size() <= trama::unidad)
         return;
     // Only the first frame's slave is created; later frames of the arrival are not looked at for it.
@@ -40,12 +43,26 @@ void Peticiones::recorrer(Bytes llegada, Conexion& conexion) {
         esclavos_.crearEsclavo(primero, 0, Esclavos::ultimaPorDefecto);
 
     std::size_t i = 0;
-    while (i + 1 < llegada.size()) {
-        if (atenderTrama(llegada, i, conexion) == Fin::llegadaTerminada)
-            return;
+    while (atenderTrama(llegada, i, conexion) == Fin::siguiente) {
         // The high byte of the length is ignored on purpose: a frame longer than 255 is mis-stepped.
         i += trama::previosALongitud + llegada[i + trama::longitudBaja];
+        if (i + 1 >= llegada.size())
+            return;
+        contar(llegada.subspan(i), conexion);
     }
+}
+
+// What is counted here and answered nowhere has been left unanswered.
+void Peticiones::contar(Bytes resto, Conexion& conexion) {
+    ++conexion.peticiones;
+    ++contadores_[resto.size() > trama::unidad ? resto[trama::unidad] : std::size_t{numerosDeEsclavo}].peticiones;
+}
+
+Contadores Peticiones::total() const {
+    Contadores suma;
+    for (const Contadores& uno : contadores_)
+        suma += uno;
+    return suma;
 }
 
 Peticiones::Fin Peticiones::atenderTrama(Bytes llegada, std::size_t i, Conexion& conexion) {
@@ -110,8 +127,11 @@ Peticiones::Fin Peticiones::atenderLectura(Bytes peticion, Pagina& pagina, Conex
         trama::conBlancoDelante(empezarLinea(" ( -TX-> Lectura ) "), respuesta);
         terminarLinea(pagina.numero());
     }
-    if (conexion.conectada() && !conexion.enviar(respuesta))
+    if (!conexion.conectada())
+        return Fin::siguiente;
+    if (!conexion.enviar(respuesta))
         return Fin::llegadaTerminada;
+    ++contadores_[peticion[trama::unidad]].lecturas;
     return Fin::siguiente;
 }
 
@@ -140,7 +160,10 @@ Peticiones::Fin Peticiones::atenderEscritura(Bytes peticion, Pagina& pagina, Con
         terminarLinea(pagina.numero());
     }
     // Unlike a read answer it is sent without a look at the socket's state, on purpose.
-    return conexion.enviar(respuesta) ? Fin::siguiente : Fin::llegadaTerminada;
+    if (!conexion.enviar(respuesta))
+        return Fin::llegadaTerminada;
+    ++contadores_[peticion[trama::unidad]].escrituras;
+    return Fin::siguiente;
 }
 
 void Peticiones::responderExcepcion(Bytes llegada, std::size_t i, Rechazo rechazo, Conexion& conexion) {
@@ -175,6 +198,7 @@ void Peticiones::responderExcepcion(Bytes llegada, std::size_t i, Rechazo rechaz
     }
     if (!conexion.enviar(respuesta))
         return;
+    ++contadores_[llegada[i + trama::unidad]].excepciones;
     if (monitores_.verTxRx) {
         trama::conBlancoDetras(empezarLinea(" ( -TX-> RESPUESTA ) "), respuesta);
         terminarLinea(esclavo);

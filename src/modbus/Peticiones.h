@@ -9,9 +9,11 @@
 // says so.
 #pragma once
 
+#include "modbus/Contadores.h"
 #include "modbus/Monitores.h"
 #include "registers/Esclavos.h"
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <span>
@@ -24,6 +26,8 @@ public:
     virtual bool conectada() const = 0;                               // socket state 7
     virtual std::string_view direccionRemota() const = 0;             // dotted text
     virtual bool enviar(std::span<const std::uint8_t> respuesta) = 0; // false: the send failed
+
+    std::uint64_t peticiones = 0; // that came on it; Peticiones counts them
 
 protected:
     ~Conexion() = default;
@@ -46,6 +50,14 @@ public:
     // Handles one arrival of any length, 0 included. Never throws.
     void atender(std::span<const std::uint8_t> llegada, Conexion& conexion) noexcept;
 
+    // The requests to that slave number, from 0 to 255, since the start or the last ponerACero().
+    const Contadores& contadores(int esclavo) const { return contadores_[static_cast<std::size_t>(esclavo)]; }
+    // Those of all slaves and of arrivals too short to name one.
+    Contadores total() const;
+    void ponerACero() { contadores_ = {}; }
+
+    static constexpr int numerosDeEsclavo = 256; // that a frame can name
+
 private:
     using Bytes = std::span<const std::uint8_t>;
 
@@ -56,6 +68,7 @@ private:
     enum class Rechazo { ninguno, funcion, desbordamiento };
 
     void recorrer(Bytes llegada, Conexion& conexion);
+    void contar(Bytes resto, Conexion& conexion);
     Fin atenderTrama(Bytes llegada, std::size_t i, Conexion& conexion);
     static Rechazo examinar(Bytes trama);
     Fin atenderLectura(Bytes peticion, Pagina& pagina, Conexion& conexion);
@@ -69,5 +82,6 @@ private:
     Esclavos& esclavos_;
     Monitores& monitores_;
     Reloj& reloj_;
+    std::array<Contadores, numerosDeEsclavo + 1> contadores_{}; // the last: of arrivals that name no slave
     std::string linea_; // reused, so that a line allocates nothing once it has grown
 };

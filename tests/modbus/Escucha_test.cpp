@@ -114,6 +114,40 @@ TEST_F(EscuchaTest, answersARequest) {
     EXPECT_EQ(respuesta.substr(0, 9), std::string("\0\1\0\0\0\27\1\3\24", 9));
 }
 
+TEST_F(EscuchaTest, tellsOfEachConnectedMaster) {
+    escucha.levantarEscucha();
+    const auto antes = Maestro::Instante::clock::now();
+    const Peer callado(puerto());
+    ASSERT_TRUE(runUntil(reactor, [&] { return escucha.conectados() == 1; }));
+    const auto hablador = conectar();
+    hablador->send(peticion);
+    ASSERT_TRUE(runUntil(reactor, [&] { return escucha.maestros().back().peticiones == 2; }));
+    const std::vector<Maestro> maestros = escucha.maestros();
+    ASSERT_EQ(maestros.size(), 2U);
+    EXPECT_EQ(maestros[0].peticiones, 0U);
+    EXPECT_FALSE(maestros[0].ultima.has_value());
+    EXPECT_EQ(maestros[1].direccion, "127.0.0.1");
+    EXPECT_EQ(maestros[1].puerto, hablador->localPort());
+    EXPECT_NE(maestros[0].puerto, maestros[1].puerto);
+    EXPECT_GE(maestros[1].desde, antes);
+    EXPECT_GT(maestros[1].ultima, maestros[1].desde);
+    escucha.ponerACero();
+    EXPECT_EQ(escucha.maestros()[1].peticiones, 0U);
+}
+
+TEST_F(EscuchaTest, theNextMasterOnASocketBeginsAnew) {
+    escucha.levantarEscucha();
+    auto maestro = conectar();
+    EXPECT_EQ(escucha.maestros().front().peticiones, 1U);
+    desconectar(maestro);
+    EXPECT_EQ(escucha.conectados(), 0U);
+    EXPECT_TRUE(escucha.maestros().empty());
+    const Peer siguiente(puerto());
+    ASSERT_TRUE(runUntil(reactor, [&] { return escucha.conectados() == 1; }));
+    EXPECT_EQ(escucha.maestros().front().peticiones, 0U);
+    EXPECT_FALSE(escucha.maestros().front().ultima.has_value());
+}
+
 TEST_F(EscuchaTest, showsNoRowBeforeTheFirstMaster) {
     escucha.levantarEscucha();
     escucha.refrescarConexiones();

@@ -42,7 +42,8 @@ bool Reactor::turn(std::chrono::microseconds budget) {
     if (const Slot* outer = find(current_))
         outer->handler->onNestedTurn();
     ++depth_;
-    const auto end = Clock::now() + budget;
+    callTime_ = Clock::now();
+    const auto end = callTime_ + budget;
     bool more = true;
     do {
         more = batchNext_ < batchEnd_ || refill();
@@ -50,7 +51,8 @@ bool Reactor::turn(std::chrono::microseconds budget) {
             const epoll_event event = batch_[batchNext_++];
             dispatch(event);
         }
-    } while (more && Clock::now() < end);
+        callTime_ = Clock::now();
+    } while (more && callTime_ < end);
     --depth_;
     return more;
 }

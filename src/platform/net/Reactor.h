@@ -68,6 +68,9 @@ public:
     /// Returns whether more may be ready.
     bool turn(std::chrono::microseconds budget = turnBudget);
 
+    /// About when the handler call under way began. Costs nothing: the turn reads the clock anyway.
+    std::chrono::steady_clock::time_point callTime() const { return callTime_; }
+
     /// Watches a descriptor. The handler is borrowed until remove(). Alive unless the system refuses (errno says why).
     [[nodiscard]] Watch add(int descriptor, Handler& handler, Interest interest);
     /// Costs nothing when the interest is already so. The watch must be alive.
@@ -130,6 +133,7 @@ private:
     std::size_t batchEnd_ = 0;
     Watch current_;
     std::size_t depth_ = 0;
+    std::chrono::steady_clock::time_point callTime_;
     std::array<std::unique_ptr<std::uint8_t[]>, maxNesting> receiveBuffers_;
     std::vector<Watch> waiting_;
     std::vector<Offer> offers_;

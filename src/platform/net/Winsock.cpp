@@ -43,6 +43,11 @@ std::string addressText(const sockaddr_storage& peer) {
     return text.data();
 }
 
+std::uint16_t portOf(const sockaddr_storage& address) {
+    return ntohs(address.ss_family == AF_INET ? reinterpret_cast<const sockaddr_in&>(address).sin_port
+                                              : reinterpret_cast<const sockaddr_in6&>(address).sin6_port);
+}
+
 std::error_code lastError() {
     return {errno, std::system_category()};
 }
@@ -101,8 +106,15 @@ std::uint16_t Winsock::LocalPort() const {
     socklen_t size = sizeof local;
     if (!descriptor_ || getsockname(descriptor_.number(), reinterpret_cast<sockaddr*>(&local), &size) != 0)
         return localPort_;
-    return ntohs(local.ss_family == AF_INET ? reinterpret_cast<const sockaddr_in&>(local).sin_port
-                                            : reinterpret_cast<const sockaddr_in6&>(local).sin6_port);
+    return portOf(local);
+}
+
+std::uint16_t Winsock::RemotePort() const {
+    sockaddr_storage peer{};
+    socklen_t size = sizeof peer;
+    const bool known = state_ == WinsockState::connected &&
+                       getpeername(descriptor_.number(), reinterpret_cast<sockaddr*>(&peer), &size) == 0;
+    return known ? portOf(peer) : std::uint16_t{0};
 }
 
 std::error_code Winsock::Listen() {

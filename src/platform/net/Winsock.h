@@ -88,6 +88,9 @@ public:
     /// requested last.
     const std::string& RemoteHostIP() const { return remoteHostIP_; }
 
+    /// The peer's port while connected, else 0.
+    std::uint16_t RemotePort() const;
+
     /// The arrival that is being reported; empty at any other time and after Close.
     std::span<const std::uint8_t> GetData() const { return arrival_; }
 

@@ -56,6 +56,13 @@ bool Peer::ended() const {
     return count == 0 || (count < 0 && errno != EAGAIN);
 }
 
+std::uint16_t Peer::localPort() const {
+    sockaddr_in own{};
+    socklen_t size = sizeof own;
+    getsockname(descriptor_.number(), reinterpret_cast<sockaddr*>(&own), &size);
+    return ntohs(own.sin_port);
+}
+
 void Peer::halfClose() const {
     shutdown(descriptor_.number(), SHUT_WR);
 }

@@ -24,6 +24,8 @@ public:
     static Peer overIPv6(std::uint16_t port);
 
     bool connected() const { return connected_; }
+    /// Its own port.
+    std::uint16_t localPort() const;
     /// Sends all of it, blocking.
     void send(std::string_view data) const;
     /// Sends what the kernel takes now; returns how much.
