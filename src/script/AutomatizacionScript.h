@@ -68,6 +68,8 @@ public:
     // The editor, made when there is none and not yet shown. It goes away when it is closed.
     FrmEdicionCodigo& editor();
 
+    const Pasadas& pasadas() const { return ejecutor_.pasadas(); }
+
     vbs::ScriptControl& ScriptControl1() { return ScriptControl1_; }
 
 protected:

@@ -74,6 +74,10 @@ void EjecutorScript::ejecutar(const std::string& texto) {
     pasadas_.ultima = std::chrono::steady_clock::now() - comienzo;
     pasadas_.maxima = std::max(pasadas_.maxima, pasadas_.ultima);
     ++pasadas_.cuantas;
+    if (motor_.error().number == 0)
+        return;
+    pasadas_.error = motor_.error();
+    pasadas_.pasadaConError = pasadas_.cuantas;
 }
 
 // A script may use the name WScript for what it likes; only one that does not gets the console under it.

@@ -16,11 +16,15 @@
 #include <string>
 #include <string_view>
 
-// How often and how long the script has run.
+// How often and how long the script has run, and how it failed last.
 struct Pasadas {
     std::uint64_t cuantas = 0;
     std::chrono::nanoseconds ultima{0};
     std::chrono::nanoseconds maxima{0};
+    vbs::ScriptFailure error;         // the last one, good passes since then or not; number 0: none yet
+    std::uint64_t pasadaConError = 0; // which pass that was, from 1
+
+    bool fallaAhora() const { return cuantas > 0 && pasadaConError == cuantas; } // the last pass failed
 };
 
 class EntornoScript {

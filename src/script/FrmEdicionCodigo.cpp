@@ -251,6 +251,12 @@ void FrmEdicionCodigo::irAlError() {
     txtCodigo_->setFocus();
 }
 
+void FrmEdicionCodigo::irAlFallo(const vbs::ScriptFailure& fallo) {
+    const int linea = fallo == fallo_ ? lineaParaDecir() : static_cast<int>(fallo.line) + lineasVaciasAlPrincipio();
+    txtCodigo_->irA(linea, static_cast<int>(fallo.column));
+    txtCodigo_->setFocus();
+}
+
 // ---------------------------------------------------------------------------------------------------------------
 // around the text
 

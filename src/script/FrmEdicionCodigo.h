@@ -40,6 +40,9 @@ public:
     // Tells the outcome of a pass of the script; number 0: good. Cheap when nothing has changed.
     void mostrarFallo(const vbs::ScriptFailure& fallo);
 
+    // Puts the text cursor where that failure of a pass was, and the focus there.
+    void irAlFallo(const vbs::ScriptFailure& fallo);
+
     // True when the period is one that is admitted. Else says why, puts the fallback there and takes the focus back;
     // the window may be gone when the message is closed.
     bool comprobarPeriodo();

@@ -257,3 +257,16 @@ TEST_F(Runner, echoFromAnInstanceThatEndsWithTheEngineIsHarmless) {
     script("Class C : Sub Class_Terminate : WScript.Echo \"fin\" : End Sub : End Class : Set c1 = New C");
     EXPECT_EQ(pass(), "+eee");
 }
+
+TEST_F(Runner, theLastErrorStaysWhenLaterPassesAreGood) {
+    EXPECT_FALSE(runner_.pasadas().fallaAhora());
+    script("x = 1\r\ny = x / 0");
+    pass();
+    EXPECT_TRUE(runner_.pasadas().fallaAhora());
+    script("x = 1");
+    pass();
+    EXPECT_FALSE(runner_.pasadas().fallaAhora());
+    EXPECT_EQ(runner_.pasadas().error.number, 11);
+    EXPECT_EQ(runner_.pasadas().error.line, 2U);
+    EXPECT_EQ(runner_.pasadas().pasadaConError, 1U);
+}
