@@ -35,6 +35,11 @@ void Estacion::comprobarPuerto() {
     decir(avisoConfig_, config.fallo());
 }
 
+void Estacion::ponerPeticionesACero() {
+    peticiones_.ponerACero();
+    escucha_.ponerACero();
+}
+
 double Estacion::leerPuerto() {
     return config.leerNumero("PUERTO_VALOR", "502").value_or(0);
 }

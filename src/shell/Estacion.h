@@ -67,9 +67,13 @@ public:
     void comprobarPuerto();
 
     const Escucha& escucha() const { return escucha_; }
+    const Peticiones& peticiones() const { return peticiones_; }
+    // Begins to count the requests anew, of every slave and every connection.
+    void ponerPeticionesACero();
     AutomatizacionScript& script() { return *script_; }  // while a window is open
     EnlaceSerie& enlaceSerie() { return *enlaceSerie_; } // while a window is open
 
+    const std::chrono::steady_clock::time_point inicio = std::chrono::steady_clock::now();
     const Arranque arranque;
     const Modulo_Config config;
     Esclavos esclavos;

@@ -9,8 +9,10 @@
 #include "script/FrmEdicionCodigo.h"
 #include "serial/frmRS232.h"
 #include "shell/AyudaContextual.h"
+#include "shell/BarraEstado.h"
 #include "shell/ControlesPrincipal.h"
 #include "shell/FrmAbout.h"
+#include "shell/FrmEstadisticas.h"
 #include "shell/FrmTxRx.h"
 #include "shell/SeRepiteProgramaEnRunTime.h"
 
@@ -18,6 +20,8 @@
 #include <QCheckBox>
 #include <QCloseEvent>
 #include <QLabel>
+#include <QLayout>
+#include <QMenuBar>
 #include <QPushButton>
 #include <QShortcut>
 #include <QStackedWidget>
@@ -64,6 +68,8 @@ FrmPrincipal::FrmPrincipal(Estacion& estacion)
     timerAux_.setInterval(periodoAux);
     conectarControles();
     conectarTeclado();
+    crearMenus();
+    crearBarraEstado();
     estacion_.esclavos.observar(this);
     estacion_.abrirVentana(
         *this, {*this, *controles_->chScript, *controles_->lblBaseDeTiempo, estacion_.arranque.sinPantalla});
@@ -96,6 +102,21 @@ void FrmPrincipal::conectarTeclado() {
     const auto anterior = new QShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Tab), this);
     connect(siguiente, &QShortcut::activated, this, [this] { cambiarEsclavo(1); });
     connect(anterior, &QShortcut::activated, this, [this] { cambiarEsclavo(-1); });
+}
+
+void FrmPrincipal::crearMenus() {
+    auto* barra = new QMenuBar(this);
+    barra->setObjectName(QStringLiteral("menuPrincipal"));
+    QMenu* const ver = barra->addMenu(QStringLiteral("&Ver"));
+    ver->addAction(QStringLiteral("&Estadísticas"), Qt::CTRL | Qt::Key_I, this, &FrmPrincipal::mostrarEstadisticas);
+    layout()->setMenuBar(barra);
+}
+
+void FrmPrincipal::crearBarraEstado() {
+    auto* barra = new BarraEstado(estacion_, this);
+    connect(barra, &BarraEstado::errorPulsado, this, &FrmPrincipal::verErrorDelScript);
+    layout()->addWidget(barra);
+    setTabOrder(controles_->BtnCerrar, &barra->botonError());
 }
 
 bool FrmPrincipal::cargar() {
@@ -155,6 +176,17 @@ void FrmPrincipal::editarCodigo() {
     FrmEdicionCodigo& editor = estacion_.script().editor();
     ponerAyudaContextual(editor);
     mostrarDelante(editor);
+}
+
+void FrmPrincipal::verErrorDelScript() {
+    editarCodigo();
+    estacion_.script().editor().irAlFallo(estacion_.script().pasadas().error);
+}
+
+void FrmPrincipal::mostrarEstadisticas() {
+    if (!frmEstadisticas_)
+        frmEstadisticas_ = new FrmEstadisticas(estacion_, *this);
+    mostrarDelante(*frmEstadisticas_);
 }
 
 void FrmPrincipal::cargarPuentes() {

@@ -15,8 +15,10 @@
 #include <memory>
 #include <string>
 
+class BarraEstado;
 class FrmAbout;
 class FrmConexionesPuentes;
+class FrmEstadisticas;
 class FrmMW;
 class FrmTxRx;
 class VistaPagina;
@@ -61,6 +63,8 @@ private:
 
     void conectarControles();
     void conectarTeclado();
+    void crearMenus();
+    void crearBarraEstado();
     void rechazarSegundaInstancia();
     void crearTablasIniciales();
     void comprobarPuertoYVisibilidad();
@@ -68,6 +72,8 @@ private:
     void atenderLineaDeComandos();
     void cargarPuentes();
     void editarCodigo();
+    void verErrorDelScript();
+    void mostrarEstadisticas();
     void mostrarPuentes();
     void mostrarAbout();
     void mostrarSerie();
@@ -81,6 +87,7 @@ private:
     std::unique_ptr<ControlesPrincipal> controles_;
     std::map<int, VistaPagina*> vistas_; // by slave number; owned by their parent
     QPointer<FrmAbout> frmAbout_;
+    QPointer<FrmEstadisticas> frmEstadisticas_;
     QPointer<FrmTxRx> frmTxRx_;
     QPointer<FrmMW> frmMW_;
     QPointer<FrmConexionesPuentes> frmPuentes_;

@@ -1,0 +1,218 @@
+// The status bar: what it shows of real masters and scripts, where it fits, and that it rests while hidden.
+
+#include "shell/BarraEstado.h"
+
+#include "PrincipalDePrueba.h"
+
+#include <QAccessible>
+#include <QCheckBox>
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QTextBlock>
+#include <QToolTip>
+
+namespace {
+
+// A request for a function that is not served (answer: 9 bytes).
+QByteArray funcionDesconocida() {
+    return {"\0\1\0\0\0\6\1\20\0\0\0\1", 12};
+}
+
+class EstacionVisible : public PrincipalDePrueba {
+public:
+    explicit EstacionVisible(const QSize& medida = {1600, 800}) {
+        if (!cargar())
+            qFatal("no start");
+        ventana->resize(medida);
+    }
+
+    QLabel& campo(const char* nombre) const { return control<QLabel>(nombre); }
+    bool muestra(const char* nombre, const QString& texto) const {
+        return QTest::qWaitFor([&] { return campo(nombre).text() == texto; });
+    }
+    QPushButton& error() const { return control<QPushButton>("BtnErrorScript"); }
+    QTimer& reloj() const { return control<QTimer>("relojEstado"); }
+
+    void script(const std::string& texto) const { escribirArchivo(carpeta / "codigoTrelvano.txt", texto); }
+    void pasada() const { ventana->ejecucion_timers(1); }
+    // Ticked, but only the test's own passes run.
+    void ejecutarAMano() const {
+        control<QCheckBox>("chScript").setChecked(true);
+        control<QTimer>("timerScript").stop();
+    }
+};
+
+} // namespace
+
+class TestBarraEstado : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void countsMastersAndHowRequestsEnded() {
+        const EstacionVisible e;
+        QVERIFY(e.muestra("lblMaestros", QStringLiteral("Maestros: 0")));
+        const auto uno = e.conectarMaestro();
+        const auto otro = e.conectarMaestro();
+        QCOMPARE(EstacionVisible::pedir(*uno, EstacionVisible::lectura(1), 13).size(), 13);
+        QCOMPARE(EstacionVisible::pedir(*uno, EstacionVisible::lectura(2), 13).size(), 13);
+        QCOMPARE(EstacionVisible::pedir(*otro, EstacionVisible::escritura(1, 3, 7), 12).size(), 12);
+        QCOMPARE(EstacionVisible::pedir(*otro, funcionDesconocida(), 9).size(), 9);
+        e.control<QCheckBox>("ChRecibir(1)").setChecked(false);
+        otro->send(EstacionVisible::lectura(1).toStdString());
+        QVERIFY(e.muestra("lblMaestros", QStringLiteral("Maestros: 2")));
+        QVERIFY(e.muestra("lblLecturas", QStringLiteral("Lecturas: 2")));
+        QVERIFY(e.muestra("lblEscrituras", QStringLiteral("Escrituras: 1")));
+        QVERIFY(e.muestra("lblExcepciones", QStringLiteral("Excepciones: 1")));
+        QVERIFY(e.muestra("lblSinRespuesta", QStringLiteral("Sin respuesta: 1")));
+        uno->close();
+        QVERIFY(e.muestra("lblMaestros", QStringLiteral("Maestros: 1")));
+    }
+
+    void tellsRequestsASecondWhileTheyComeAndZeroAfterwards() {
+        const EstacionVisible e;
+        const auto maestro = e.conectarMaestro();
+        const auto ritmo = [&] { return e.campo("lblRitmo").text().split(u' ').first().toInt(); };
+        QVERIFY(e.campo("lblRitmo").text().endsWith(QStringLiteral(" peticiones/s")));
+        QVERIFY(QTest::qWaitFor([&] {
+            EstacionVisible::pedir(*maestro, EstacionVisible::lectura(1), 13);
+            return ritmo() > 0;
+        }));
+        QVERIFY(QTest::qWaitFor([&] { return ritmo() == 0; }));
+    }
+
+    void rateIsTheRequestsOfTheTimeSinceTheLastLook() {
+        const EstacionVisible e;
+        const auto maestro = e.conectarMaestro();
+        e.reloj().stop();
+        e.control<QWidget>("BarraEstado").hide();
+        e.control<QWidget>("BarraEstado").show(); // looks now; what came before does not count
+        e.reloj().stop();
+        QElapsedTimer pasado;
+        pasado.start();
+        for (int i = 0; i < 20; ++i)
+            EstacionVisible::pedir(*maestro, EstacionVisible::lectura(1), 13);
+        QVERIFY(QTest::qWaitFor([&] { return pasado.elapsed() >= 100; }));
+        Q_EMIT e.reloj().timeout({});
+        const int ritmo = e.campo("lblRitmo").text().split(u' ').first().toInt();
+        QVERIFY2(ritmo > 0 && ritmo <= 200, qPrintable(e.campo("lblRitmo").text()));
+    }
+
+    void tellsPassesAndTheirTimes() {
+        const EstacionVisible e;
+        QVERIFY(e.muestra("lblPasadas", QStringLiteral("Pasadas: 0")));
+        e.ejecutarAMano();
+        e.script("x = 1");
+        e.pasada();
+        e.pasada();
+        QVERIFY(QTest::qWaitFor([&] {
+            return QRegularExpression(
+                       QStringLiteral("^Pasadas: 2 \\(\\d+([.,]\\d+)? [mµ]?s; máx\\. \\d+([.,]\\d+)? [mµ]?s\\)$"))
+                .match(e.campo("lblPasadas").text())
+                .hasMatch();
+        }));
+        QVERIFY(!e.error().isVisible());
+    }
+
+    void clickOnTheErrorOpensTheEditorAtItsLine() {
+        const EstacionVisible e;
+        e.ejecutarAMano();
+        e.script("x = 1\r\ny = 2\r\nz = x / 0\r\n");
+        e.pasada();
+        QVERIFY(QTest::qWaitFor([&] { return e.error().isVisible(); }));
+        QVERIFY2(e.error().text().startsWith(QStringLiteral("Error, línea 3, columna ")), qPrintable(e.error().text()));
+        QVERIFY(e.error().toolTip().contains(QStringLiteral("falló")));
+        QTest::mouseClick(&e.error(), Qt::LeftButton);
+        auto* editor = e.ventana->findChild<QPlainTextEdit*>(QStringLiteral("txtCodigo"));
+        QVERIFY(editor != nullptr && editor->isVisible());
+        QCOMPARE(editor->textCursor().block().text(), QStringLiteral("z = x / 0"));
+        QVERIFY(editor->hasFocus() || editor->window()->focusWidget() == editor);
+    }
+
+    void anErrorThatIsPastIsStillThereAndSaysSo() {
+        const EstacionVisible e;
+        e.ejecutarAMano();
+        e.script("y = 1\r\nz = y / 0\r\n");
+        e.pasada();
+        e.script("y = 1\r\nz = y / 2\r\n");
+        e.pasada();
+        QVERIFY(QTest::qWaitFor([&] { return e.error().text().startsWith(QStringLiteral("Último error, línea 2")); }));
+        QTest::keyClick(&e.error(), Qt::Key_Space);
+        auto* editor = e.ventana->findChild<QPlainTextEdit*>(QStringLiteral("txtCodigo"));
+        QVERIFY(editor != nullptr);
+        QCOMPARE(editor->textCursor().block().text(), QStringLiteral("z = y / 2"));
+    }
+
+    void uptimeGoesOn() {
+        const EstacionVisible e;
+        const QString antes = e.campo("lblEnMarcha").text();
+        QVERIFY2(QRegularExpression(QStringLiteral("^En marcha: \\d\\d:\\d\\d:\\d\\d$")).match(antes).hasMatch(),
+                 qPrintable(antes));
+        QVERIFY(QTest::qWaitFor([&] { return e.campo("lblEnMarcha").text() != antes; }));
+    }
+
+    void noTimerRunsWhileTheWindowIsHidden() {
+        const EstacionVisible e;
+        QVERIFY(e.reloj().isActive());
+        QCOMPARE(e.reloj().interval(), 500);
+        QTest::mouseClick(&e.control<QPushButton>("BtnOcultar"), Qt::LeftButton);
+        QVERIFY(!e.reloj().isActive());
+        e.ventana->show();
+        QVERIFY(e.reloj().isActive());
+    }
+
+    void fitsSmallScreensAndLeavesOutTheFieldsOfLeastWeight_data() {
+        QTest::addColumn<QSize>("medida");
+        QTest::newRow("1024x700") << QSize(1024, 700);
+        QTest::newRow("960x540") << QSize(960, 540);
+    }
+    void fitsSmallScreensAndLeavesOutTheFieldsOfLeastWeight() {
+        QFETCH(const QSize, medida);
+        const EstacionVisible e(medida);
+        QVERIFY2(e.ventana->minimumSizeHint().width() <= medida.width() &&
+                     e.ventana->minimumSizeHint().height() <= medida.height(),
+                 qPrintable(QStringLiteral("needs %1 rows").arg(e.ventana->minimumSizeHint().height())));
+        e.ejecutarAMano();
+        e.script("Err.Raise 1001, \"prueba\", \"Un texto de error que es mucho más largo de lo que cabe en la barra, "
+                 "& con un signo que no es de teclado\"\r\n");
+        e.pasada();
+        QVERIFY(QTest::qWaitFor([&] { return e.error().isVisible(); }));
+        const auto& barra = e.control<QWidget>("BarraEstado");
+        QVERIFY(e.campo("lblMaestros").isVisible() && e.campo("lblRitmo").isVisible());
+        bool visible = true;
+        int derecha = 0;
+        for (const char* nombre : {"lblMaestros", "lblRitmo", "lblLecturas", "lblEscrituras", "lblExcepciones",
+                                   "lblSinRespuesta", "lblPasadas", "lblEnMarcha"}) {
+            const QLabel& campo = e.campo(nombre);
+            QVERIFY2(visible || !campo.isVisible(), nombre); // none behind one that was left out
+            visible = campo.isVisible();
+            if (!visible)
+                continue;
+            QVERIFY2(campo.x() >= derecha && campo.width() >= campo.sizeHint().width(), nombre);
+            derecha = campo.geometry().right();
+        }
+        QVERIFY(!visible); // at least one has made room for the error
+        QVERIFY(e.error().x() > derecha);
+        QVERIFY(e.error().geometry().right() <= barra.rect().right());
+        QVERIFY(e.error().text().endsWith(u'…'));
+        QVERIFY(e.error().accessibleName().contains(QStringLiteral("signo que no es de teclado")));
+    }
+
+    void wideWindowShowsAll() {
+        const EstacionVisible e({1600, 800});
+        QVERIFY(e.campo("lblEnMarcha").isVisible());
+    }
+
+    void everyFieldHasATooltipAndAnAccessibleName() {
+        const EstacionVisible e;
+        const auto campos = e.control<QWidget>("BarraEstado").findChildren<QLabel*>();
+        QCOMPARE(campos.size(), 8);
+        for (QLabel* campo : campos) {
+            QVERIFY2(!campo->toolTip().isEmpty() && !campo->objectName().isEmpty(), qPrintable(campo->text()));
+            QCOMPARE(QAccessible::queryAccessibleInterface(campo)->text(QAccessible::Name), campo->text());
+        }
+    }
+};
+
+QTEST_MAIN(TestBarraEstado)
+#include "BarraEstadoTest.moc"
