@@ -55,6 +55,16 @@ void Esclavos::darValorEsclavoLogico(double esclavo, double direccion, double va
         destino.pagina->mostrarEnOtraCelda(static_cast<int>(i), anterior, celda, valor);
 }
 
+bool Esclavos::escribirSiExiste(std::int64_t esclavo, std::int64_t direccion, double valor) noexcept {
+    const double* const actual = valorSiExiste(esclavo, direccion);
+    if (actual == nullptr || !(valor >= 0 && valor <= 65535))
+        return false;
+    EsclavoMW& destino = registros_[static_cast<std::size_t>(esclavo)];
+    destino.Valores[static_cast<std::size_t>(direccion)] = valor;
+    destino.pagina->mostrarEnSuCelda(static_cast<int>(direccion));
+    return true;
+}
+
 void Esclavos::escribir_C2(double sclavo, double direccion, double valor) {
     darValorEsclavoLogico(sclavo, direccion, SINGLEINT(valor));
 }

@@ -42,8 +42,8 @@ ObjetoMW::ObjetoMW(Esclavos& esclavos, std::function<void(double)> ejecucionTime
 std::span<const ObjetoMW::Member> ObjetoMW::members() {
     static constexpr Member tabla[] = {
         {u"", nullptr, vbs::readOnly}, // no default member
-        {u"leer", &ObjetoMW::leer, vbs::readOnly, 2, 3},
-        {u"escribir", &ObjetoMW::escribir, vbs::readOnly, 3, 3},
+        {u"leer", &ObjetoMW::leer, vbs::readOnly, 2, 3, &ObjetoMW::leerPronto},
+        {u"escribir", &ObjetoMW::escribir, vbs::readOnly, 3, 3, &ObjetoMW::escribirPronto},
         {u"escribir_C2", &ObjetoMW::escribir_C2, vbs::readOnly, 3, 3},
         {u"escribir_bit", &ObjetoMW::escribir_bit, vbs::readOnly, 4, 4},
         {u"darValorEsclavoLogico", &ObjetoMW::escribir, vbs::readOnly, 3, 3},
@@ -55,15 +55,25 @@ std::span<const ObjetoMW::Member> ObjetoMW::members() {
     return tabla;
 }
 
-Value ObjetoMW::leer(Context& context, Access, Arguments a) {
-    // The usual call: whole slave and address, a register that exists.
-    if (a.size() == 2 && a[0].isWhole() && a[1].isWhole())
-        if (const double* valor = esclavos_.valorSiExiste(a[0].n, a[1].n))
-            return Value::ofDouble(*valor);
-    return leerEnGeneral(context, a);
+// The usual calls: whole slave and address, a register that exists, a plain number to write.
+bool ObjetoMW::leerPronto(vbs::Object& mw, Value& resultado, std::span<const Value> a) noexcept {
+    if (a.size() != 2 || !a[0].isWhole() || !a[1].isWhole())
+        return false;
+    const double* valor = static_cast<ObjetoMW&>(mw).esclavos_.valorSiExiste(a[0].n, a[1].n);
+    if (valor == nullptr)
+        return false;
+    resultado = Value::ofDouble(*valor);
+    return true;
 }
 
-Value ObjetoMW::leerEnGeneral(Context& context, Arguments a) {
+bool ObjetoMW::escribirPronto(vbs::Object& mw, Value& /*resultado*/, std::span<const Value> a) noexcept {
+    if (a.size() != 3 || !a[0].isWhole() || !a[1].isWhole() || !(a[2].isWhole() || a[2].type == vbs::Type::Double))
+        return false;
+    const double valor = a[2].isWhole() ? static_cast<double>(a[2].n) : a[2].d;
+    return static_cast<ObjetoMW&>(mw).esclavos_.escribirSiExiste(a[0].n, a[1].n, valor);
+}
+
+Value ObjetoMW::leer(Context& context, Access, Arguments a) {
     const double sclavo = numero(context, a[0]);
     const double direccion = numero(context, a[1]);
     const double numBit = a.size() > 2 && !a[2].isMissing() ? numero(context, a[2]) : -1;

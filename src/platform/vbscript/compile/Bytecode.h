@@ -90,6 +90,8 @@ enum class Store : std::uint8_t { Raw = 0, Let = 1, Set = 2, Discard = 3 };
     OP(UnlessGreaterEqual)                                                                                             \
     OP(UnlessIs)                                                                                                       \
     OP(UnlessBoth)                                                                                                     \
+    OP(JumpNothing) /* A Is B, which is the constant Nothing: J */                                                     \
+    OP(UnlessNothing)                                                                                                  \
     OP(Back)           /* J, at the end of a loop: polls */                                                            \
     OP(ForPrepare)     /* A variable, B limit, B+1 step, B+2 start; J past the loop if it does not run */              \
     OP(ForLoop)        /* A variable, B limit, B+1 step; J to the body while it runs */                                \
@@ -154,8 +156,9 @@ enum class Store : std::uint8_t { Raw = 0, Let = 1, Set = 2, Discard = 3 };
     OP(LessEqual)                                                                                                      \
     OP(GreaterEqual)                                                                                                   \
     OP(Index)                                                                                                          \
-    OP(Index2) OP(SetIndex) OP(SetIndex2) OP(JumpIf) OP(JumpUnless) OP(JumpBoth) OP(UnlessBoth) OP(ForLoop)            \
-        OP(ForNext) VBS_JUMPS_ON(OP)
+    OP(Index2)                                                                                                         \
+    OP(SetIndex) OP(SetIndex2) OP(JumpIf) OP(JumpUnless) OP(JumpBoth) OP(UnlessBoth) OP(ForLoop) OP(ForNext)           \
+        OP(GetMember) OP(SetMember) VBS_JUMPS_ON(OP)
 #define VBS_SMALL_FORMS(OP) OP(Add) OP(Subtract) OP(Multiply) OP(IntegerDivide) OP(Modulo) OP(And) VBS_JUMPS_ON(OP)
 #define VBS_SELF_FORMS(OP) OP(Add) OP(Subtract)
 #define VBS_JUMPS_ON(OP)                                                                                               \

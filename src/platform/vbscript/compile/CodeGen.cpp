@@ -37,6 +37,7 @@ void CodeGen::generate() {
     specialize(m_procedure.code, m_procedure.constants);
     m_procedure.firstTemporary = static_cast<std::uint16_t>(m_hiddenEnd);
     m_procedure.registers = static_cast<std::uint16_t>(m_highest);
+    m_procedure.plainParameters = m_procedure.anyByValue ? UINT16_MAX : m_procedure.parameters;
     if (m_decl.dynamicScope) {
         for (const Symbol symbol : m_localOrder) {
             m_procedure.locals.emplace_back(symbol, static_cast<std::uint16_t>(indexOf(m_locals.at(symbol).operand)));

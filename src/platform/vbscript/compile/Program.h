@@ -4,7 +4,7 @@
 #include "platform/vbscript/compile/Bytecode.h"
 #include "platform/vbscript/compile/Globals.h"
 #include "platform/vbscript/syntax/Ast.h"
-#include "platform/vbscript/value/Value.h"
+#include "platform/vbscript/value/Object.h"
 
 #include <memory>
 #include <string>
@@ -37,6 +37,8 @@ struct MemberSite {
     int member = 0;                            // its number there
     int field = -1;                            // of instances of script classes: the index of a public field, or -1
     const struct ClassMember* entry = nullptr; // of script classes
+    const struct Procedure* reader = nullptr;  // of script classes: what a call of it runs, if it is no variable
+    ShortRoad shortRoad = nullptr;             // of host objects
 };
 
 struct Procedure : Callable {
@@ -56,8 +58,7 @@ struct Procedure : Callable {
     std::vector<bool> byValue;                     // a parameter each
     bool anyByValue = false;
     std::uint16_t parameters = 0;
-    std::uint16_t plainParameters = 0; // the same; noPlain if a call must look at its arguments
-    static constexpr std::uint16_t noPlain = 0xffff;
+    std::uint16_t plainParameters = 0; // the same, or out of reach if a call must look at its arguments (anyByValue)
     std::uint16_t firstTemporary = 0;
     std::uint16_t registers = 0;
     int resultSlot = -1;

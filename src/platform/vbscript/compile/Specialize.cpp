@@ -57,6 +57,8 @@ constexpr int operandsOf(Opcode op) noexcept {
         return 1;
     case Opcode::Move:
     case Opcode::Let:
+    case Opcode::GetMember:
+    case Opcode::SetMember:
         return 2;
     default:
         return jumps(op) ? 2 : 3;
@@ -91,6 +93,10 @@ std::optional<std::uint8_t> smallNumber(Operand o, std::span<const Value> consta
     return static_cast<std::uint8_t>(v.n);
 }
 
+bool isNothing(Operand o, std::span<const Value> constants) noexcept {
+    return placeOf(o) == Place::Constant && constants[indexOf(o)].isObject();
+}
+
 Instruction smallForm(Instruction i, Opcode general, Opcode form, std::uint8_t number) noexcept {
     if (!jumps(general)) {
         return (withOpcode(i, form) & ~(Instruction{0xff} << 56)) | (Instruction{number} << 56);
@@ -111,6 +117,9 @@ void specialize(std::span<Instruction> code, std::span<const Value> constants) n
         const auto op = static_cast<Opcode>(i & 0xff);
         const Forms& form = forms[static_cast<std::size_t>(op)];
         const bool twoWords = hasSecondWord(op);
+        if ((op == Opcode::JumpIs || op == Opcode::UnlessIs) && isNothing(operandAt(i, 1), constants)) {
+            i = withOpcode(i, op == Opcode::JumpIs ? Opcode::JumpNothing : Opcode::UnlessNothing);
+        }
         const int count = operandsOf(op);
         if (form.local != op && inFrame(i, count)) {
             const bool all = !twoWords || placeOf(static_cast<Operand>(code[at + 1])) == Place::Frame;

@@ -31,7 +31,8 @@ Value* mapStack(std::size_t registers) {
 
 Vm::Vm(Host& theHost, const Library& library)
     : Context(theHost), m_library(library), m_compiler(m_symbols, m_globals, library),
-      m_stack(mapStack(stackSize + stackSlack)), m_frames(std::make_unique<Frame[]>(maxFrames)) {
+      m_stack(mapStack(stackSize + stackSlack)), m_stackEnd(m_stack + stackSize),
+      m_frames(std::make_unique<Frame[]>(maxFrames)) {
     defineBuiltins();
 }
 
@@ -113,7 +114,7 @@ Value Vm::callProcedure(const Procedure& procedure, Instance* me, Arguments argu
     poll(); // objects that make others as they go would never come to an end
     const Reentry reentry(m_reentries, maxReentries);
     Value* base = freeRegisters();
-    if (base + arguments.size() + procedure.registers > m_stack + stackSize) {
+    if (base + arguments.size() + procedure.registers > m_stackEnd) {
         raise(ErrorNumber::OutOfStack);
     }
     for (std::size_t i = 0; i < arguments.size(); ++i) {

@@ -214,6 +214,7 @@ private:
     Compiler m_compiler;
     Value m_globalScope; // what Me is outside classes, once it was asked for
     Value* m_stack;
+    Value* m_stackEnd; // no frame may reach beyond
     std::unique_ptr<Frame[]> m_frames;
     std::size_t m_depth = 0;
     int m_reentries = 0;

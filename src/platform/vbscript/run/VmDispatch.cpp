@@ -121,8 +121,13 @@ void Vm::dispatch(std::size_t floor) {
             put(a, from.type, from.n);                                                                                 \
             NEXT;                                                                                                      \
         }                                                                                                              \
-        if ((mayCarry) && dropsQuietly(a)) [[likely]] {                                                                \
+        if (mayCarry) [[likely]] {                                                                                     \
             carry(a, from, TEMPORARY(B));                                                                              \
+            BURY;                                                                                                      \
+            NEXT;                                                                                                      \
+        }                                                                                                              \
+        if (isReference(from) && isPlain(*from.target)) {                                                              \
+            put(a, from.target->type, from.target->n);                                                                 \
             NEXT;                                                                                                      \
         }                                                                                                              \
         SLOW(slow);                                                                                                    \
@@ -136,8 +141,9 @@ labelCopy:
     SLOW(R(A) = Value(R(B).deref()));
 
 labelSetObject:
-    if (R(B).type == Type::Object && dropsQuietly(R(A))) [[likely]] {
+    if (R(B).type == Type::Object) [[likely]] {
         carry(R(A), R(B), TEMPORARY(B));
+        BURY;
         NEXT;
     }
     SLOW(setInto(R(A), B));
@@ -236,7 +242,7 @@ labelImp:
 labelIs : {
     const Value& b = R(B).deref();
     const Value& c = R(C).deref();
-    if (b.type == Type::Object && c.type == Type::Object && dropsQuietly(b) && dropsQuietly(c)) [[likely]] {
+    if (b.type == Type::Object && c.type == Type::Object) [[likely]] {
         const bool same = b.counted == c.counted;
         USED_UP(B)
         USED_UP(C)
@@ -405,6 +411,31 @@ labelBack:
     }
     JUMP_ON_IS(labelJumpIs, true)
     JUMP_ON_IS(labelUnlessIs, false)
+
+#define JUMP_ON_NOTHING(label, wanted)                                                                                 \
+    label : {                                                                                                          \
+        Value& x = R(A);                                                                                               \
+        bool holds = true;                                                                                             \
+        if (x.type == Type::Object) [[likely]] {                                                                       \
+            if (x.counted != nullptr) {                                                                                \
+                holds = false;                                                                                         \
+                if (TEMPORARY(A)) {                                                                                    \
+                    x.clear();                                                                                         \
+                    BURY;                                                                                              \
+                }                                                                                                      \
+            }                                                                                                          \
+        } else {                                                                                                       \
+            SAVE;                                                                                                      \
+            holds = conditionOf(Opcode::Is, A, B);                                                                     \
+            BURY;                                                                                                      \
+        }                                                                                                              \
+        if (holds == (wanted)) {                                                                                       \
+            TAKE_JUMP                                                                                                  \
+        }                                                                                                              \
+        NEXT;                                                                                                          \
+    }
+    JUMP_ON_NOTHING(labelJumpNothing, true)
+    JUMP_ON_NOTHING(labelUnlessNothing, false)
 
 #define JUMP_ON_BOTH(label, a, b, wanted)                                                                              \
     label : {                                                                                                          \
@@ -589,35 +620,36 @@ labelCallIntrinsic1 : {
 labelCallIntrinsic:
     SLOW(runIntrinsicRow(intrinsics[C], &R(B), X & 63, R(A), static_cast<Store>(X >> 6)));
 
-labelGetMember : {
-    const Value& object = R(B).deref();
-    const bool temporary = (X & 1) != 0;
-    if (object.type == Type::Object && object.counted != nullptr && (!temporary || object.counted->references > 1))
-        [[likely]] {
-        const MemberSite& site = frame->procedure->sites[C];
-        Object* target = object.object();
-        if (target->shape == site.shape && site.field >= 0) [[likely]] {
-            const Value& field = static_cast<Instance*>(target)->fields()[site.field];
-            const bool counted = field.isCounted();
-            if (!counted || (goesAsItIs(field.type, static_cast<Store>(X >> 6)) && dropsQuietly(R(A)))) [[likely]] {
-                if (counted) {
-                    R(A) = Value(field);
-                } else {
-                    put(R(A), field.type, field.n);
-                }
-                if (temporary && A != B) {
-                    R(B).clear();
-                    BURY;
-                }
-                NEXT;
-            }
-        }
+// A public variable of an object that lies in a register or has other owners.
+#define GET_MEMBER(label, a, b)                                                                                        \
+    label : {                                                                                                          \
+        const Value& object = (b).deref();                                                                             \
+        const MemberSite& site = frame->procedure->sites[C];                                                           \
+        if (object.type == Type::Object && object.counted != nullptr && object.object()->shape == site.shape &&        \
+            site.field >= 0 && ((X & 1) == 0 || object.counted->references > 1)) [[likely]] {                          \
+            const Value& field = static_cast<Instance*>(object.object())->fields()[site.field];                        \
+            const bool counted = field.isCounted();                                                                    \
+            if (!counted || goesAsItIs(field.type, static_cast<Store>(X >> 6))) [[likely]] {                           \
+                if (counted) {                                                                                         \
+                    a = field;                                                                                         \
+                    BURY;                                                                                              \
+                } else {                                                                                               \
+                    put(a, field.type, field.n);                                                                       \
+                }                                                                                                      \
+                if ((X & 1) != 0 && A != B) {                                                                          \
+                    R(B).clear();                                                                                      \
+                    BURY;                                                                                              \
+                }                                                                                                      \
+                NEXT;                                                                                                  \
+            }                                                                                                          \
+        }                                                                                                              \
+        SAVE;                                                                                                          \
+        getMember(i);                                                                                                  \
+        LOAD;                                                                                                          \
+        NEXT;                                                                                                          \
     }
-    SAVE;
-    getMember(i);
-    LOAD;
-    NEXT;
-}
+    GET_MEMBER(labelGetMember, R(A), R(B))
+    GET_MEMBER(labelGetMemberLocal, L(A), L(B))
 
 labelCallMember : {
     const auto first = static_cast<Operand>(*pc++);
@@ -626,15 +658,25 @@ labelCallMember : {
         pollSlow();
     }
     const Value& object = R(B).deref();
-    if (object.type == Type::Object && object.counted != nullptr && (B & 3) != static_cast<unsigned>(Place::Frame)) {
-        const MemberSite& site = frame->procedure->sites[C];
+    const MemberSite& site = frame->procedure->sites[C];
+    if (object.type == Type::Object && object.counted != nullptr && site.shape != nullptr &&
+        object.object()->shape == site.shape && !TEMPORARY(B)) [[likely]] {
         Object* target = object.object();
         const auto store = static_cast<Store>(X >> 6);
-        if (target->shape == site.shape && target->role == Object::Role::Native && !target->takesReferences &&
-            store != Store::Set) {
-            runNative(*target, site.member, {&R(first), X & 63}, R(A), store);
-            BURY;
+        if (site.reader != nullptr) {
+            frame = pushFrame(site.reader, &R(first), X & 63, static_cast<Instance*>(target), &R(A), store);
+            ENTER;
             NEXT;
+        }
+        if (target->role == Object::Role::Native && store != Store::Set) {
+            if (ranShort(site, *target, {&R(first), X & 63}, R(A), store)) {
+                NEXT;
+            }
+            if ((B & 3) != static_cast<unsigned>(Place::Frame) && !target->takesReferences) {
+                runNative(*target, site.member, {&R(first), X & 63}, R(A), store);
+                BURY;
+                NEXT;
+            }
         }
     }
     callMember(i, first, X & 63);
@@ -642,23 +684,32 @@ labelCallMember : {
     NEXT;
 }
 
-labelSetMember : {
-    const Value& object = R(A).deref();
-    const Value& value = R(B);
-    if (object.type == Type::Object && object.counted != nullptr && isPlain(value) && X == packed(0, Store::Let))
-        [[likely]] {
-        const MemberSite& site = frame->procedure->sites[C];
-        Object* target = object.object();
-        if (target->shape == site.shape && site.field >= 0) [[likely]] {
-            put(static_cast<Instance*>(target)->fields()[site.field], value.type, value.n);
-            NEXT;
-        }
+// The value of a public variable of an object; a temporary that held the object is left to the long road.
+#define SET_MEMBER(label, a, b)                                                                                        \
+    label : {                                                                                                          \
+        const Value& object = (a).deref();                                                                             \
+        const MemberSite& site = frame->procedure->sites[C];                                                           \
+        if (object.type == Type::Object && object.counted != nullptr && object.object()->shape == site.shape &&        \
+            site.field >= 0 && !TEMPORARY(A)) [[likely]] {                                                             \
+            Value& field = static_cast<Instance*>(object.object())->fields()[site.field];                              \
+            Value& from = b;                                                                                           \
+            if (isPlain(from) && X == packed(0, Store::Let)) [[likely]] {                                              \
+                put(field, from.type, from.n);                                                                         \
+                NEXT;                                                                                                  \
+            }                                                                                                          \
+            if (goesAsItIs(from.type, static_cast<Store>(X >> 6))) {                                                   \
+                carry(field, from, TEMPORARY(B));                                                                      \
+                BURY;                                                                                                  \
+                NEXT;                                                                                                  \
+            }                                                                                                          \
+        }                                                                                                              \
+        SAVE;                                                                                                          \
+        setMember(i);                                                                                                  \
+        LOAD;                                                                                                          \
+        NEXT;                                                                                                          \
     }
-    SAVE;
-    setMember(i);
-    LOAD;
-    NEXT;
-}
+    SET_MEMBER(labelSetMember, R(A), R(B))
+    SET_MEMBER(labelSetMemberLocal, L(A), L(B))
 
 labelSetMemberN:
     SAVE;
@@ -722,7 +773,8 @@ labelRaise:
 
 labelReturn : {
     const Procedure& procedure = *frame->procedure;
-    if (frame->me == nullptr && frame->extra == nullptr) [[likely]] {
+    Instance* const me = frame->me;
+    if (frame->extra == nullptr && (me == nullptr || me->references > 1)) [[likely]] {
         Value* to = frame->result;
         const int slot = procedure.resultSlot;
         const bool wanted = slot >= 0 && frame->store <= Store::Let;
@@ -735,6 +787,9 @@ labelReturn : {
             }
             BURY;
             --m_depth;
+            if (me != nullptr) {
+                --me->references;
+            }
             if (wanted) {
                 put(*to, base[slot].type, base[slot].n);
             }

@@ -19,7 +19,7 @@ void Vm::checkFrame(const Procedure* procedure, Value* base, std::size_t count) 
     if (count != procedure->parameters) {
         raise(ErrorNumber::WrongArgumentCount, m_symbols.name(procedure->name == noSymbol ? 0 : procedure->name));
     }
-    if (m_depth == maxFrames || base + procedure->registers > m_stack + stackSize) {
+    if (m_depth == maxFrames || base + procedure->registers > m_stackEnd) {
         raise(ErrorNumber::OutOfStack);
     }
     if (procedure->anyByValue) {

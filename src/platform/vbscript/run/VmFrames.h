@@ -44,8 +44,8 @@ private:
 // `base` holds `count` arguments already. Raises 450 or 28.
 inline Vm::Frame* Vm::pushFrame(const Procedure* procedure, Value* base, std::size_t count, Instance* me, Value* result,
                                 Store store) {
-    if (count != procedure->parameters || procedure->anyByValue || m_depth == maxFrames ||
-        base + procedure->registers > m_stack + stackSize) [[unlikely]] {
+    if (count != procedure->plainParameters || m_depth == maxFrames || base + procedure->registers > m_stackEnd)
+        [[unlikely]] {
         checkFrame(procedure, base, count);
     }
     for (Value* local = base + count; local < base + procedure->firstTemporary; ++local) {
@@ -94,6 +94,19 @@ inline void Vm::runIntrinsicRow(const Builtin& intrinsic, Value* first, std::siz
     } else {
         deliver(std::move(result), to, store);
     }
+}
+
+// A member of a host object by its short road, if it has one for these arguments.
+inline bool ranShort(const MemberSite& site, Object& target, std::span<const Value> arguments, Value& to,
+                     Store store) noexcept {
+    Value result;
+    if (site.shortRoad == nullptr || !site.shortRoad(target, result, arguments)) {
+        return false;
+    }
+    if (store != Store::Discard) {
+        put(to, result.type, result.n);
+    }
+    return true;
 }
 
 // A member of a host object; the arguments are used up.

@@ -33,6 +33,8 @@ const ClassMember& Vm::instanceMember(const Instance& instance, MemberSite& site
         site.shape = instance.shape;
         site.field = member->field;
         site.entry = member;
+        site.reader = readerOf(*member);
+        site.shortRoad = nullptr;
     }
     return *site.entry;
 }
@@ -48,6 +50,8 @@ int Vm::nativeMember(Object& object, MemberSite& site) const {
     site.shape = object.shape;
     site.member = member;
     site.field = -1;
+    site.reader = nullptr;
+    site.shortRoad = object.shape != nullptr ? object.shortRoad(member) : nullptr;
     return member;
 }
 

@@ -17,6 +17,12 @@
 namespace vbs {
 
 class Context;
+class Object;
+
+// A member's way for the arguments that it usually gets: false, and nothing has changed, if these are others, so that
+// invoke() has to do it. Arguments may be anything; the result is copied by its two words alone (no text, array or
+// object). Never raises, runs no code of the script and ends no object.
+using ShortRoad = bool (*)(Object& self, Value& result, std::span<const Value> arguments) noexcept;
 
 // How a member is used. With Let and Set the last argument is the value assigned.
 enum class Access : std::uint8_t { Get = 1, Call = 2, Let = 4, Set = 8 };
@@ -49,6 +55,9 @@ public:
     // was left out isMissing(), one given by reference is a Reference (see Value::deref) and may be written through.
     // Raises 438 (no such member or access) or 450 (wrong number of arguments).
     virtual Value invoke(Context& context, int member, Access access, Arguments arguments) = 0;
+
+    // The short road of a member that is read or called, or null. Only asked of an object with a shape.
+    virtual ShortRoad shortRoad(int /*member*/) const noexcept { return nullptr; }
 
     // For For Each; the default raises 451.
     virtual std::unique_ptr<Enumerator> enumerate(Context& context);
@@ -130,6 +139,7 @@ public:
         AccessSet accesses;
         std::uint8_t least = 0;
         std::uint8_t most = 0;
+        ShortRoad shortRoad = nullptr;
     };
 
     NativeObject() noexcept : m_table(T::members()) { shape = m_table.data(); }
@@ -141,6 +151,10 @@ public:
             }
         }
         return noMember;
+    }
+
+    ShortRoad shortRoad(int member) const noexcept override {
+        return m_table[static_cast<std::size_t>(member)].shortRoad;
     }
 
     Value invoke(Context& context, int member, Access access, Arguments arguments) override {
