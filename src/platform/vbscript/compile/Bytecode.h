@@ -157,8 +157,10 @@ enum class Store : std::uint8_t { Raw = 0, Let = 1, Set = 2, Discard = 3 };
     OP(GreaterEqual)                                                                                                   \
     OP(Index)                                                                                                          \
     OP(Index2)                                                                                                         \
-    OP(SetIndex) OP(SetIndex2) OP(JumpIf) OP(JumpUnless) OP(JumpBoth) OP(UnlessBoth) OP(ForLoop) OP(ForNext)           \
-        OP(GetMember) OP(SetMember) VBS_JUMPS_ON(OP)
+    OP(SetIndex)                                                                                                       \
+    OP(SetIndex2)                                                                                                      \
+    OP(JumpIf)                                                                                                         \
+    OP(JumpUnless) OP(JumpBoth) OP(UnlessBoth) OP(ForLoop) OP(ForNext) OP(GetMember) OP(SetMember) VBS_JUMPS_ON(OP)
 #define VBS_SMALL_FORMS(OP) OP(Add) OP(Subtract) OP(Multiply) OP(IntegerDivide) OP(Modulo) OP(And) VBS_JUMPS_ON(OP)
 #define VBS_SELF_FORMS(OP) OP(Add) OP(Subtract)
 #define VBS_JUMPS_ON(OP)                                                                                               \

@@ -208,14 +208,7 @@ template <Opcode op>
         }
         return true;
     }
-    if (v.type == Type::Double) {
-        const double result = computed<op>(v.d, static_cast<double>(c));
-        if (std::fabs(result) <= DBL_MAX) [[likely]] {
-            v.d = result;
-            return true;
-        }
-    }
-    return false;
+    return v.type == Type::Double && putFinite(v, computed<op>(v.d, static_cast<double>(c)));
 }
 
 [[gnu::always_inline]] inline bool wholeQuotientSmall(Value& to, const Value& b, std::int8_t c) noexcept {
