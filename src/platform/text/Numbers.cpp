@@ -222,7 +222,9 @@ std::string writeNumber(double x, char16_t decimal, int digits) {
     if (x == 0.0) {
         return "0";
     }
-    auto [figures, point] = figuresOf(x, digits);
+    Figures rounded = figuresOf(x, digits);
+    std::string& figures = rounded.digits;
+    const int point = rounded.point;
     figures.erase(figures.find_last_not_of('0') + 1);
     const int count = static_cast<int>(figures.size());
     std::string out(x < 0 ? 1 : 0, '-');
