@@ -56,6 +56,22 @@ private:
         Parser& m_parser;
     };
 
+    // What is open around a procedure counts for nothing while its body is read; it is back when that ends, with an
+    // error as well.
+    struct Inside {
+        Inside(Parser& parser, ProcedureDecl& procedure);
+        ~Inside();
+        Inside(const Inside&) = delete;
+        Inside& operator=(const Inside&) = delete;
+        Parser& m_parser;
+        ProcedureDecl* m_outer;
+        std::uint32_t m_hidden;
+        int m_doLoops;
+        int m_forLoops;
+        int m_withs;
+        std::vector<Symbol> m_counters;
+    };
+
     // A place to read again from, and what was called there.
     struct Bracket {
         Lexer lexer;

@@ -209,13 +209,23 @@ void Parser::parseParameters(ProcedureDecl& procedure) {
     expect(Sign::Close, ErrorNumber::ExpectedRightParenthesis);
 }
 
+Parser::Inside::Inside(Parser& parser, ProcedureDecl& procedure)
+    : m_parser(parser), m_outer(std::exchange(parser.m_procedure, &procedure)),
+      m_hidden(std::exchange(parser.m_hidden, 0)), m_doLoops(std::exchange(parser.m_doLoops, 0)),
+      m_forLoops(std::exchange(parser.m_forLoops, 0)), m_withs(std::exchange(parser.m_withs, 0)),
+      m_counters(std::exchange(parser.m_counters, {})) {}
+
+Parser::Inside::~Inside() {
+    m_parser.m_procedure = m_outer;
+    m_parser.m_hidden = m_hidden;
+    m_parser.m_doLoops = m_doLoops;
+    m_parser.m_forLoops = m_forLoops;
+    m_parser.m_withs = m_withs;
+    m_parser.m_counters = std::move(m_counters);
+}
+
 void Parser::parseProcedureBody(ProcedureDecl& procedure, Word ending) {
-    ProcedureDecl* outer = std::exchange(m_procedure, &procedure);
-    const std::uint32_t hidden = std::exchange(m_hidden, 0);
-    const int doLoops = std::exchange(m_doLoops, 0);
-    const int forLoops = std::exchange(m_forLoops, 0);
-    const int withs = std::exchange(m_withs, 0);
-    auto counters = std::exchange(m_counters, {});
+    const Inside inside(*this, procedure);
     parseBlock(procedure.body);
     if (!is(Word::End)) {
         fail(is(Word::Loop)   ? ErrorNumber::LoopWithoutDo
@@ -226,12 +236,6 @@ void Parser::parseProcedureBody(ProcedureDecl& procedure, Word ending) {
     expect(ending, ending == Word::Sub        ? ErrorNumber::ExpectedSub
                    : ending == Word::Function ? ErrorNumber::ExpectedFunction
                                               : ErrorNumber::ExpectedProperty);
-    m_procedure = outer;
-    m_hidden = hidden;
-    m_doLoops = doLoops;
-    m_forLoops = forLoops;
-    m_withs = withs;
-    m_counters = std::move(counters);
 }
 
 // Class name { member } End Class
