@@ -2,6 +2,7 @@
 #include "platform/vbscript/compile/Instruction.h"
 #include "platform/vbscript/run/Instance.h"
 #include "platform/vbscript/run/Vm.h"
+#include "platform/vbscript/run/VmCalls.h"
 #include "platform/vbscript/value/Array.h"
 #include "platform/vbscript/value/Convert.h"
 
@@ -38,7 +39,7 @@ std::vector<Value> copied(std::span<Value* const> indexes) {
     std::vector<Value> values;
     values.reserve(indexes.size() + 1);
     for (const Value* index : indexes) {
-        values.push_back(index->deref());
+        values.push_back(contentOf(*index));
     }
     return values;
 }
@@ -70,7 +71,7 @@ void Vm::getIndex(Value& to, const Value& base, std::span<Value* const> indexes,
     }
     const Value keep = Value::ofObject(variable.object());
     if (indexes.size() == 1 && keep.object()->role == Object::Role::Native) {
-        Value argument = indexes[0]->deref();
+        Value argument = contentOf(*indexes[0]);
         deliver(keep.object()->invoke(*this, Object::defaultMember, Access::Get, {&argument, 1}), to, store);
         return;
     }
@@ -100,7 +101,7 @@ void Vm::setIndex(Value& base, std::span<Value* const> indexes, Value value, Sto
     const Value keep = Value::ofObject(variable.object());
     const Access access = store == Store::Set ? Access::Set : Access::Let;
     if (indexes.size() == 1 && keep.object()->role == Object::Role::Native) {
-        std::array<Value, 2> arguments{indexes[0]->deref(), std::move(value)};
+        std::array<Value, 2> arguments{contentOf(*indexes[0]), std::move(value)};
         keep.object()->invoke(*this, Object::defaultMember, access, arguments);
         return;
     }

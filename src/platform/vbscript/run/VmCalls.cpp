@@ -16,10 +16,7 @@ namespace vbs {
 void Vm::callIntrinsic1(Instruction instruction) {
     const Operand b = operandB(instruction);
     const Builtin& builtin = m_library.builtins[operandC(instruction)];
-    Value argument = isTemporary(b) ? std::move(at(b)) : at(b).deref(); // held: code of the script may run
-    if (argument.type == Type::Undefined) {
-        argument.type = Type::Empty;
-    }
+    Value argument = taken(b); // held: code of the script may run
     Value result = builtin.function(*this, {&argument, 1});
     deliver(std::move(result), at(operandA(instruction)), storeOf(instruction));
 }

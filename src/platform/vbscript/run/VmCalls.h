@@ -8,11 +8,21 @@
 
 namespace vbs {
 
+// A copy of what a variable holds, for keeping. An undefined name reads as Empty. Raises 13 for the name of a procedure
+// or class, which a variable may have become since the code was compiled: it must not outlive its unit in a value.
+inline Value contentOf(const Value& variable) {
+    const Value& v = variable.deref();
+    if (v.type == Type::Procedure) {
+        raise(ErrorNumber::TypeMismatch);
+    }
+    return v.type == Type::Undefined ? Value() : v;
+}
+
 // References in a row of arguments become plain values.
 inline void settle(Value* first, std::size_t count) {
     for (std::size_t i = 0; i < count; ++i) {
         if (first[i].type == Type::Reference) {
-            first[i] = Value(*first[i].target);
+            first[i] = contentOf(first[i]);
         }
     }
 }

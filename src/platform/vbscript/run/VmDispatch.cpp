@@ -138,7 +138,7 @@ void Vm::dispatch(std::size_t floor) {
     MOVE(labelLetLocal, L(A), L(B), from.isString(), letInto(R(A), B))
 
 labelCopy:
-    SLOW(R(A) = Value(R(B).deref()));
+    SLOW(R(A) = contentOf(R(B)));
 
 labelSetObject:
     if (R(B).type == Type::Object) [[likely]] {

@@ -25,7 +25,7 @@ void Vm::checkFrame(const Procedure* procedure, Value* base, std::size_t count) 
     if (procedure->anyByValue) {
         for (std::size_t i = 0; i < count; ++i) {
             if (procedure->byValue[i] && base[i].type == Type::Reference) {
-                base[i] = Value(*base[i].target);
+                base[i] = contentOf(base[i]);
             }
         }
     }

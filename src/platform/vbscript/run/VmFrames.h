@@ -3,6 +3,7 @@
 
 #include "platform/vbscript/run/Instance.h"
 #include "platform/vbscript/run/Vm.h"
+#include "platform/vbscript/run/VmCalls.h"
 #include "platform/vbscript/value/Library.h"
 
 #include <utility>
@@ -113,7 +114,7 @@ inline bool ranShort(const MemberSite& site, Object& target, std::span<const Val
 inline void Vm::runNative(Object& target, int member, Arguments arguments, Value& to, Store store) {
     for (Value& argument : arguments) {
         if (argument.type == Type::Reference) {
-            argument = Value(*argument.target);
+            argument = contentOf(argument);
         }
     }
     const Value keep = Value::ofObject(&target);

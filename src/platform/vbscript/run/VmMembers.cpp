@@ -250,7 +250,7 @@ std::uint32_t Vm::definedGlobal(std::u16string_view name) {
 Value Vm::useGlobal(std::uint32_t slot, Access access, Arguments arguments) {
     const bool assigns = access == Access::Let || access == Access::Set;
     const GlobalKind kind = m_globals.kind(slot);
-    if (kind == GlobalKind::Callable) {
+    if (m_globals[slot].type == Type::Procedure) { // code compiled before may have put a value over a procedure
         const auto& callable = *static_cast<const Callable*>(m_globals[slot].pointer);
         if (assigns || callable.kind != Callable::Kind::Procedure) {
             raise(ErrorNumber::MemberNotFound);

@@ -2,6 +2,8 @@
 #include "platform/vbscript/compile/Instruction.h"
 #include "platform/vbscript/run/Instance.h"
 #include "platform/vbscript/run/Vm.h"
+#include "platform/vbscript/run/VmCalls.h"
+#include "platform/vbscript/run/VmFrames.h"
 #include "platform/vbscript/value/Array.h"
 #include "platform/vbscript/value/Convert.h"
 #include "platform/vbscript/value/Operators.h"
@@ -84,19 +86,10 @@ void Vm::consumeRow(Value* first, std::size_t count) noexcept {
     }
 }
 
-// The value of an operand: moved out of a temporary, copied from anything else. An undefined name reads as Empty.
+// The value of an operand: moved out of a temporary, copied from anything else.
 Value Vm::taken(Operand o) {
     Value& v = at(o);
-    if (v.type == Type::Reference) {
-        return *v.target;
-    }
-    if (v.type == Type::Undefined) {
-        return {};
-    }
-    if (v.type == Type::Procedure) {
-        raise(ErrorNumber::TypeMismatch);
-    }
-    return isTemporary(o) ? std::move(v) : v;
+    return isTemporary(o) && (isPlain(v) || v.isCounted()) ? std::move(v) : contentOf(v);
 }
 
 // What an assignment stores: the value itself, for Let the default member of an object and a dynamic copy of a fixed
