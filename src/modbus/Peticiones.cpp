@@ -146,7 +146,7 @@ Peticiones::Fin Peticiones::atenderEscritura(Bytes peticion, Pagina& pagina, Con
         terminarLinea(pagina.numero());
     }
     esclavos_.darValorEsclavoLogico(pagina.numero(), trama::palabra(peticion, trama::direccion),
-                                    trama::palabra(peticion, trama::valor));
+                                    trama::palabra(peticion, trama::valor), Autor::maestro);
     if (!pagina.responderEscrituras)
         return Fin::siguiente;
 

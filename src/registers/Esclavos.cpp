@@ -1,5 +1,6 @@
 #include "registers/Esclavos.h"
 
+#include "registers/Cambios.h"
 #include "registers/ErrorEjecucion.h"
 #include "registers/Palabra.h"
 
@@ -42,12 +43,19 @@ std::span<const double> Esclavos::valores(int numero) const {
     return registros_[static_cast<std::size_t>(numero)].Valores;
 }
 
-void Esclavos::darValorEsclavoLogico(double esclavo, double direccion, double valor) {
+double Esclavos::guardar(EsclavoMW& destino, std::size_t direccion, double valor, Autor autor) {
+    const double anterior = std::exchange(destino.Valores[direccion], valor);
+    if (cambios_ != nullptr)
+        cambios_->registroEscrito(destino.pagina->numero(), static_cast<int>(direccion), anterior, valor, autor);
+    return anterior;
+}
+
+void Esclavos::darValorEsclavoLogico(double esclavo, double direccion, double valor, Autor autor) {
     if (!(valor >= 0 && valor <= 65535))
         return;
     EsclavoMW& destino = registro(esclavo);
     const std::size_t i = indice(direccion, destino.limite());
-    const double anterior = std::exchange(destino.Valores[i], valor);
+    const double anterior = guardar(destino, i, valor, autor);
     const int celda = celdaDe(direccion, static_cast<int>(i));
     if (celda == static_cast<int>(i))
         destino.pagina->mostrarEnSuCelda(celda);
@@ -60,13 +68,13 @@ bool Esclavos::escribirSiExiste(std::int64_t esclavo, std::int64_t direccion, do
     if (actual == nullptr || !(valor >= 0 && valor <= 65535))
         return false;
     EsclavoMW& destino = registros_[static_cast<std::size_t>(esclavo)];
-    destino.Valores[static_cast<std::size_t>(direccion)] = valor;
+    guardar(destino, static_cast<std::size_t>(direccion), valor, Autor::script);
     destino.pagina->mostrarEnSuCelda(static_cast<int>(direccion));
     return true;
 }
 
-void Esclavos::escribir_C2(double sclavo, double direccion, double valor) {
-    darValorEsclavoLogico(sclavo, direccion, SINGLEINT(valor));
+void Esclavos::escribir_C2(double sclavo, double direccion, double valor, Autor autor) {
+    darValorEsclavoLogico(sclavo, direccion, SINGLEINT(valor), autor);
 }
 
 void Esclavos::escribir_bit(double sclavo, double direccion, double bit, double valorBit) {

@@ -9,6 +9,7 @@
 //     esclavos.escribir(7, 5, 1234);
 #pragma once
 
+#include "registers/Autor.h"
 #include "registers/Pagina.h"
 
 #include <cstddef>
@@ -36,6 +37,8 @@ protected:
     ~ObservadorEsclavos() = default;
 };
 
+class ObservadorCambios;
+
 class Esclavos {
 public:
     // Ceilings that keep a runaway script from taking the machine's memory; beyond them: memoriaAgotada.
@@ -49,14 +52,19 @@ public:
     // Borrowed; null detaches.
     void observar(ObservadorEsclavos* observador) { observador_ = observador; }
 
+    // Told of every accepted write. Borrowed; null detaches: then it costs nothing.
+    void observarCambios(ObservadorCambios* observador) { cambios_ = observador; }
+
     // The core write, the only place where a register changes. A value below 0 or above 65535 is dropped silently.
     // Creates and grows nothing: a missing slave or an address beyond its table raises indiceFueraDeIntervalo.
-    void darValorEsclavoLogico(double esclavo, double direccion, double valor);
+    void darValorEsclavoLogico(double esclavo, double direccion, double valor, Autor autor = Autor::script);
 
-    void escribir(double sclavo, double direccion, double valor) { darValorEsclavoLogico(sclavo, direccion, valor); }
+    void escribir(double sclavo, double direccion, double valor, Autor autor = Autor::script) {
+        darValorEsclavoLogico(sclavo, direccion, valor, autor);
+    }
 
     // Writes a signed value: -32768..-1 are stored as 32768..65535.
-    void escribir_C2(double sclavo, double direccion, double valor);
+    void escribir_C2(double sclavo, double direccion, double valor, Autor autor = Autor::script);
 
     // Sets or clears one bit. Does nothing when the bit value is not 0..1 or the bit is negative; there is no upper
     // check of the bit: setting bit 16 or more yields a word that the core write drops.
@@ -102,6 +110,7 @@ public:
     std::span<const double> valores(int numero) const;
 
 private:
+    double guardar(EsclavoMW& destino, std::size_t direccion, double valor, Autor autor); // answers the old value
     EsclavoMW& registro(double esclavo); // raises indiceFueraDeIntervalo
     void ampliar(EsclavoMW& registro, double nuevoLimite);
 
@@ -109,4 +118,5 @@ private:
     std::size_t totalRegistros_ = 0;
     int paginas_ = 0;
     ObservadorEsclavos* observador_ = nullptr;
+    ObservadorCambios* cambios_ = nullptr;
 };

@@ -5,6 +5,7 @@
 #include "registers/Esclavos.h"
 #include "registers/NumeroLocal.h"
 #include "registers/Palabra.h"
+#include "registers/ValorAMano.h"
 
 #include <QCheckBox>
 #include <QFormLayout>
@@ -18,22 +19,13 @@
 
 namespace {
 
-constexpr double valorMinimo = -32768;
-constexpr double valorMaximo = 65535;
-constexpr double mayorConSigno = 32767;
-
 constexpr const char* errorDePlc = "Error de numero de PLC";
 constexpr const char* errorDeDireccion = "Error de numero de Direccion";
 constexpr const char* errorDeValor = "Error de valor numerico";
-constexpr const char* fueraDeRango = "Valor fuera de rango, se admiten valores entre -32768 y 65535";
 
 constexpr int entreCuartetos = 8; // pixels between groups of four bits
 constexpr std::int16_t retroceso = 8;
 constexpr std::int16_t teclaIgnorada = 16;
-
-bool enRango(double valor) {
-    return valor >= valorMinimo && valor <= valorMaximo;
-}
 
 QLabel* crearEtiqueta(const char* nombre) {
     auto* etiqueta = new QLabel;
@@ -146,8 +138,8 @@ void FrmMW::actualizarChecks() {
             casilla->setChecked(false);
         LblBinario_->setText(QStringLiteral("Binario: Desborde"));
     }
-    lblC2_->setText(enRango(*valor) ? QStringLiteral("C2:       ") + textoLocal(SIGNINT(*valor))
-                                    : QStringLiteral("Desborde"));
+    lblC2_->setText(cabeAMano(*valor) ? QStringLiteral("C2:       ") + textoLocal(SIGNINT(*valor))
+                                      : QStringLiteral("Desborde"));
 }
 
 void FrmMW::mostrarBits(double valor) {
@@ -171,7 +163,7 @@ void FrmMW::clicEnBit(int bit) {
         const double valor = numeroLocal(TxtValor_->text()).value_or(0);
         TxtValor_->setText(textoLocal(SetearBIT_YDevolverPalabra(valor, static_cast<std::int16_t>(bit), estado)));
     } catch (const ErrorEjecucion&) {
-        MsgBox(this, QLatin1String(fueraDeRango));
+        MsgBox(this, QLatin1String(valorFueraDeRango));
     }
     actualizarChecks(); // the text may be the same as before while the box is not
 }
@@ -227,8 +219,8 @@ QString FrmMW::errorDeCampos() const {
     const auto valor = numeroLocal(TxtValor_->text()); // an empty text is no number
     if (!valor)
         return QLatin1String(errorDeValor);
-    if (!enRango(*valor))
-        return QLatin1String(fueraDeRango);
+    if (!cabeAMano(*valor))
+        return QLatin1String(valorFueraDeRango);
     if (!numeroLocal(TxtPlc_->text()))
         return QLatin1String(errorDePlc);
     if (!numeroLocal(TxtDireccion_->text()))
@@ -251,10 +243,7 @@ bool FrmMW::escribirValor() {
     const double direccion = numeroLocal(TxtDireccion_->text()).value_or(0);
     const double valor = numeroLocal(TxtValor_->text()).value_or(0);
     try {
-        if (valor <= mayorConSigno)
-            esclavos_.escribir_C2(plc, direccion, valor);
-        else
-            esclavos_.escribir(plc, direccion, valor);
+        escribirAMano(esclavos_, plc, direccion, valor);
         return true;
     } catch (const ErrorEjecucion&) {
         return false;

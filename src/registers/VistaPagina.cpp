@@ -12,11 +12,14 @@
 namespace {
 
 constexpr qint64 entreRepintados = 17; // ms: at most 60 a second
+constexpr int entreMatices = 100;      // ms between two shades of a colour that fades out
 
 } // namespace
 
-VistaPagina::VistaPagina(const Esclavos& esclavos, Pagina& pagina, QWidget* txtTramas, QWidget* padre)
-    : QWidget(padre), pagina_(pagina), fuente_(esclavos, pagina), cuadricula_(new MSFlexGrid(fuente_)) {
+VistaPagina::VistaPagina(const Esclavos& esclavos, Pagina& pagina, QWidget* txtTramas, QWidget* padre,
+                         const Anotaciones* anotaciones)
+    : QWidget(padre), pagina_(pagina), fuente_(esclavos, pagina, anotaciones), cuadricula_(new MSFlexGrid(fuente_)),
+      anotaciones_(anotaciones) {
     nombrar(cuadricula_, "MSFlexGrid", QStringLiteral("Registros del esclavo %1"));
     nombrar(txtTramas, "txtTramas", QStringLiteral("Tramas del esclavo %1"));
 
@@ -37,8 +40,14 @@ VistaPagina::VistaPagina(const Esclavos& esclavos, Pagina& pagina, QWidget* txtT
     todo->addWidget(divisor);
 
     connect(cuadricula_, &MSFlexGrid::celdaActivada, this, [this](int fila, int col) {
-        Q_EMIT celdaActivada(numero(), FuenteRegistros::direccion(fila, col), cuadricula_->TextMatrix(fila, col));
+        Q_EMIT celdaActivada(numero(), FuenteRegistros::direccion(fila, col), fuente_.textoDecimal(fila, col));
     });
+    connect(cuadricula_, &MSFlexGrid::pegado, this, [this](int fila, int col, const QString& texto) {
+        Q_EMIT pegado(numero(), FuenteRegistros::direccion(fila, col), texto);
+    });
+    connect(cuadricula_, &MSFlexGrid::menuPedido, this, &VistaPagina::menuPedido);
+    desvanecido_.setInterval(entreMatices);
+    connect(&desvanecido_, &QTimer::timeout, this, &VistaPagina::desvanecer);
     espera_.setSingleShot(true);
     connect(&espera_, &QTimer::timeout, this, &VistaPagina::ponerAlDia);
     pagina_.observar(this);
@@ -99,6 +108,37 @@ void VistaPagina::ponerAlDia() {
     pagina_.desmarcar();
     cuadricula_->refrescar();
     desdeUltima_.start();
+    if (anotaciones_ != nullptr && anotaciones_->resaltarCambios && isVisible() && !desvanecido_.isActive())
+        desvanecido_.start();
+}
+
+// The last shade is none, so it repaints once more after the time is over.
+void VistaPagina::desvanecer() {
+    if (!isVisible() || desdeUltima_.elapsed() > Anotaciones::tiempoResaltado + entreMatices)
+        desvanecido_.stop();
+    cuadricula_->refrescar();
+}
+
+void VistaPagina::ponerFormato(FormatoRegistro formato) {
+    fuente_.ponerFormato(formato);
+    cuadricula_->refrescar();
+}
+
+void VistaPagina::irA(int direccion) {
+    cuadricula_->irA(direccion / Pagina::registrosPorFila + 1, direccion % Pagina::registrosPorFila + 1);
+    enfocar();
+}
+
+void VistaPagina::enfocar() {
+    cuadricula_->setFocus();
+}
+
+std::vector<int> VistaPagina::seleccion() const {
+    std::vector<int> direcciones;
+    for (const auto& [fila, columna] : cuadricula_->celdasSeleccionadas())
+        if (!fuente_.textoDecimal(fila, columna).isEmpty())
+            direcciones.push_back(FuenteRegistros::direccion(fila, columna));
+    return direcciones;
 }
 
 void VistaPagina::showEvent(QShowEvent* evento) {

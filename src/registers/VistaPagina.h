@@ -8,8 +8,11 @@
 #include "registers/FuenteRegistros.h"
 
 #include <QElapsedTimer>
+#include <QMenu>
 #include <QTimer>
 #include <QWidget>
+
+#include <vector>
 
 class MSFlexGrid;
 class QCheckBox;
@@ -19,15 +22,35 @@ class VistaPagina : public QWidget, private ObservadorPagina {
 
 public:
     // Store and page are borrowed and outlive the view. The frame monitor is made by the caller and becomes a child
-    // of the view, which names it.
-    VistaPagina(const Esclavos& esclavos, Pagina& pagina, QWidget* txtTramas, QWidget* padre = nullptr);
+    // of the view, which names it. Without notes (borrowed, too) cells have no names, writers and colours.
+    VistaPagina(const Esclavos& esclavos, Pagina& pagina, QWidget* txtTramas, QWidget* padre = nullptr,
+                const Anotaciones* anotaciones = nullptr);
     ~VistaPagina() override;
 
     int numero() const { return pagina_.numero(); }
 
+    // How the grid writes its registers; decimal at first.
+    FormatoRegistro formato() const { return fuente_.formato(); }
+    void ponerFormato(FormatoRegistro formato);
+
+    // Selects the register's cell and brings it into view.
+    void irA(int direccion);
+
+    // The addresses of the selected cells in order, of those that exist.
+    std::vector<int> seleccion() const;
+
+    // Gives the grid the keyboard focus.
+    void enfocar();
+
 Q_SIGNALS:
     // A double click (or Enter, F2) on the cell of register `direccion`, which shows `texto`.
     void celdaActivada(int esclavo, int direccion, const QString& texto);
+
+    // The operator pastes a text at register `direccion`.
+    void pegado(int esclavo, int direccion, const QString& texto);
+
+    // The grid's context menu is about to open.
+    void menuPedido(QMenu* menu);
 
 protected:
     void showEvent(QShowEvent* evento) override;
@@ -36,6 +59,7 @@ private:
     void paginaCambiada(Pagina& pagina) override;
     void filasAgregadas(Pagina& pagina) override;
     void ponerAlDia();
+    void desvanecer();
     QWidget* crearMarco();
     QCheckBox* crearCasilla(const char* nombre, const QString& titulo, bool Pagina::*campo);
     void nombrar(QWidget* control, const char* nombre, const QString& nombreAccesible) const;
@@ -45,4 +69,6 @@ private:
     MSFlexGrid* cuadricula_;
     QTimer espera_;
     QElapsedTimer desdeUltima_; // time since the last repaint
+    const Anotaciones* anotaciones_;
+    QTimer desvanecido_; // repaints while colours fade out
 };

@@ -9,7 +9,9 @@
 Estacion::Estacion(const std::filesystem::path& carpeta, Arranque conQue)
     : arranque(std::move(conQue)), config(carpeta, decimalSign()),
       escucha_(reactor, peticiones_, *this, eventos, arranque.rutaPrograma),
-      avisador_(reactor.descriptor(), QSocketNotifier::Read) {
+      avisador_(reactor.descriptor(), QSocketNotifier::Read),
+      archivoEtiquetas_(config.rutaArchivo().parent_path(), anotaciones.etiquetas) {
+    esclavos.observarCambios(&anotaciones.cambios);
     QObject::connect(&avisador_, &QSocketNotifier::activated, &avisador_, [this] { reactor.turn(); });
 }
 
@@ -33,6 +35,7 @@ void Estacion::comprobarPuerto() {
     escucha_.levantarEscucha();
     escucha_.refrescarConexiones();
     decir(avisoConfig_, config.fallo());
+    decir(avisoEtiquetas_, archivoEtiquetas_.comprobar());
 }
 
 void Estacion::ponerPeticionesACero() {
@@ -78,7 +81,7 @@ void Estacion::decir(std::string& aviso, const std::string& texto) {
     if (!texto.empty())
         std::fprintf(stderr, "esclavo-modbus: %s\n", texto.c_str());
     std::string todos;
-    for (const std::string* const otro : {&avisoCarpeta_, &avisoConfig_, &avisoPuerto_})
+    for (const std::string* const otro : {&avisoCarpeta_, &avisoConfig_, &avisoPuerto_, &avisoEtiquetas_})
         if (!otro->empty())
             todos += (todos.empty() ? "" : "\n") + *otro;
     if (ventana_ != nullptr)

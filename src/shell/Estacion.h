@@ -12,8 +12,10 @@
 #include "modbus/Peticiones.h"
 #include "platform/net/Reactor.h"
 #include "platform/window/EventosQt.h"
+#include "registers/Anotaciones.h"
 #include "registers/Esclavos.h"
 #include "script/AutomatizacionScript.h"
+#include "shell/ArchivoEtiquetas.h"
 #include "shell/ConfiguracionScriptIni.h"
 #include "shell/EnlaceSerie.h"
 #include "shell/Modulo_Config.h"
@@ -63,7 +65,8 @@ public:
     // To be called before the controls of that window go. Listener and connections stay as they are.
     void cerrarVentana();
 
-    // Listens on the configured port unless it does so already, and brings the connection list up to date.
+    // Listens on the configured port unless it does so already, and brings the connection list and the registers' names
+    // up to date.
     void comprobarPuerto();
 
     const Escucha& escucha() const { return escucha_; }
@@ -77,6 +80,7 @@ public:
     const Arranque arranque;
     const Modulo_Config config;
     Esclavos esclavos;
+    Anotaciones anotaciones;
     Monitores monitores;
     EventosQt eventos;
     Reactor reactor;
@@ -103,6 +107,8 @@ private:
     std::string avisoCarpeta_;
     std::string avisoConfig_; // the configuration file cannot be read or written
     std::string avisoPuerto_;
+    std::string avisoEtiquetas_;
+    ArchivoEtiquetas archivoEtiquetas_;
     ConfiguracionScriptIni configuracionScript_{config};
     std::unique_ptr<AutomatizacionScript> script_;
     std::unique_ptr<EnlaceSerie> enlaceSerie_;

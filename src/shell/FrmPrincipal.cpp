@@ -4,6 +4,7 @@
 #include "modbus/VistaMonitor.h"
 #include "platform/window/Contraste.h"
 #include "platform/window/MsgBox.h"
+#include "registers/AccionesRegistros.h"
 #include "registers/FrmMW.h"
 #include "registers/VistaPagina.h"
 #include "script/FrmEdicionCodigo.h"
@@ -105,8 +106,11 @@ void FrmPrincipal::conectarTeclado() {
 }
 
 void FrmPrincipal::crearMenus() {
+    acciones_ = new AccionesRegistros(estacion_.esclavos, estacion_.anotaciones, *this);
+    connect(acciones_, &AccionesRegistros::destinoElegido, this, &FrmPrincipal::irARegistro);
     auto* barra = new QMenuBar(this);
     barra->setObjectName(QStringLiteral("menuPrincipal"));
+    acciones_->agregarA(*barra->addMenu(QStringLiteral("&Registros")));
     QMenu* const ver = barra->addMenu(QStringLiteral("&Ver"));
     ver->addAction(QStringLiteral("&Estadísticas"), Qt::CTRL | Qt::Key_I, this, &FrmPrincipal::mostrarEstadisticas);
     layout()->setMenuBar(barra);
@@ -246,8 +250,9 @@ void FrmPrincipal::apagar() {
 void FrmPrincipal::esclavoCreado(Pagina& pagina) {
     const int numero = pagina.numero();
     auto* tramas = new VistaMonitor(estacion_.monitores.tramas(numero), nullptr, VistaMonitor::Seguimiento::siempre);
-    auto* vista = new VistaPagina(estacion_.esclavos, pagina, tramas, controles_->paginas);
+    auto* vista = new VistaPagina(estacion_.esclavos, pagina, tramas, controles_->paginas, &estacion_.anotaciones);
     connect(vista, &VistaPagina::celdaActivada, this, &FrmPrincipal::abrirFrmMW);
+    acciones_->seguir(*vista);
     vistas_[numero] = vista;
     ponerAyudaContextual(*vista);
     controles_->agregarPagina(*vista, numero);
@@ -256,8 +261,19 @@ void FrmPrincipal::esclavoCreado(Pagina& pagina) {
 
 void FrmPrincipal::seleccionarPestana(int indice) {
     const int numero = controles_->TabStrip1->tabText(indice).mid(1).toInt();
-    if (const auto vista = vistas_.find(numero); vista != vistas_.end())
+    if (const auto vista = vistas_.find(numero); vista != vistas_.end()) {
         controles_->paginas->setCurrentWidget(vista->second);
+        acciones_->ponerPagina(vista->second);
+    }
+}
+
+void FrmPrincipal::irARegistro(int esclavo, int direccion) {
+    auto& pestanas = *controles_->TabStrip1;
+    for (int i = 0; i < pestanas.count(); ++i)
+        if (pestanas.tabText(i).mid(1).toInt() == esclavo)
+            pestanas.setCurrentIndex(i);
+    if (const auto vista = vistas_.find(esclavo); vista != vistas_.end())
+        vista->second->irA(direccion);
 }
 
 void FrmPrincipal::cambiarEsclavo(int paso) {

@@ -15,6 +15,7 @@
 #include <memory>
 #include <string>
 
+class AccionesRegistros;
 class BarraEstado;
 class FrmAbout;
 class FrmConexionesPuentes;
@@ -65,6 +66,7 @@ private:
     void conectarTeclado();
     void crearMenus();
     void crearBarraEstado();
+    void irARegistro(int esclavo, int direccion);
     void rechazarSegundaInstancia();
     void crearTablasIniciales();
     void comprobarPuertoYVisibilidad();
@@ -85,7 +87,8 @@ private:
 
     Estacion& estacion_;
     std::unique_ptr<ControlesPrincipal> controles_;
-    std::map<int, VistaPagina*> vistas_; // by slave number; owned by their parent
+    AccionesRegistros* acciones_ = nullptr; // a child
+    std::map<int, VistaPagina*> vistas_;    // by slave number; owned by their parent
     QPointer<FrmAbout> frmAbout_;
     QPointer<FrmEstadisticas> frmEstadisticas_;
     QPointer<FrmTxRx> frmTxRx_;

@@ -128,7 +128,9 @@ private Q_SLOTS:
         QCOMPARE(sugerencia(23), QStringLiteral("Registro: 23\nSin signo: 65534\nCon signo: -2\nHexadecimal: FFFE\n"
                                                 "Bits: 1111 1111 1111 1110"));
         QCOMPARE(sugerencia(24), QStringLiteral("Registro: 24\nSin signo: 0\nCon signo: 0\nHexadecimal: 0000\n"
-                                                "Bits: 0000 0000 0000 0000"));
+                                                "Bits: 0000 0000 0000 0000\n"
+                                                "Con el siguiente, 32 bits: 0 (al revés 0)\n"
+                                                "Con el siguiente, coma flotante: 0 (al revés 0)"));
     }
 
     void doubleClickTellsSlaveAddressAndText() {

@@ -4,7 +4,10 @@
 // (0, 0) is the corner. Rows only ever grow in number; the number of columns is fixed.
 #pragma once
 
+#include <QColor>
 #include <QString>
+
+class QPalette;
 
 class FuenteCuadricula {
 public:
@@ -14,6 +17,9 @@ public:
     // Empty for a cell that has nothing to show.
     virtual QString texto(int fila, int columna) const = 0;
     virtual QString sugerencia(int fila, int columna) const = 0; // the tooltip, empty for none
+
+    // The ground of a cell below the headings; invalid: the view's own.
+    virtual QColor fondo(int /*fila*/, int /*columna*/, const QPalette& /*paleta*/) const { return {}; }
 
 protected:
     ~FuenteCuadricula() = default;

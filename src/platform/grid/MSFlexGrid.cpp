@@ -25,13 +25,16 @@ constexpr int margen = 6;           // on either side of a text
 // model for ten properties that a cell of this grid never has.
 class DibujanteCelda : public QStyledItemDelegate {
 public:
-    using QStyledItemDelegate::QStyledItemDelegate;
+    DibujanteCelda(const FuenteCuadricula& fuente, QObject* padre) : QStyledItemDelegate(padre), fuente_(fuente) {}
 
     void paint(QPainter* pintor, const QStyleOptionViewItem& opcion, const QModelIndex& indice) const override {
         const bool elegida = opcion.state.testFlag(QStyle::State_Selected);
         const auto grupo = opcion.state.testFlag(QStyle::State_Active) ? QPalette::Active : QPalette::Inactive;
         if (elegida)
             pintor->fillRect(opcion.rect, opcion.palette.brush(grupo, QPalette::Highlight));
+        else if (const QColor fondo = fuente_.fondo(indice.row() + 1, indice.column() + 1, opcion.palette);
+                 fondo.isValid())
+            pintor->fillRect(opcion.rect, fondo);
         const QString texto = indice.data().toString();
         if (!texto.isEmpty()) {
             const QRect sitio = opcion.rect.adjusted(margen / 2, 0, -margen / 2, 0);
@@ -44,6 +47,9 @@ public:
             pintor->drawRect(opcion.rect.adjusted(0, 0, -1, -1));
         }
     }
+
+private:
+    const FuenteCuadricula& fuente_;
 };
 
 } // namespace
@@ -51,7 +57,7 @@ public:
 MSFlexGrid::MSFlexGrid(const FuenteCuadricula& fuente, QWidget* padre)
     : QTableView(padre), fuente_(fuente), modelo_(new ModeloCuadricula(fuente, this)),
       esquina_(findChild<QAbstractButton*>(QString(), Qt::FindDirectChildrenOnly)) {
-    setItemDelegate(new DibujanteCelda(this));
+    setItemDelegate(new DibujanteCelda(fuente, this));
     setModel(modelo_);
     setEditTriggers(NoEditTriggers);
     setTabKeyNavigation(false);
@@ -82,6 +88,23 @@ int MSFlexGrid::Row() const {
 
 int MSFlexGrid::Col() const {
     return currentIndex().isValid() ? currentIndex().column() + 1 : 1;
+}
+
+void MSFlexGrid::irA(int row, int col) {
+    modelo_->agregarFilas();
+    const QModelIndex celda = modelo_->index(row - 1, col - 1);
+    if (!celda.isValid())
+        return;
+    selectionModel()->setCurrentIndex(celda, QItemSelectionModel::ClearAndSelect);
+    scrollTo(celda, PositionAtCenter);
+}
+
+std::vector<std::pair<int, int>> MSFlexGrid::celdasSeleccionadas() const {
+    std::vector<std::pair<int, int>> celdas;
+    for (const QModelIndex& indice : selectionModel()->selectedIndexes())
+        celdas.emplace_back(indice.row() + 1, indice.column() + 1);
+    std::sort(celdas.begin(), celdas.end());
+    return celdas;
 }
 
 void MSFlexGrid::agregarFilas() {
@@ -126,6 +149,8 @@ void MSFlexGrid::keyPressEvent(QKeyEvent* evento) {
     const int tecla = evento->key();
     if (evento->matches(QKeySequence::Copy)) {
         copiar();
+    } else if (evento->matches(QKeySequence::Paste)) {
+        Q_EMIT pegado(Row(), Col(), QGuiApplication::clipboard()->text());
     } else if (tecla == Qt::Key_F2 || tecla == Qt::Key_Return || tecla == Qt::Key_Enter) {
         if (currentIndex().isValid())
             Q_EMIT celdaActivada(Row(), Col());
@@ -147,6 +172,9 @@ void MSFlexGrid::contextMenuEvent(QContextMenuEvent* evento) {
     menu->addAction(QStringLiteral("&Copiar\tCtrl+C"), this, &MSFlexGrid::copiar)
         ->setEnabled(selectionModel()->hasSelection());
     menu->addAction(QStringLiteral("&Seleccionar todo\tCtrl+A"), this, &MSFlexGrid::selectAll);
+    menu->addAction(QStringLiteral("&Pegar\tCtrl+V"), this,
+                    [this] { Q_EMIT pegado(Row(), Col(), QGuiApplication::clipboard()->text()); });
+    Q_EMIT menuPedido(menu);
     menu->popup(evento->globalPos());
 }
 

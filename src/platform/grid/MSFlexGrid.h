@@ -11,7 +11,11 @@
 
 #include "platform/grid/FuenteCuadricula.h"
 
+#include <QMenu>
 #include <QTableView>
+
+#include <utility>
+#include <vector>
 
 class ModeloCuadricula;
 
@@ -36,6 +40,12 @@ public:
     int Row() const;
     int Col() const;
 
+    // Makes the cell the current and only selected one and brings it into view.
+    void irA(int row, int col);
+
+    // The selected cells, row by row.
+    std::vector<std::pair<int, int>> celdasSeleccionadas() const;
+
     // The source has gained rows: the model has them from now on.
     void agregarFilas();
 
@@ -51,6 +61,12 @@ public:
 Q_SIGNALS:
     // A double click, Enter or F2 on a cell below the headings.
     void celdaActivada(int row, int col);
+
+    // Ctrl+V, or "Pegar": a text for the current cell and those right of it and below.
+    void pegado(int row, int col, const QString& texto);
+
+    // The context menu is about to open; who owns the grid adds its entries.
+    void menuPedido(QMenu* menu);
 
 protected:
     void keyPressEvent(QKeyEvent* evento) override;

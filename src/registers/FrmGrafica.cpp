@@ -1,0 +1,168 @@
+#include "registers/FrmGrafica.h"
+
+#include "platform/window/MsgBox.h"
+#include "registers/NumeroLocal.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDateTime>
+#include <QFileDialog>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QSaveFile>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <array>
+#include <set>
+
+namespace {
+
+struct Tiempo {
+    int segundos;
+    const char16_t* titulo;
+};
+constexpr std::array<Tiempo, 7> tiempos{{
+    {10, u"10 segundos"},
+    {30, u"30 segundos"},
+    {60, u"1 minuto"},
+    {300, u"5 minutos"},
+    {600, u"10 minutos"},
+    {1800, u"30 minutos"},
+    {3600, u"1 hora"},
+}};
+constexpr int tiempoInicial = 2;
+
+QString titulo(const Etiquetas& etiquetas, const FrmGrafica::Registro& registro) {
+    const QString numero = QStringLiteral("%1:%2").arg(registro.esclavo).arg(registro.direccion);
+    const Etiqueta* etiqueta = etiquetas.de(registro.esclavo, registro.direccion);
+    return etiqueta != nullptr ? QStringLiteral("%1 (%2)").arg(QString::fromStdString(etiqueta->nombre), numero)
+                               : numero;
+}
+
+} // namespace
+
+FrmGrafica::FrmGrafica(const Esclavos& esclavos, Anotaciones& anotaciones, std::span<const Registro> registros,
+                       QWidget* padre)
+    : QWidget(padre, Qt::Window), anotaciones_(anotaciones) {
+    for (const Registro& r : registros.first(std::min(registros.size(), VistaGrafica::maxLineas))) {
+        const Etiqueta* etiqueta = anotaciones.etiquetas.de(r.esclavo, r.direccion);
+        const QString unidad = etiqueta != nullptr ? QString::fromStdString(etiqueta->unidad) : QString();
+        lineas_.push_back({r.esclavo, r.direccion, titulo(anotaciones.etiquetas, r), unidad, {}});
+        if (const double* valor = esclavos.valorSiExiste(r.esclavo, r.direccion))
+            lineas_.back().historia.anotar(anotaciones.cambios.hora(), *valor);
+    }
+    construir();
+    anotaciones_.cambios.agregar(this);
+}
+
+FrmGrafica::~FrmGrafica() {
+    anotaciones_.cambios.quitar(this);
+}
+
+void FrmGrafica::construir() {
+    setAttribute(Qt::WA_DeleteOnClose);
+    setObjectName(QStringLiteral("FrmGrafica"));
+    setWindowTitle(QStringLiteral("Gráfica"));
+    vista_ = new VistaGrafica(lineas_, [this] { return anotaciones_.cambios.hora(); });
+    cmbTiempo_ = new QComboBox;
+    cmbTiempo_->setObjectName(QStringLiteral("cmbTiempo"));
+    cmbTiempo_->setAccessibleName(QStringLiteral("Tiempo que se muestra"));
+    for (const Tiempo& tiempo : tiempos)
+        cmbTiempo_->addItem(QString::fromUtf16(tiempo.titulo));
+    cmbTiempo_->setCurrentIndex(tiempoInicial);
+    connect(cmbTiempo_, &QComboBox::currentIndexChanged, this, [this](int cual) {
+        vista_->ponerVentana(std::int64_t{tiempos[static_cast<std::size_t>(cual)].segundos} * 1000);
+    });
+    chPausa_ = new QCheckBox(QStringLiteral("&Pausa"));
+    chPausa_->setObjectName(QStringLiteral("chPausa"));
+    chPausa_->setToolTip(QStringLiteral("Detiene el dibujo; los cambios se siguen anotando"));
+    connect(chPausa_, &QCheckBox::toggled, vista_, &VistaGrafica::pausar);
+    auto* imagen = new QPushButton(QStringLiteral("Guardar &imagen…"));
+    imagen->setObjectName(QStringLiteral("btnImagen"));
+    connect(imagen, &QPushButton::clicked, this, &FrmGrafica::guardarImagen);
+    auto* csv = new QPushButton(QStringLiteral("&Exportar CSV…"));
+    csv->setObjectName(QStringLiteral("btnCsv"));
+    connect(csv, &QPushButton::clicked, this, &FrmGrafica::guardarCsv);
+
+    auto* mandos = new QHBoxLayout;
+    auto* rotulo = new QLabel(QStringLiteral("&Tiempo:"));
+    rotulo->setBuddy(cmbTiempo_);
+    mandos->addWidget(rotulo);
+    mandos->addWidget(cmbTiempo_);
+    mandos->addWidget(chPausa_);
+    mandos->addStretch();
+    mandos->addWidget(imagen);
+    mandos->addWidget(csv);
+    auto* todo = new QVBoxLayout(this);
+    todo->addWidget(vista_, 1);
+    todo->addLayout(mandos);
+    vista_->setFocus();
+}
+
+void FrmGrafica::registroEscrito(int esclavo, int direccion, double antes, double ahora, Autor /*autor*/) {
+    for (LineaGrafica& linea : lineas_) {
+        if (linea.direccion != direccion || linea.esclavo != esclavo)
+            continue;
+        // A register that came into being after the window: what it held until now is known only now.
+        if (linea.historia.tramos().empty())
+            linea.historia.anotar(anotaciones_.cambios.hora(), antes);
+        if (antes != ahora)
+            linea.historia.anotar(anotaciones_.cambios.hora(), ahora);
+    }
+}
+
+QString FrmGrafica::comoCsv() const {
+    const std::int64_t hasta = vista_->fin();
+    const std::int64_t desde = hasta - vista_->ventana();
+    std::set<std::int64_t> cuando;
+    for (const LineaGrafica& linea : lineas_)
+        for (const HistoriaRegistro::Tramo& tramo : linea.historia.tramos())
+            if (tramo.desde <= hasta)
+                cuando.insert(std::max(tramo.desde, desde));
+    QString texto = QStringLiteral("fecha;hora");
+    for (const LineaGrafica& linea : lineas_) {
+        QString citado = linea.titulo;
+        texto += QStringLiteral(";\"%1\"").arg(citado.replace(QLatin1Char('"'), QStringLiteral("\"\"")));
+    }
+    texto += QStringLiteral("\r\n");
+    for (const std::int64_t t : cuando) {
+        texto += QDateTime::fromMSecsSinceEpoch(t).toString(QStringLiteral("dd/MM/yyyy;HH:mm:ss.zzz"));
+        for (const LineaGrafica& linea : lineas_) {
+            const auto valor = linea.historia.valorEn(t);
+            texto += QLatin1Char(';') + (valor ? textoLocal(*valor) : QString());
+        }
+        texto += QStringLiteral("\r\n");
+    }
+    return texto;
+}
+
+void FrmGrafica::fallo(const QString& archivo, const QString& motivo) {
+    MsgBox(this, QStringLiteral("No se pudo guardar %1: %2").arg(archivo, motivo));
+}
+
+void FrmGrafica::guardarImagen() {
+    const QPointer<FrmGrafica> sigo(this); // the window may be closed while the dialog asks
+    const QString archivo =
+        QFileDialog::getSaveFileName(this, QStringLiteral("Guardar imagen"), QStringLiteral("grafica.png"),
+                                     QStringLiteral("Imágenes PNG (*.png)"), nullptr, QFileDialog::DontUseNativeDialog);
+    if (!sigo || archivo.isEmpty())
+        return;
+    QSaveFile salida(archivo);
+    if (!salida.open(QIODevice::WriteOnly) || !vista_->grab().save(&salida, "PNG") || !salida.commit())
+        fallo(archivo, salida.errorString());
+}
+
+void FrmGrafica::guardarCsv() {
+    const QPointer<FrmGrafica> sigo(this);
+    const QString archivo =
+        QFileDialog::getSaveFileName(this, QStringLiteral("Exportar CSV"), QStringLiteral("grafica.csv"),
+                                     QStringLiteral("Texto CSV (*.csv)"), nullptr, QFileDialog::DontUseNativeDialog);
+    if (!sigo || archivo.isEmpty())
+        return;
+    QSaveFile salida(archivo);
+    const QByteArray bytes = QByteArrayLiteral("\xEF\xBB\xBF") + comoCsv().toUtf8();
+    if (!salida.open(QIODevice::WriteOnly) || salida.write(bytes) != bytes.size() || !salida.commit())
+        fallo(archivo, salida.errorString());
+}

@@ -1,0 +1,260 @@
+#include "registers/VistaGrafica.h"
+
+#include "registers/NumeroLocal.h"
+
+#include <QDateTime>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QPainterPath>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+namespace {
+
+constexpr int entreRepintados = 50; // ms
+constexpr int divisiones = 5;       // of either axis
+constexpr int margenAbajo = 22;
+constexpr int margenDerecho = 12;
+
+struct Trazo {
+    QRgb claro;  // on a light ground
+    QRgb oscuro; // on a dark one
+    Qt::PenStyle guion;
+};
+// Told apart without colours too: every line has a dash or a width of its own.
+constexpr std::array<Trazo, VistaGrafica::maxLineas> trazos{{
+    {0xff1f5fbf, 0xff7fb2ff, Qt::SolidLine},
+    {0xffb3261e, 0xffff8a80, Qt::DashLine},
+    {0xff1b7f3b, 0xff7fe0a0, Qt::DotLine},
+    {0xff7a3fb0, 0xffcf9fff, Qt::DashDotLine},
+    {0xff9a5b00, 0xffffc266, Qt::DashDotDotLine},
+    {0xff00798c, 0xff6fe3f2, Qt::SolidLine},
+    {0xff8c1d5f, 0xffff9fd0, Qt::DashLine},
+    {0xff4d4d4d, 0xffd0d0d0, Qt::DotLine},
+}};
+
+qreal grosor(std::size_t linea) {
+    return linea < 5 ? 1.6 : 2.8;
+}
+
+} // namespace
+
+VistaGrafica::VistaGrafica(const std::vector<LineaGrafica>& lineas, std::function<std::int64_t()> ahora, QWidget* padre)
+    : QWidget(padre), lineas_(lineas), ahora_(std::move(ahora)) {
+    setObjectName(QStringLiteral("vistaGrafica"));
+    setAccessibleName(QStringLiteral("Gráfica de registros"));
+    setFocusPolicy(Qt::StrongFocus);
+    setAutoFillBackground(true);
+    setBackgroundRole(QPalette::Base);
+    repintado_.setInterval(entreRepintados);
+    connect(&repintado_, &QTimer::timeout, this, qOverload<>(&QWidget::update));
+}
+
+QColor VistaGrafica::color(std::size_t linea, bool fondoOscuro) {
+    const Trazo& trazo = trazos[linea % maxLineas];
+    return QColor::fromRgb(fondoOscuro ? trazo.oscuro : trazo.claro);
+}
+
+bool VistaGrafica::fondoOscuro() const {
+    return palette().color(QPalette::Base).lightness() < 128;
+}
+
+void VistaGrafica::ponerVentana(std::int64_t milisegundos) {
+    ventana_ = std::clamp<std::int64_t>(milisegundos, 10'000, HistoriaRegistro::maxEdad);
+    update();
+}
+
+void VistaGrafica::pausar(bool pausa) {
+    parada_ = pausa ? std::optional(ahora_()) : std::nullopt;
+    update();
+}
+
+void VistaGrafica::showEvent(QShowEvent* evento) {
+    QWidget::showEvent(evento);
+    repintado_.start();
+}
+
+void VistaGrafica::hideEvent(QHideEvent* evento) {
+    QWidget::hideEvent(evento);
+    repintado_.stop();
+}
+
+QRect VistaGrafica::marco() const {
+    const QFontMetrics letra = fontMetrics();
+    const int izquierda = letra.horizontalAdvance(QStringLiteral("-00000,0")) + 10;
+    const int filas = (static_cast<int>(lineas_.size()) + 1) / 2;
+    const int arriba = filas * (letra.height() + 2) + 8;
+    return rect().adjusted(izquierda, arriba, -margenDerecho, -margenAbajo);
+}
+
+VistaGrafica::Escala VistaGrafica::escala(std::int64_t desde, std::int64_t hasta) const {
+    std::optional<Escala> todas;
+    for (const LineaGrafica& linea : lineas_) {
+        const auto hallados = linea.historia.extremos(desde, hasta + 1);
+        if (!hallados)
+            continue;
+        todas = todas ? Escala{std::min(todas->minimo, hallados->minimo), std::max(todas->maximo, hallados->maximo)}
+                      : Escala{hallados->minimo, hallados->maximo};
+    }
+    Escala e = todas.value_or(Escala{0, 1});
+    const double holgura = e.maximo > e.minimo ? (e.maximo - e.minimo) * 0.05 : 1;
+    return {e.minimo - holgura, e.maximo + holgura};
+}
+
+double VistaGrafica::y(double valor, const Escala& escala, const QRect& marco) const {
+    return marco.bottom() - (valor - escala.minimo) / (escala.maximo - escala.minimo) * marco.height();
+}
+
+std::int64_t VistaGrafica::tiempoEn(int x) const {
+    const QRect m = marco();
+    const double parte = std::clamp((x - m.left()) / static_cast<double>(std::max(1, m.width())), 0.0, 1.0);
+    return fin() - ventana_ + static_cast<std::int64_t>(parte * static_cast<double>(ventana_));
+}
+
+void VistaGrafica::paintEvent(QPaintEvent* /*evento*/) {
+    QPainter pintor(this);
+    const QRect m = marco();
+    if (m.width() < 20 || m.height() < 20)
+        return;
+    const Escala e = escala(fin() - ventana_, fin());
+    pintarEjes(pintor, m, e);
+    pintor.setRenderHint(QPainter::Antialiasing);
+    pintor.setClipRect(m.adjusted(0, -2, 1, 2));
+    for (std::size_t i = 0; i < lineas_.size(); ++i)
+        pintarLinea(pintor, m, e, i);
+    pintor.setClipping(false);
+    pintarCursor(pintor, m);
+    pintarLeyenda(pintor, m);
+    if (hasFocus()) {
+        pintor.setPen(palette().color(QPalette::Highlight));
+        pintor.drawRect(rect().adjusted(0, 0, -1, -1));
+    }
+}
+
+void VistaGrafica::pintarEjes(QPainter& pintor, const QRect& marco, const Escala& escala) const {
+    QColor reja = palette().color(QPalette::Text);
+    reja.setAlphaF(0.18F);
+    const QColor letra = palette().color(QPalette::Text);
+    for (int i = 0; i <= divisiones; ++i) {
+        const double parte = i / static_cast<double>(divisiones);
+        const int fila = marco.bottom() - static_cast<int>(parte * marco.height());
+        const int columna = marco.left() + static_cast<int>(parte * marco.width());
+        pintor.setPen(reja);
+        pintor.drawLine(marco.left(), fila, marco.right(), fila);
+        pintor.drawLine(columna, marco.top(), columna, marco.bottom());
+        pintor.setPen(letra);
+        const double valor = escala.minimo + parte * (escala.maximo - escala.minimo);
+        pintor.drawText(QRect(0, fila - 10, marco.left() - 6, 20), Qt::AlignRight | Qt::AlignVCenter,
+                        textoLocal(std::round(valor * 10) / 10));
+        const auto cuando = fin() - ventana_ + static_cast<std::int64_t>(parte * static_cast<double>(ventana_));
+        const QString hora = QDateTime::fromMSecsSinceEpoch(cuando).toString(QStringLiteral("HH:mm:ss"));
+        const int ancho = fontMetrics().horizontalAdvance(hora) + 4;
+        const int desde = std::clamp(columna - ancho / 2, 0, std::max(0, width() - ancho));
+        pintor.drawText(QRect(desde, marco.bottom() + 3, ancho, margenAbajo - 4), Qt::AlignCenter, hora);
+    }
+}
+
+// A column of pixels at a time: the step to the value that holds there, and everything between the least and the
+// greatest.
+void VistaGrafica::pintarLinea(QPainter& pintor, const QRect& marco, const Escala& escala, std::size_t cual) const {
+    const HistoriaRegistro& historia = lineas_[cual].historia;
+    const double porColumna = static_cast<double>(ventana_) / marco.width();
+    const std::int64_t principio = fin() - ventana_;
+    QPainterPath camino;
+    bool empezado = false;
+    for (int columna = 0; columna < marco.width(); ++columna) {
+        const auto desde = principio + static_cast<std::int64_t>(columna * porColumna);
+        const auto hasta = principio + static_cast<std::int64_t>((columna + 1) * porColumna);
+        const auto extremos = historia.extremos(desde, std::max(hasta, desde + 1));
+        if (!extremos)
+            continue;
+        const double x = marco.left() + columna + 0.5;
+        const double ultimo = y(*historia.valorEn(std::max(hasta - 1, desde)), escala, marco);
+        if (!empezado)
+            camino.moveTo(x, y(extremos->minimo, escala, marco));
+        empezado = true;
+        if (extremos->minimo != extremos->maximo) {
+            camino.lineTo(x, y(extremos->maximo, escala, marco));
+            camino.lineTo(x, y(extremos->minimo, escala, marco));
+        }
+        camino.lineTo(x, ultimo);
+    }
+    pintor.setPen(QPen(color(cual, fondoOscuro()), grosor(cual), trazos[cual % maxLineas].guion));
+    pintor.setBrush(Qt::NoBrush);
+    pintor.drawPath(camino);
+}
+
+void VistaGrafica::pintarCursor(QPainter& pintor, const QRect& marco) const {
+    if (!cursor_ || *cursor_ < fin() - ventana_ || *cursor_ > fin())
+        return;
+    const double parte = static_cast<double>(*cursor_ - (fin() - ventana_)) / static_cast<double>(ventana_);
+    const int x = marco.left() + static_cast<int>(parte * marco.width());
+    pintor.setPen(QPen(palette().color(QPalette::Text), 1, Qt::DashLine));
+    pintor.drawLine(x, marco.top(), x, marco.bottom());
+}
+
+QString VistaGrafica::valorDeLeyenda(const LineaGrafica& linea) const {
+    const auto valor = linea.historia.valorEn(cursor_.value_or(fin()));
+    const QString texto = valor ? textoLocal(*valor) : QStringLiteral("sin dato");
+    return linea.unidad.isEmpty() || !valor ? texto : texto + QLatin1Char(' ') + linea.unidad;
+}
+
+void VistaGrafica::pintarLeyenda(QPainter& pintor, const QRect& marco) const {
+    const QFontMetrics letra = fontMetrics();
+    const int ancho = marco.width() / 2;
+    for (std::size_t i = 0; i < lineas_.size(); ++i) {
+        const int x = marco.left() + static_cast<int>(i % 2) * ancho;
+        const int fila = 4 + static_cast<int>(i / 2) * (letra.height() + 2);
+        pintor.setPen(QPen(color(i, fondoOscuro()), grosor(i), trazos[i % maxLineas].guion));
+        pintor.drawLine(x, fila + letra.height() / 2, x + 26, fila + letra.height() / 2);
+        pintor.setPen(palette().color(QPalette::Text));
+        const QString texto = lineas_[i].titulo + QStringLiteral(" = ") + valorDeLeyenda(lineas_[i]);
+        pintor.drawText(QRect(x + 32, fila, ancho - 36, letra.height()), Qt::AlignLeft | Qt::AlignVCenter,
+                        letra.elidedText(texto, Qt::ElideRight, ancho - 36));
+    }
+    if (lineas_.empty())
+        pintor.drawText(marco, Qt::AlignCenter, QStringLiteral("Ningún registro"));
+}
+
+void VistaGrafica::mousePressEvent(QMouseEvent* evento) {
+    if (evento->button() == Qt::LeftButton) {
+        cursor_ = tiempoEn(evento->position().toPoint().x());
+        update();
+    } else if (evento->button() == Qt::MiddleButton) {
+        cursor_.reset();
+        update();
+    }
+}
+
+void VistaGrafica::mouseMoveEvent(QMouseEvent* evento) {
+    if (evento->buttons().testFlag(Qt::LeftButton)) {
+        cursor_ = tiempoEn(evento->position().toPoint().x());
+        update();
+    }
+}
+
+void VistaGrafica::keyPressEvent(QKeyEvent* evento) {
+    const std::int64_t paso = std::max<std::int64_t>(1, ventana_ / std::max(1, marco().width()));
+    switch (evento->key()) {
+    case Qt::Key_Left:
+        cursor_ = std::max(cursor_.value_or(fin()) - paso, fin() - ventana_);
+        break;
+    case Qt::Key_Right:
+        cursor_ = std::min(cursor_.value_or(fin()) + paso, fin());
+        break;
+    case Qt::Key_Escape:
+        if (!cursor_) {
+            QWidget::keyPressEvent(evento);
+            return;
+        }
+        cursor_.reset();
+        break;
+    default:
+        QWidget::keyPressEvent(evento);
+        return;
+    }
+    update();
+}
