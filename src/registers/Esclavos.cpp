@@ -63,7 +63,7 @@ void Esclavos::darValorEsclavoLogico(double esclavo, double direccion, double va
         destino.pagina->mostrarEnOtraCelda(static_cast<int>(i), anterior, celda, valor);
 }
 
-bool Esclavos::escribirSiExiste(std::int64_t esclavo, std::int64_t direccion, double valor) noexcept {
+bool Esclavos::escribirSiExiste(std::int64_t esclavo, std::int64_t direccion, double valor) {
     const double* const actual = valorSiExiste(esclavo, direccion);
     if (actual == nullptr || !(valor >= 0 && valor <= 65535))
         return false;

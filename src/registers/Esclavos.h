@@ -104,7 +104,7 @@ public:
 
     // Writes as escribir() does if slave and register exist and the value is one that a register holds; else false, and
     // nothing has changed.
-    bool escribirSiExiste(std::int64_t esclavo, std::int64_t direccion, double valor) noexcept;
+    bool escribirSiExiste(std::int64_t esclavo, std::int64_t direccion, double valor);
 
     // The registers of a slave, empty for one that does not exist. Valid until the next operation that may grow it.
     std::span<const double> valores(int numero) const;

@@ -43,6 +43,7 @@ QPushButton* boton(QWidget* padre, const char* nombre, const QString& texto, con
 QLabel* aviso(QWidget* padre, const char* nombre) {
     auto* etiqueta = nombrado(new QLabel(padre), nombre);
     etiqueta->setWordWrap(true);
+    etiqueta->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // a long word must not widen the window
     etiqueta->setTextInteractionFlags(Qt::TextSelectableByMouse);
     etiqueta->hide();
     return etiqueta;

@@ -43,8 +43,13 @@ void Estacion::ponerPeticionesACero() {
     escucha_.ponerACero();
 }
 
+// A file that cannot be read for the moment, for want of a descriptor or because its folder is away, moves no listener.
 double Estacion::leerPuerto() {
-    return config.leerNumero("PUERTO_VALOR", "502").value_or(0);
+    const bool vale = !config.ilegible();
+    const double leido = config.leerNumero("PUERTO_VALOR", "502").value_or(0);
+    if (vale)
+        ultimoPuerto_ = leido;
+    return ultimoPuerto_.value_or(leido);
 }
 
 void Estacion::guardarPuerto(double puerto) {

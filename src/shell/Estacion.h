@@ -27,6 +27,7 @@
 #include <chrono>
 #include <filesystem>
 #include <memory>
+#include <optional>
 #include <string>
 
 // What the program was started with.
@@ -103,7 +104,8 @@ private:
     Peticiones peticiones_{esclavos, monitores, reloj_};
     VentanaEstacion* ventana_ = nullptr; // borrowed; null: what there is to show is dropped
     Escucha escucha_;
-    QSocketNotifier avisador_; // wakes the event loop for the reactor's sockets
+    QSocketNotifier avisador_;           // wakes the event loop for the reactor's sockets
+    std::optional<double> ultimoPuerto_; // read from a file that could be read
     std::string avisoCarpeta_;
     std::string avisoConfig_; // the configuration file cannot be read or written
     std::string avisoPuerto_;

@@ -31,6 +31,7 @@
 
 #include <cstdio>
 #include <filesystem>
+#include <utility>
 
 namespace {
 
@@ -219,6 +220,8 @@ void FrmPrincipal::comprobarPuertoYVisibilidad() {
 }
 
 void FrmPrincipal::aplicarVisibilidad() {
+    if (std::exchange(visibilidadAplicada_, true) && estacion_.config.ilegible())
+        return;
     if (estacion_.config.leerConfiguracion("ver", "1") != "1")
         hide();
     else if (!isVisible())
@@ -313,6 +316,7 @@ void FrmPrincipal::mostrarEscuchando(bool escuchando) {
 
 void FrmPrincipal::mostrarAviso(const std::string& texto) {
     controles_->lblDDEAviso->setText(QString::fromStdString(texto));
+    controles_->lblDDEAviso->setToolTip(QString::fromStdString(texto));
     controles_->lblDDEAviso->setVisible(!texto.empty());
 }
 

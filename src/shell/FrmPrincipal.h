@@ -97,4 +97,5 @@ private:
     QTimer TimerCambioPuerto_{this};
     QTimer timerAux_{this}; // the script runner's auxiliary tick; nothing starts it
     bool apagada_ = false;
+    bool visibilidadAplicada_ = false;
 };

@@ -42,6 +42,12 @@ void Modulo_Config::escribir(std::string_view clave, std::string_view valor) con
         ultimaEscritura_ = WriteINI(rutaArchivo(), seccionPrincipal, clave, valor);
 }
 
+bool Modulo_Config::ilegible() const {
+    std::string bytes;
+    const std::error_code lectura = leerBytes(rutaArchivo(), bytes);
+    return lectura && lectura != std::errc::no_such_file_or_directory;
+}
+
 std::string Modulo_Config::fallo() const {
     std::string bytes;
     const std::error_code lectura = leerBytes(rutaArchivo(), bytes);

@@ -38,6 +38,9 @@ public:
     // The number in the form that leerNumero reads.
     void escribirNumero(std::string_view clave, double numero) const;
 
+    // The file is there and cannot be read now: its keys read as their defaults.
+    bool ilegible() const;
+
     char16_t signoDecimal() const { return signoDecimal_; }
 
     // Full path of the default project file, empty without one. Belongs to other programs: read, never written.

@@ -445,7 +445,7 @@ private Q_SLOTS:
             "a = MsgBox(\"x\", 4)\r\nmw.escribir 1, 0, a\r\nmw.escribir 1, 1, InputBox(\"v\", \"t\", \"5\")");
         QVERIFY(p.cargar());
         p.ventana->ejecucion_timers(1);
-        QCOMPARE(p.estacion->esclavos.valores(1)[0], 1.0);
+        QCOMPARE(p.estacion->esclavos.valores(1)[0], 6.0); // the box has "Sí" and "No"
         QCOMPARE(p.estacion->esclavos.valores(1)[1], 5.0);
     }
 

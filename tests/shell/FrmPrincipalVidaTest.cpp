@@ -91,6 +91,21 @@ private Q_SLOTS:
         QVERIFY(!p.ventana->isVisible());
     }
 
+    void settingsThatCannotBeReadForAMomentMoveNeitherListenerNorWindow() {
+        PrincipalDePrueba p;
+        QVERIFY(p.cargar());
+        clic(p, "BtnOcultar");
+        p.tic();
+        QVERIFY(!p.ventana->isVisible());
+        const QString puerto = p.control<QLabel>("LblPuertoLocal").text();
+        std::filesystem::rename(p.config.rutaArchivo(), p.carpeta / "fuera");
+        std::filesystem::create_directory(p.config.rutaArchivo());
+        p.tic();
+        QCOMPARE(p.control<QLabel>("LblPuertoLocal").text(), puerto);
+        QVERIFY(p.estacion->escucha().escuchando());
+        QVERIFY(!p.ventana->isVisible());
+    }
+
     void windowFitsASmallScreen() {
         PrincipalDePrueba p("", Arranque{.avisoCarpeta = std::string(300, 'x') + " y más"});
         QVERIFY(p.cargar());

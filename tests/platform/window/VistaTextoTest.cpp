@@ -290,7 +290,8 @@ private Q_SLOTS:
             int cuantas = 0;
             for (int fila = 0; fila < 2; ++fila)
                 for (int columna = 0; columna < 11; ++columna)
-                    cuantas += imagen.pixel(4 + columna * letra + letra / 2, 4 + fila * vista.fontMetrics().height()) == color;
+                    cuantas +=
+                        imagen.pixel(4 + columna * letra + letra / 2, 4 + fila * vista.fontMetrics().height()) == color;
             return cuantas;
         };
         QCOMPARE(marcas(), 0);
