@@ -6,12 +6,19 @@
 #include <cstdio>
 #include <utility>
 
+namespace {
+
+constexpr int descriptoresDeReserva = 16;
+
+} // namespace
+
 Estacion::Estacion(const std::filesystem::path& carpeta, Arranque conQue)
     : arranque(std::move(conQue)), config(carpeta, decimalSign()),
       escucha_(reactor, peticiones_, *this, eventos, arranque.rutaPrograma),
       avisador_(reactor.descriptor(), QSocketNotifier::Read),
       archivoEtiquetas_(config.rutaArchivo().parent_path(), anotaciones.etiquetas) {
     esclavos.observarCambios(&anotaciones.cambios);
+    reactor.keepDescriptors(descriptoresDeReserva);
     QObject::connect(&avisador_, &QSocketNotifier::activated, &avisador_, [this] { reactor.turn(); });
 }
 

@@ -111,6 +111,8 @@ void FrmPrincipal::crearMenus() {
     connect(acciones_, &AccionesRegistros::destinoElegido, this, &FrmPrincipal::irARegistro);
     auto* barra = new QMenuBar(this);
     barra->setObjectName(QStringLiteral("menuPrincipal"));
+    // One drawn elsewhere is reached through a bus and a thread, which end the program when no descriptor is left.
+    barra->setNativeMenuBar(false);
     acciones_->agregarA(*barra->addMenu(QStringLiteral("&Registros")));
     QMenu* const ver = barra->addMenu(QStringLiteral("&Ver"));
     ver->addAction(QStringLiteral("&Estadísticas"), Qt::CTRL | Qt::Key_I, this, &FrmPrincipal::mostrarEstadisticas);

@@ -2,6 +2,9 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <climits>
+#include <fcntl.h>
+#include <sys/resource.h>
 #include <sys/timerfd.h>
 #include <system_error>
 #include <utility>
@@ -126,6 +129,15 @@ Reactor::Handler* Reactor::handlerFor(Watch watch, Interest interest) const {
     const Slot* slot = find(watch);
     const bool wanted = slot != nullptr && (epollMask(slot->interest) & epollMask(interest)) != 0;
     return wanted ? slot->handler : nullptr;
+}
+
+// The kernel gives out the lowest number that is free, so that number tells how many are taken.
+int Reactor::descriptorsToTake() const {
+    rlimit limit{};
+    if (spareDescriptors_ == 0 || getrlimit(RLIMIT_NOFILE, &limit) != 0 || limit.rlim_cur > INT_MAX)
+        return INT_MAX;
+    const Descriptor next(fcntl(timer_.number(), F_DUPFD_CLOEXEC, 0));
+    return next ? static_cast<int>(limit.rlim_cur) - spareDescriptors_ - next.number() : 0;
 }
 
 void Reactor::waitForDescriptor(Watch listener) {

@@ -79,6 +79,12 @@ public:
     void remove(Watch watch);
     bool alive(Watch watch) const { return find(watch) != nullptr; }
 
+    // Listeners leave so many descriptors to the rest of the program: files, and threads of its libraries, which end it
+    // when they get none. 0 at first.
+    void keepDescriptors(int spare) { spareDescriptors_ = spare; }
+    // How many connections a listener may take now.
+    int descriptorsToTake() const;
+
     /// Stops watching a listener for which the system has no descriptor left, until descriptorFreed() or for 100 ms.
     void waitForDescriptor(Watch listener);
     /// A descriptor was closed: listeners that wait are watched again.
@@ -122,6 +128,7 @@ private:
     void dispatch(const epoll_event& event);
 
     Descriptor epoll_;
+    int spareDescriptors_ = 0;
     Descriptor timer_;
     RetryTimer retryTimer_{*this};
     std::vector<Slot> slots_;

@@ -241,7 +241,12 @@ void Winsock::onNestedTurn() {
 }
 
 void Winsock::takeRequests() {
-    for (int count = 0; count < requestsPerTurn; ++count) {
+    const int room = reactor_.descriptorsToTake();
+    if (room <= 0) {
+        reactor_.waitForDescriptor(watch_);
+        return;
+    }
+    for (int count = 0; count < requestsPerTurn && count < room; ++count) {
         sockaddr_storage peer{};
         socklen_t size = sizeof peer;
         Descriptor connection(
