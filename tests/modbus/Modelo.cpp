@@ -1,5 +1,6 @@
 #include "Modelo.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <sstream>
 
@@ -20,6 +21,7 @@ std::string texto(double numero) {
         return std::to_string(static_cast<long>(numero));
     char cifras[32];
     std::snprintf(cifras, sizeof cifras, "%.15g", numero);
+    std::replace(cifras, cifras + sizeof cifras, ',', '.'); // whatever the locale says
     return cifras;
 }
 
