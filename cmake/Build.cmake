@@ -36,8 +36,12 @@ if(ESCLAVO_SANITIZE)
   # The check of virtual tables opens a pipe to look at memory, and accuses falsely when no descriptor is left.
   target_compile_options(project_options INTERFACE -fno-sanitize=vptr)
   target_link_options(project_options INTERFACE -fsanitize=${ESCLAVO_SANITIZE})
-elseif(NOT CMAKE_BUILD_TYPE STREQUAL "Debug" AND NOT BUILD_TESTING)
-  esclavo_harden(project_options)
+elseif(NOT CMAKE_BUILD_TYPE STREQUAL "Debug")
+  esclavo_harden(project_options) # what is tested and measured is what users get
+endif()
+# The standard library checks its own preconditions where speed does not count.
+if(ESCLAVO_SANITIZE OR CMAKE_BUILD_TYPE STREQUAL "Debug")
+  target_compile_definitions(project_options INTERFACE _GLIBCXX_ASSERTIONS)
 endif()
 
 if(ESCLAVO_FUZZ)
