@@ -1,5 +1,6 @@
 #include "registers/Esclavos.h"
 
+#include "platform/system/Memoria.h"
 #include "registers/Cambios.h"
 #include "registers/ErrorEjecucion.h"
 #include "registers/Palabra.h"
@@ -9,6 +10,15 @@
 #include <utility>
 
 namespace {
+
+// What tables and pages leave to the rest of the program: they grow as masters and scripts ask, while a window that
+// finds no memory for its next text or picture ends the program.
+constexpr std::size_t reservaMemoria = std::size_t{24} * 1024 * 1024; // bytes
+
+void exigirMemoria(std::size_t bytes) {
+    if (!hayMemoria(reservaMemoria + bytes))
+        throw ErrorEjecucion(ErrorEjecucion::memoriaAgotada);
+}
 
 std::size_t indice(double x, int limite) {
     const std::int32_t entero = entero32(x);
@@ -106,6 +116,7 @@ void Esclavos::crearEsclavo(double numero, double primera, double ultima) {
         return;
     if (n > maxNumero || paginas_ >= maxPaginas)
         throw ErrorEjecucion(ErrorEjecucion::memoriaAgotada);
+    exigirMemoria(0);
     if (n > limite())
         registros_.resize(static_cast<std::size_t>(n) + 1);
     EsclavoMW& nuevo = registros_[static_cast<std::size_t>(n)];
@@ -137,9 +148,12 @@ void Esclavos::ampliar(EsclavoMW& registro, double nuevoLimite) {
         return;
     if (totalRegistros_ + cantidad - valores.size() > maxRegistros)
         throw ErrorEjecucion(ErrorEjecucion::memoriaAgotada);
+    if (cantidad > valores.capacity()) {
+        const std::size_t capacidad = std::max(cantidad, valores.size() + valores.size() / 4);
+        exigirMemoria(capacidad * sizeof(double));
+        valores.reserve(capacidad);
+    }
     totalRegistros_ += cantidad - valores.size();
-    if (cantidad > valores.capacity())
-        valores.reserve(std::max(cantidad, valores.size() + valores.size() / 4));
     valores.resize(cantidad, 0.0);
 }
 

@@ -1,10 +1,15 @@
 // What the store refuses: indices outside, numbers that are none, and its ceilings.
+#include "ProcesoHijo.h"
 #include "errores.h"
 #include "registers/Esclavos.h"
 
 #include <array>
+#include <fstream>
 #include <gtest/gtest.h>
 #include <limits>
+#include <sys/resource.h>
+#include <unistd.h>
+#include <vector>
 
 namespace {
 
@@ -41,6 +46,37 @@ protected:
 
     Esclavos esclavos;
 };
+
+// In a child: the program may take that many bytes more.
+bool limitarMemoria(std::size_t masBytes) {
+    std::size_t paginas = 0;
+    std::ifstream("/proc/self/statm") >> paginas;
+    const rlim_t tope = paginas * static_cast<std::size_t>(::sysconf(_SC_PAGESIZE)) + masBytes;
+    const rlimit limite{tope, tope};
+    return ::setrlimit(RLIMIT_AS, &limite) == 0;
+}
+
+// A sanitizer takes terabytes of addresses before the program starts.
+#ifndef __SANITIZE_ADDRESS__
+TEST_F(StoreErrors, whenMemoryRunsShortTablesGrowNoMoreAndTheProgramKeepsSome) {
+    EXPECT_EQ(enProcesoHijo([&] {
+                  if (!limitarMemoria(std::size_t{64} << 20))
+                      return 1;
+                  int error = 0;
+                  int creados = 0;
+                  for (; error == 0 && creados < 256; ++creados)
+                      error = alCrear(10 + creados, 0, 65535); // half a megabyte each
+                  if (error != 7 || creados < 10 || esclavos.existe(10 + creados - 1))
+                      return 2;
+                  const std::size_t cuantos = esclavos.valores(1).size();
+                  if (alAmpliar(1, 1'000'000, 0) != 7 || esclavos.valores(1).size() != cuantos)
+                      return 3;
+                  const std::vector<char> resto(16 << 20);
+                  return resto.empty() || alEscribir(10, 65535, 7) != 0 ? 4 : 0;
+              }),
+              0);
+}
+#endif
 
 TEST_F(StoreErrors, writeToAMissingSlaveRaisesNineAndCreatesNothing) {
     EXPECT_EQ(alEscribir(6, 0, 1), 9) << "above the highest";
