@@ -17,11 +17,13 @@
 #include <QApplication>
 #include <QIcon>
 #include <QLibraryInfo>
+#include <QThreadPool>
 
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
+#include <optional>
 #include <span>
 #include <string>
 #include <sys/resource.h>
@@ -48,11 +50,10 @@ int responder(const LineaDeComandos& linea) {
 }
 
 // Without a screen the station serves all the same.
-EleccionPantalla elegirPlataforma(const LineaDeComandos& linea) {
+EleccionPantalla elegirPlataforma(const LineaDeComandos& linea, const Pantallas& pantallas) {
     const char* const delEntorno = std::getenv("QT_QPA_PLATFORM");
     const std::string pedida = linea.plataforma.empty() && delEntorno != nullptr ? delEntorno : linea.plataforma;
-    EleccionPantalla eleccion =
-        elegirPantalla(pedida, PantallasDelEntorno(QLibraryInfo::path(QLibraryInfo::PluginsPath).toStdString()));
+    EleccionPantalla eleccion = elegirPantalla(pedida, pantallas);
     if (!eleccion.motivo.empty())
         std::fprintf(stderr, "esclavo-modbus: %s; la estación atiende sin ventana.\n", eleccion.motivo.c_str());
     return eleccion;
@@ -65,6 +66,15 @@ void ampliarDescriptores() {
         limite.rlim_cur = limite.rlim_max;
         setrlimit(RLIMIT_NOFILE, &limite);
     }
+}
+
+// Qt paints large areas in a thread of this pool, which it makes when it needs it and ends when it is idle; one that
+// cannot be made for want of memory is waited for without end. So there is one from the start, and it stays.
+void conservarHiloDePintura() {
+    QThreadPool& hilos = *QThreadPool::globalInstance();
+    hilos.setMaxThreadCount(1);
+    hilos.setExpiryTimeout(-1);
+    hilos.start([] {});
 }
 
 QIcon iconoPrograma() {
@@ -84,7 +94,8 @@ int main(int argc, char** argv) {
     std::signal(SIGPIPE, SIG_IGN);
     SenalesTermino::retener();
     ampliarDescriptores();
-    EleccionPantalla pantalla = elegirPlataforma(linea);
+    std::optional<PantallasDelEntorno> pantallas(QLibraryInfo::path(QLibraryInfo::PluginsPath).toStdString());
+    EleccionPantalla pantalla = elegirPlataforma(linea, *pantallas);
 
     useSystemLocale();
     // The last option of a name holds, so that this one stands above what the user asked for.
@@ -96,6 +107,8 @@ int main(int argc, char** argv) {
     palabras.push_back(nullptr);
     filtrarMensajesQt();
     QApplication aplicacion(cuantas, palabras.data());
+    pantallas.reset();
+    conservarHiloDePintura();
     // NOLINTNEXTLINE(clang-analyzer-cplusplus.NewDeleteLeaks): the application owns its style
     QApplication::setStyle(new EstiloLegible);
     QApplication::setApplicationName(QStringLiteral("esclavo-modbus"));

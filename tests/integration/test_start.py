@@ -11,6 +11,7 @@ import time
 import unittest
 from pathlib import Path
 
+from hands import Hands
 from screen import Screen
 from station import BINARY, PATIENCE, Station, wait_for
 
@@ -57,6 +58,13 @@ class Start(unittest.TestCase):
                 self.assertIn("no se puede abrir la pantalla", station.errors())
         with Station(environment={**bare, "DISPLAY": ":9876"}, arguments=["-platform", "xcb"]) as station:
             self.assertEqual(len(station.ask(READ_TEN, 29)), 29)
+
+    def test_a_screen_that_begins_anew_when_its_last_client_leaves_is_found_every_time(self):
+        with Screen() as screen, Hands() as hands:
+            for _ in range(8):
+                with Station(environment={**screen.environment, **hands.environment}):
+                    hands.wait_for_shown("FrmPrincipal")
+                hands.forget()
 
     def test_in_a_folder_that_cannot_be_written_the_users_own_takes_the_settings(self):
         with tempfile.TemporaryDirectory() as home:

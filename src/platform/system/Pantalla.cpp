@@ -27,17 +27,21 @@ public:
     BibliotecaXcb(const BibliotecaXcb&) = delete;
     BibliotecaXcb& operator=(const BibliotecaXcb&) = delete;
 
-    // Connects to the screen that DISPLAY names, with its permissions.
-    bool conecta() const {
+    // Connects to the screen that DISPLAY names, with its permissions; nullptr when that fails.
+    void* conectar() const {
         const auto conectar = funcion<void*(const char*, int*)>("xcb_connect");
         const auto conFallo = funcion<int(void*)>("xcb_connection_has_error");
-        const auto desconectar = funcion<void(void*)>("xcb_disconnect");
-        if (conectar == nullptr || conFallo == nullptr || desconectar == nullptr)
-            return false;
+        if (conectar == nullptr || conFallo == nullptr)
+            return nullptr;
         void* const conexion = conectar(nullptr, nullptr);
-        const bool conectada = conFallo(conexion) == 0;
+        if (conFallo(conexion) == 0)
+            return conexion;
         desconectar(conexion);
-        return conectada;
+        return nullptr;
+    }
+    void desconectar(void* conexion) const {
+        if (const auto desconectar = funcion<void(void*)>("xcb_disconnect"); desconectar != nullptr)
+            desconectar(conexion);
     }
 
 private:
@@ -87,7 +91,10 @@ std::string PantallasDelEntorno::nombreWayland() const {
 }
 
 bool PantallasDelEntorno::respondeX() const {
-    return BibliotecaXcb().conecta();
+    auto biblioteca = std::make_shared<BibliotecaXcb>();
+    if (void* const conexion = biblioteca->conectar(); conexion != nullptr)
+        conexionX_ = {conexion, [biblioteca](void* abierta) { biblioteca->desconectar(abierta); }};
+    return conexionX_ != nullptr;
 }
 
 bool PantallasDelEntorno::respondeWayland() const {

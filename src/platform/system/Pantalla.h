@@ -1,11 +1,13 @@
 // Whether windows can be shown at all, tried before the window system is started: that one ends the program when it
 // cannot reach its screen.
 //
-//     const EleccionPantalla eleccion = elegirPantalla("", PantallasDelEntorno(complementos));
+//     PantallasDelEntorno pantallas(complementos);
+//     const EleccionPantalla eleccion = elegirPantalla("", pantallas);
 //     if (!eleccion.motivo.empty()) ...   // nobody will see the windows
 #pragma once
 
 #include <filesystem>
+#include <memory>
 #include <string>
 #include <utility>
 
@@ -14,13 +16,15 @@ class Pantallas {
 public:
     virtual std::string nombreX() const = 0;       // DISPLAY
     virtual std::string nombreWayland() const = 0; // WAYLAND_DISPLAY
-    virtual bool respondeX() const = 0;            // connects to the screen and leaves it again
+    virtual bool respondeX() const = 0;            // connects to the screen
     virtual bool respondeWayland() const = 0;
 
 protected:
     ~Pantallas() = default;
 };
 
+// Stays connected to the X screen that answered for as long as it lives: one whose last client leaves begins anew and
+// refuses others meanwhile. So it is kept until the window system has connected itself.
 class PantallasDelEntorno final : public Pantallas {
 public:
     // `complementos`: the window system's folder of plug-ins; without one for Wayland no such screen answers.
@@ -33,6 +37,7 @@ public:
 
 private:
     std::filesystem::path complementos_;
+    mutable std::shared_ptr<void> conexionX_;
 };
 
 struct EleccionPantalla {
