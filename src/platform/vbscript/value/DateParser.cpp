@@ -25,10 +25,15 @@ bool isLetter(char16_t c) noexcept {
     return toLower(c) != toUpper(c) || c == u'.';
 }
 
-bool isSign(std::u16string_view text, std::size_t i) noexcept {
+// Where the point is the decimal sign it separates dates only if the locale's own are written with it.
+bool pointSeparates(const Locale& locale) noexcept {
+    return locale.decimal != u'.' || locale.shortDate.find(u'.') != std::u16string::npos;
+}
+
+bool isSign(std::u16string_view text, std::size_t i, const Locale& locale) noexcept {
     const char16_t c = text[i];
     return c == u'/' || c == u'-' || c == u':' || c == u',' ||
-           (c == u'.' && i + 1 < text.size() && isDigit(text[i + 1]));
+           (c == u'.' && i + 1 < text.size() && isDigit(text[i + 1]) && pointSeparates(locale));
 }
 
 std::optional<Piece> numberAt(std::u16string_view text, std::size_t start) {
@@ -43,7 +48,7 @@ std::optional<Piece> numberAt(std::u16string_view text, std::size_t start) {
     return Piece{Piece::Number, n, i - start, text.substr(start, i - start)};
 }
 
-bool cut(std::u16string_view text, std::vector<Piece>& pieces) {
+bool cut(std::u16string_view text, const Locale& locale, std::vector<Piece>& pieces) {
     for (std::size_t i = 0; i < text.size();) {
         const char16_t c = text[i];
         if (c == u' ' || c == u'\t' || c == 0xA0) {
@@ -55,7 +60,7 @@ bool cut(std::u16string_view text, std::vector<Piece>& pieces) {
             }
             pieces.push_back(*number);
             i += number->digits;
-        } else if (isSign(text, i)) {
+        } else if (isSign(text, i, locale)) {
             pieces.push_back({Piece::Sign, c, 0, text.substr(i, 1)});
             ++i;
         } else if (isLetter(c)) {
@@ -244,7 +249,8 @@ private:
     std::optional<double> twoNumbers() const {
         const Piece& a = m_numbers[0];
         const Piece& b = m_numbers[1];
-        if (b.before != u'/' && b.before != u'-') {
+        const bool point = b.before == u'.' && m_locale.shortDate.find(u'.') != std::u16string::npos;
+        if (b.before != u'/' && b.before != u'-' && !point) {
             return std::nullopt;
         }
         const auto dayFirst = looksLikeYear(b) ? std::nullopt : checked(m_thisYear, b.number, a.number);
@@ -272,7 +278,7 @@ private:
 
 std::optional<double> parseDate(std::u16string_view text, const Locale& locale, int thisYear) {
     std::vector<Piece> pieces;
-    if (!cut(text, pieces)) {
+    if (!cut(text, locale, pieces)) {
         return std::nullopt;
     }
     return DateReader(std::move(pieces), locale, thisYear).read();
