@@ -116,9 +116,10 @@ enum class Store : std::uint8_t { Raw = 0, Let = 1, Set = 2, Discard = 3 };
     OP(SetMemberN)     /* A.site C(B ... X of them) = the value after them */                                          \
     OP(GetName)        /* A = C, a name that may be variable or function */                                            \
     OP(CheckDefined)   /* error 500 if nothing has defined global C */                                                 \
-    OP(FindName)       /* A = reference to what global name C is in this call; X = 1: error 500 if it is nothing, */   \
-                       /* X = 2: the reference is to B then, and of what is no variable A gets the value */            \
-    OP(New)            /* A = new object of class C (global) */                                                        \
+    OP(FindName)       /* A = reference to what global name C is in this call; X & 1: error 500 if it is nothing, */   \
+                       /* X & 4: error 501 if it is no variable; X = 2: the reference is to B if it is nothing, */     \
+                       /* and of what is no variable A gets the value */                                               \
+    OP(New)            /* A = new object of class C */                                                                 \
     OP(NewNamed)       /* A = new object of the built-in class whose name is constant C */                             \
     OP(Me)             /* A = Me */                                                                                    \
     OP(ReDim)          /* A gets the upper bounds B, B+1 ... (X of them) */                                            \

@@ -22,8 +22,9 @@ CodeGen::CodeGen(UnitScope& scope, const ProcedureDecl& decl, Procedure& procedu
     procedure.parameters = static_cast<std::uint16_t>(decl.parameters.size());
 }
 
-void CodeGen::addCaptured(Symbol name) {
-    newLocal(name, true);
+void CodeGen::addCaptured(LocalName name) {
+    newLocal(name.symbol, true);
+    m_locals[name.symbol].kind = name.kind;
     ++m_procedure.parameters;
     m_procedure.byValue.push_back(false);
 }
@@ -40,7 +41,11 @@ void CodeGen::generate() {
     m_procedure.plainParameters = m_procedure.anyByValue ? UINT16_MAX : m_procedure.parameters;
     if (m_decl.dynamicScope) {
         for (const Symbol symbol : m_localOrder) {
-            m_procedure.locals.emplace_back(symbol, static_cast<std::uint16_t>(indexOf(m_locals.at(symbol).operand)));
+            const Local& local = m_locals.at(symbol);
+            const auto kind = local.literal != nullptr      ? LocalName::Kind::Constant
+                              : local.late != Globals::none ? LocalName::Kind::Late
+                                                            : local.kind;
+            m_procedure.locals.push_back({{symbol, kind}, static_cast<std::uint16_t>(indexOf(local.operand))});
         }
     }
 }
@@ -63,7 +68,7 @@ void CodeGen::layOut() {
     if (answers) {
         m_procedure.resultSlot = static_cast<int>(newLocal(m_decl.name, false));
     }
-    if (!isMain || m_procedure.parameters > 0) {
+    if (!isMain || m_procedure.localText) {
         for (const Variable& variable : m_decl.variables) {
             if (!m_locals.contains(variable.name)) {
                 newLocal(variable.name, false);
@@ -117,8 +122,11 @@ bool CodeGen::isMember(Symbol symbol) const {
 Resolved CodeGen::resolve(Symbol symbol) {
     Resolved r;
     if (const auto local = m_locals.find(symbol); local != m_locals.end()) {
+        using LK = LocalName::Kind;
         r.literal = local->second.literal;
-        r.kind = r.literal != nullptr ? Resolved::Kind::Constant : Resolved::Kind::Variable;
+        r.kind = r.literal != nullptr || local->second.kind == LK::Constant ? Resolved::Kind::Constant
+                 : local->second.kind == LK::Callable                       ? Resolved::Kind::Callable
+                                                                            : Resolved::Kind::Variable;
         r.operand = r.literal != nullptr ? constantOf(*r.literal) : local->second.operand;
         r.mayRefer = local->second.mayRefer;
         r.late = local->second.late != Globals::none;
@@ -137,9 +145,22 @@ Resolved CodeGen::resolve(Symbol symbol) {
             return r;
         }
     }
-    r = m_scope.resolve(symbol);
+    return resolveOutside(symbol);
+}
+
+// What the name means beyond the procedure and the class around it.
+Resolved CodeGen::resolveOutside(Symbol symbol) {
+    Resolved r = m_scope.resolve(symbol);
     if (r.literal != nullptr) {
         r.operand = constantOf(*r.literal);
+    } else if (r.local != nullptr) {
+        Value itself;
+        itself.type = Type::Procedure;
+        itself.pointer = r.local;
+        r.operand = constant(std::move(itself));
+    } else if (r.kind == Resolved::Kind::Variable && m_scope.isPassed(symbol)) {
+        r.kind = Resolved::Kind::Unknown;
+        r.passed = true;
     }
     return r;
 }
@@ -157,11 +178,13 @@ Resolved CodeGen::resolveCallee(Symbol symbol) {
             r.member = m_owner->find(symbol);
             return r;
         }
-        return m_scope.resolve(symbol);
+        return resolveOutside(symbol);
     }
-    if (m_decl.kind == ProcedureDecl::Kind::Main && m_locals.contains(symbol)) {
+    const auto local = m_locals.find(symbol);
+    if (m_decl.kind == ProcedureDecl::Kind::Main && local != m_locals.end() &&
+        local->second.kind < LocalName::Kind::Constant) {
         // The text of an Eval sees the result of the function that runs it under the function's name.
-        const Resolved global = m_scope.resolve(symbol);
+        const Resolved global = resolveOutside(symbol);
         if (global.kind == Resolved::Kind::Callable) {
             return global;
         }
@@ -171,11 +194,11 @@ Resolved CodeGen::resolveCallee(Symbol symbol) {
 
 // Where the value of a name is that nothing has defined yet. In a procedure that uses Execute it is searched when the
 // instruction before its use runs.
-Operand CodeGen::unresolved(const Resolved& name) {
+Operand CodeGen::unresolved(const Resolved& name, Use use) {
     const bool checked = m_scope.ast.optionExplicit;
-    if (m_decl.dynamicScope && (m_decl.kind != ProcedureDecl::Kind::Main || m_procedure.parameters > 0)) {
+    if (m_decl.dynamicScope && (m_decl.kind != ProcedureDecl::Kind::Main || m_procedure.localText)) {
         const Operand to = newTemporary();
-        emit(encode(Opcode::FindName, to, 0, name.operand, checked ? 1 : 0));
+        emit(encode(Opcode::FindName, to, 0, name.operand, (checked ? 1U : 0U) | (use == Use::Assigned ? 4U : 0U)));
         return to;
     }
     if (checked) {

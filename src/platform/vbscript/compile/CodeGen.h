@@ -30,9 +30,11 @@ struct Resolved {
     Operand operand = 0;
     const Expr* literal = nullptr; // of a Constant of this text
     bool late = false;             // a Variable of the procedure unless `slot` is defined by then
+    bool passed = false;           // an Unknown that is a variable until a text says otherwise
     bool mayRefer = false;         // the register may hold a reference to a variable elsewhere
     std::uint32_t slot = 0;
     const ProcedureDecl* procedure = nullptr; // of Callable, where it is declared in this text
+    Callable* local = nullptr;                // of Callable, where only this text knows it: no slot, the thing itself
     const ClassMember* member = nullptr;
     const Builtin* builtin = nullptr;
     Special special = Special::None;
@@ -47,8 +49,13 @@ public:
     std::uint32_t slotOf(Symbol symbol);
     std::uint32_t slotOf(Symbol symbol, Position declared);
     Position at{1, 1}; // of what is being compiled
+    // The procedure or class is no global: only this text and its scope know it.
+    void keepLocal(Symbol symbol, Callable* callable) { m_local[symbol] = callable; }
     // The name will be a global variable because the main text assigns it.
     void makeImplicit(Symbol symbol);
+    // The same for a name that the text only reads and passes on: one that it runs may make it a function.
+    void makePassed(Symbol symbol);
+    bool isPassed(Symbol symbol) const { return m_passed.contains(symbol); }
     // Whether a call may assign the parameter's variable.
     bool writesParameter(const ProcedureDecl& procedure, std::size_t index);
 
@@ -66,6 +73,8 @@ private:
     std::unordered_set<Symbol> m_variables;
     std::unordered_map<Symbol, const Expr*> m_constants;
     std::unordered_set<Symbol> m_implicit;
+    std::unordered_set<Symbol> m_passed; // of those
+    std::unordered_map<Symbol, Callable*> m_local;
 };
 
 class CodeGen {
@@ -73,7 +82,7 @@ public:
     CodeGen(UnitScope& scope, const ProcedureDecl& decl, Procedure& procedure, const ScriptClass* owner);
 
     // Names that come as references in the first registers (Execute in a procedure).
-    void addCaptured(Symbol name);
+    void addCaptured(LocalName name);
     void generate();
 
 private:
@@ -82,6 +91,7 @@ private:
         bool mayRefer;
         const Expr* literal;                // of constants
         std::uint32_t late = Globals::none; // the global that goes first, once it is defined
+        LocalName::Kind kind = LocalName::Kind::Variable;
     };
     using Label = std::vector<std::size_t>; // jumps that wait for their target
 
@@ -91,8 +101,10 @@ private:
     bool isMember(Symbol symbol) const;
     void addImplicitLocals();
     Resolved resolve(Symbol symbol);
+    Resolved resolveOutside(Symbol symbol);
     Resolved resolveCallee(Symbol symbol);
-    Operand unresolved(const Resolved& name);
+    enum class Use { Read, Assigned };
+    Operand unresolved(const Resolved& name, Use use = Use::Read);
     Operand newTemporary();
     Operand newHidden();
     bool isTemporary(Operand o) const noexcept { return placeOf(o) == Place::Frame && indexOf(o) >= m_hiddenEnd; }
@@ -163,6 +175,7 @@ private:
     void copyBack(const Prepared& prepared);
     Operand contiguous(const std::vector<Expr*>& args);
     const ClassMember* ownMember(const Expr* e);
+    const ClassMember* ownIndexed(const Expr* e);
     bool isNativeObject(const Expr* e);
 
     // assignment

@@ -49,7 +49,7 @@ void CodeGen::assignName(const Expr* target, const Expr* value, Store store) {
         assignOwn(*r.member, {}, value, store);
         return;
     case Resolved::Kind::Unknown:
-        if (const Operand variable = unresolved(r); isTemporary(variable)) {
+        if (const Operand variable = unresolved(r, Use::Assigned); isTemporary(variable)) {
             emit(encode(store == Store::Set ? Opcode::StoreSet : Opcode::StoreLet, variable, expr(value)));
         } else {
             exprTo(value, variable, store);
@@ -75,7 +75,7 @@ bool CodeGen::isFixedArray(Symbol symbol) {
 void CodeGen::assignCall(const Expr* target, const Expr* value, Store store) {
     const Expr* callee = target->a;
     if (callee->kind == Expr::Kind::Member) {
-        if (const ClassMember* own = ownMember(callee)) {
+        if (const ClassMember* own = ownIndexed(callee)) {
             assignOwn(*own, target->args, value, store);
         } else {
             assignMember(callee->a, callee->symbol, target->args, value, store);

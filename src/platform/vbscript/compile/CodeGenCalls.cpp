@@ -21,6 +21,15 @@ const ClassMember* CodeGen::ownMember(const Expr* e) {
                : nullptr;
 }
 
+// The same for a member with arguments; null for a public variable without bounds, which only the object can tell to be
+// one that takes an index.
+const ClassMember* CodeGen::ownIndexed(const Expr* e) {
+    const ClassMember* own = ownMember(e);
+    const bool plain = own != nullptr && own->field >= 0 && !own->isPrivate &&
+                       !m_owner->fields[static_cast<std::size_t>(own->field)].array;
+    return plain ? nullptr : own;
+}
+
 // e: callee e->a with e->args
 void CodeGen::callTo(const Expr* e, Operand to, Store store) {
     const std::size_t mark = m_temporary;
@@ -151,7 +160,7 @@ void CodeGen::specialTo(const Expr* e, Special special, Operand to, Store store)
 }
 
 void CodeGen::callMemberTo(const Expr* e, const Expr* callee, Operand to, Store store) {
-    if (const ClassMember* own = ownMember(callee)) {
+    if (const ClassMember* own = ownIndexed(callee)) {
         if (own->field >= 0 && e->args.empty() && store != Store::Discard) {
             raiseAtRun(ErrorNumber::InvalidCall, noSymbol); // Me.size()
         } else {
@@ -248,8 +257,13 @@ void CodeGen::argumentTo(const Expr* e, Operand to, bool byValue) {
             m_temporary = mark;
             return;
         }
-        if (r.kind == Resolved::Kind::Variable) {
+        if (r.kind == Resolved::Kind::Variable || r.passed) {
             emit(encode(Opcode::Reference, to, r.operand));
+            if (r.passed) {
+                const std::size_t mark = m_temporary;
+                emit(encode(Opcode::GetName, to, newTemporary(), to, packed(1, Store::Raw)));
+                m_temporary = mark;
+            }
             return;
         }
     }

@@ -198,14 +198,14 @@ void CodeGen::memberTo(const Expr* e, Operand to, Store store) {
 
 void CodeGen::newTo(const Expr* e, Operand to, Store store) {
     const std::u16string& name = m_scope.symbols.folded(e->symbol);
-    const Resolved r = m_scope.resolve(e->symbol);
+    const auto local = m_locals.find(e->symbol);
+    const bool captured = local != m_locals.end() && local->second.kind == LocalName::Kind::Callable;
+    const Resolved r = captured ? resolve(e->symbol) : resolveOutside(e->symbol);
     if (name == u"regexp") { // a class of that name in the script does not hide it
         emit(encode(Opcode::NewNamed, to, 0, textConstant(e->symbol), packed(0, store)));
     } else if (r.kind == Resolved::Kind::Callable || r.kind == Resolved::Kind::Unknown) {
-        if (r.kind == Resolved::Kind::Unknown && m_scope.ast.optionExplicit) {
-            emit(encode(Opcode::CheckDefined, 0, 0, r.operand));
-        }
-        emit(encode(Opcode::New, to, 0, r.operand, packed(0, store)));
+        const Operand cls = r.kind == Resolved::Kind::Unknown ? unresolved(r) : r.operand;
+        emit(encode(Opcode::New, to, 0, cls, packed(0, store)));
     } else {
         raiseAtRun(ErrorNumber::ClassUndefined, e->symbol);
     }

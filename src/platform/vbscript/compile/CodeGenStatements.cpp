@@ -142,7 +142,7 @@ void CodeGen::selectStatement(const Stmt& s) {
 Operand CodeGen::counterOf(Symbol symbol, Operand instead) {
     const Resolved r = resolve(symbol);
     if (r.kind == Resolved::Kind::Unknown) {
-        return unresolved(r);
+        return unresolved(r, Use::Assigned);
     }
     if (r.kind != Resolved::Kind::Variable || isFixedArray(symbol)) {
         raiseAtRun(r.kind == Resolved::Kind::Variable ? ErrorNumber::TypeMismatch : ErrorNumber::IllegalAssignment,

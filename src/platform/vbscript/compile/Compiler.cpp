@@ -31,6 +31,11 @@ void UnitScope::makeImplicit(Symbol symbol) {
     }
 }
 
+void UnitScope::makePassed(Symbol symbol) {
+    makeImplicit(symbol);
+    m_passed.insert(symbol);
+}
+
 std::uint32_t UnitScope::slotOf(Symbol symbol) {
     if (globals.full() && globals.find(symbol) == Globals::none) {
         throw CompileError{ErrorNumber::TooManyNames, at};
@@ -62,8 +67,12 @@ Resolved UnitScope::resolve(Symbol symbol) {
             return r;
         }
     }
-    r.slot = slotOf(symbol);
-    r.operand = operandOf(Place::Global, r.slot);
+    if (const auto local = m_local.find(symbol); local != m_local.end()) {
+        r.local = local->second;
+    } else {
+        r.slot = slotOf(symbol);
+        r.operand = operandOf(Place::Global, r.slot);
+    }
     r.procedure = procedure != m_procedures.end() ? procedure->second : nullptr;
     if (r.procedure != nullptr || m_classes.contains(symbol)) {
         r.kind = Resolved::Kind::Callable;
@@ -165,6 +174,20 @@ std::unique_ptr<ScriptClass> declareClass(const ClassDecl& decl, Unit& unit, Sym
     return cls;
 }
 
+// Every name that the text assigns somewhere.
+std::unordered_set<Symbol> namesChanged(const Ast& ast) {
+    std::unordered_set<Symbol> names(ast.main.changed.begin(), ast.main.changed.end());
+    const auto add = [&names](const ProcedureDecl* procedure) {
+        names.insert(procedure->assigned.begin(), procedure->assigned.end());
+        names.insert(procedure->changed.begin(), procedure->changed.end());
+    };
+    std::for_each(ast.procedures.begin(), ast.procedures.end(), add);
+    for (const ClassDecl* decl : ast.classes) {
+        std::for_each(decl->members.begin(), decl->members.end(), add);
+    }
+    return names;
+}
+
 // What a unit defines among the globals.
 void declareGlobals(UnitScope& scope) {
     const ProcedureDecl& main = scope.ast.main;
@@ -191,9 +214,17 @@ void declareGlobals(UnitScope& scope) {
         }
     };
     std::for_each(main.assigned.begin(), main.assigned.end(), makeImplicit);
+    const std::unordered_set<Symbol> changed = namesChanged(scope.ast);
     for (const Passed& passed : main.passed) {
-        if (passed.callee == noSymbol || scope.resolve(passed.callee).kind != Resolved::Kind::Intrinsic) {
-            makeImplicit(passed.name);
+        const bool toIntrinsic =
+            passed.callee != noSymbol && scope.resolve(passed.callee).kind == Resolved::Kind::Intrinsic;
+        if (toIntrinsic || scope.resolve(passed.name).kind != Resolved::Kind::Unknown) {
+            continue;
+        }
+        if (changed.contains(passed.name)) {
+            scope.makeImplicit(passed.name);
+        } else {
+            scope.makePassed(passed.name);
         }
     }
 }
@@ -218,24 +249,98 @@ void checkRedefinitions(const Ast& ast) {
     }
 }
 
+enum class Reach { Global, Local };
+
 // Compiles everything but the main procedure.
-void compileDeclarations(UnitScope& scope) {
+void compileDeclarations(UnitScope& scope, Reach reach) {
     const Ast& ast = scope.ast;
     Unit& unit = scope.unit;
     checkRedefinitions(ast);
+    const auto declare = [&](Symbol name, Position at, Callable* callable) {
+        if (reach == Reach::Global) {
+            unit.callables.emplace_back(scope.slotOf(name, at), callable);
+        } else {
+            unit.localCallables.emplace_back(name, callable);
+            scope.keepLocal(name, callable);
+        }
+    };
     std::vector<std::pair<const ProcedureDecl*, Procedure*>> bodies;
     for (const ClassDecl* decl : ast.classes) {
         unit.classes.push_back(declareClass(*decl, unit, scope.symbols, bodies));
-        unit.callables.emplace_back(scope.slotOf(decl->name, decl->at), unit.classes.back().get());
+        declare(decl->name, decl->at, unit.classes.back().get());
     }
     for (const ProcedureDecl* decl : ast.procedures) {
         Procedure* procedure = unit.procedures.emplace_back(std::make_unique<Procedure>()).get();
         bodies.emplace_back(decl, procedure);
-        unit.callables.emplace_back(scope.slotOf(decl->name, decl->at), procedure);
+        declare(decl->name, decl->at, procedure);
     }
     for (const auto& [decl, procedure] : bodies) {
         CodeGen(scope, *decl, *procedure, procedure->owner).generate();
     }
+}
+
+// What the text finds under the name in the procedure that runs it; null for nothing.
+const LocalName* findLocal(const LocalScope& localScope, Symbol name) {
+    const auto found = std::find_if(localScope.names.rbegin(), localScope.names.rend(),
+                                    [name](const LocalName& known) { return known.symbol == name; });
+    return found != localScope.names.rend() ? &*found : nullptr;
+}
+
+// Whether the text declares the name as a constant, a procedure or a class.
+bool declares(const Ast& ast, Symbol name) {
+    const auto named = [name](const auto& decl) { return decl.name == name; };
+    const auto pointsTo = [name](const auto* decl) { return decl->name == name; };
+    return std::any_of(ast.main.constants.begin(), ast.main.constants.end(), named) ||
+           std::any_of(ast.procedures.begin(), ast.procedures.end(), pointsTo) ||
+           std::any_of(ast.classes.begin(), ast.classes.end(), pointsTo);
+}
+
+// Notes the constants of a text that Execute runs in a procedure. A variable of the procedure can become neither
+// constant nor procedure.
+void checkLocals(UnitScope& scope, const LocalScope& localScope) {
+    const auto check = [&localScope](Symbol name, Position at) {
+        const LocalName* known = findLocal(localScope, name);
+        if (known != nullptr && known->kind == LocalName::Kind::Variable) {
+            throw CompileError{ErrorNumber::NameRedefined, at};
+        }
+    };
+    for (const ConstDecl& constant : scope.ast.main.constants) {
+        check(constant.name, constant.at);
+        scope.unit.localConstants.emplace_back(constant.name, foldConstant(*constant.value));
+    }
+    for (const ProcedureDecl* procedure : scope.ast.procedures) {
+        check(procedure->name, procedure->at);
+    }
+    for (const ClassDecl* decl : scope.ast.classes) {
+        check(decl->name, decl->at);
+    }
+}
+
+// The variables that a text makes in the procedure that runs it: those that it declares, also over a constant, and
+// those that it assigns and nobody knows.
+std::vector<Symbol> namesMade(UnitScope& scope, const LocalScope& localScope) {
+    std::vector<Symbol> made;
+    const auto isField = [&localScope](Symbol name) {
+        return localScope.owner != nullptr && localScope.owner->find(name) != nullptr;
+    };
+    const auto add = [&made](Symbol name) {
+        if (std::find(made.begin(), made.end(), name) == made.end()) {
+            made.push_back(name);
+        }
+    };
+    for (const Variable& variable : scope.ast.main.variables) {
+        const LocalName* known = findLocal(localScope, variable.name);
+        if (known == nullptr || known->kind >= LocalName::Kind::Constant) {
+            add(variable.name);
+        }
+    }
+    for (const Symbol name : scope.ast.main.assigned) {
+        if (findLocal(localScope, name) == nullptr && !isField(name) &&
+            scope.resolve(name).kind == Resolved::Kind::Unknown) {
+            add(name);
+        }
+    }
+    return made;
 }
 
 } // namespace
@@ -254,7 +359,7 @@ std::unique_ptr<Unit> Compiler::compileUnit(std::u16string_view text) {
     const std::unique_ptr<Ast> ast = parser.parse();
     UnitScope scope(*ast, m_symbols, m_globals, m_library, *unit);
     declareGlobals(scope);
-    compileDeclarations(scope);
+    compileDeclarations(scope, Reach::Global);
     CodeGen(scope, ast->main, unit->main, nullptr).generate();
     unit->names.close();
     return unit;
@@ -265,29 +370,17 @@ Unit* Compiler::compileLocal(std::u16string_view text, const LocalScope& localSc
     Parser parser(text, m_symbols);
     const std::unique_ptr<Ast> ast = parser.parse();
     UnitScope scope(*ast, m_symbols, m_globals, m_library, *unit);
-    compileDeclarations(scope);
+    compileDeclarations(scope, Reach::Local);
+    checkLocals(scope, localScope);
     CodeGen main(scope, ast->main, unit->main, localScope.owner);
-    for (const Symbol name : localScope.names) {
-        main.addCaptured(name);
+    for (const LocalName& name : localScope.names) {
+        main.addCaptured(declares(*ast, name.symbol) ? LocalName{} : name); // its own meaning hides the older one
     }
-    const auto known = [&](Symbol name) {
-        return std::find(localScope.names.begin(), localScope.names.end(), name) != localScope.names.end() ||
-               std::find(created.begin(), created.end(), name) != created.end() ||
-               (localScope.owner != nullptr && localScope.owner->find(name) != nullptr);
-    };
-    for (const Variable& variable : ast->main.variables) {
-        if (!known(variable.name)) {
-            created.push_back(variable.name);
-        }
-    }
-    for (const Symbol name : ast->main.assigned) {
-        if (!known(name) && scope.resolve(name).kind == Resolved::Kind::Unknown) {
-            created.push_back(name);
-        }
-    }
+    created = namesMade(scope, localScope);
     for (const Symbol name : created) {
-        main.addCaptured(name);
+        main.addCaptured({name});
     }
+    unit->main.localText = true;
     main.generate();
     unit->names.close();
     return unit.release();
@@ -301,9 +394,10 @@ Unit* Compiler::compileExpression(std::u16string_view text, const LocalScope& lo
     ast->main.name = result;
     UnitScope scope(*ast, m_symbols, m_globals, m_library, *unit);
     CodeGen main(scope, ast->main, unit->main, localScope.owner);
-    for (const Symbol name : localScope.names) {
+    for (const LocalName& name : localScope.names) {
         main.addCaptured(name);
     }
+    unit->main.localText = true;
     main.generate();
     unit->names.close();
     return unit.release();

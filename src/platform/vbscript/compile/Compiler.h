@@ -16,7 +16,7 @@ namespace vbs {
 // The place from which Execute and Eval see their names: the locals of the procedure that runs them come as references
 // in the first registers of the unit's main procedure, in this order.
 struct LocalScope {
-    std::span<const Symbol> names;
+    std::span<const LocalName> names;   // of one name the last entry counts
     const ScriptClass* owner = nullptr; // class of Me, if any
 };
 
@@ -29,8 +29,8 @@ public:
     Unit* compile(std::u16string_view text);
     // Throws what compile() would; nothing stays of the text.
     void check(std::u16string_view text);
-    // Execute inside a procedure. `created` receives the names that the text makes in the local scope; their references
-    // follow those of `scope.names`.
+    // Execute inside a procedure. `created` receives the variables that the text makes in the local scope; their
+    // references follow those of `scope.names`. Its constants and procedures stand in the unit.
     Unit* compileLocal(std::u16string_view text, const LocalScope& scope, std::vector<Symbol>& created);
     // Eval: the main procedure is a function that answers the value of the expression.
     Unit* compileExpression(std::u16string_view text, const LocalScope& scope);

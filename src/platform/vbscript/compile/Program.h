@@ -41,6 +41,14 @@ struct MemberSite {
     ShortRoad shortRoad = nullptr;             // of host objects
 };
 
+// A name that Execute and Eval find in the procedure that runs them.
+struct LocalName {
+    // Late: a variable, unless the name means something else by the time of its use.
+    enum class Kind : std::uint8_t { Variable, Late, Constant, Callable };
+    Symbol symbol = noSymbol;
+    Kind kind = Kind::Variable;
+};
+
 struct Procedure : Callable {
     Procedure() noexcept : Callable(Kind::Procedure) {}
 
@@ -63,7 +71,8 @@ struct Procedure : Callable {
     std::uint16_t registers = 0;
     int resultSlot = -1;
     bool dynamicScope = false;
-    std::vector<std::pair<Symbol, std::uint16_t>> locals; // only with dynamicScope
+    bool localText = false; // what Execute or Eval run in the scope of the frame beneath
+    std::vector<std::pair<LocalName, std::uint16_t>> locals; // only with dynamicScope
 
     const StatementMark* markAt(std::size_t pc) const noexcept;
 };
@@ -114,6 +123,10 @@ public:
     std::vector<std::uint32_t> variables; // declared
     std::vector<std::uint32_t> arrays;    // those of them that are declared with parentheses
     std::vector<std::uint32_t> implicit;  // made by their use
+
+    // Of a text that Execute runs in a procedure: what belongs to that call of it.
+    std::vector<std::pair<Symbol, Callable*>> localCallables;
+    std::vector<std::pair<Symbol, Value>> localConstants;
 
     // Names that procedures took as local because no global of that name was known.
     std::vector<Symbol> assumedLocal;

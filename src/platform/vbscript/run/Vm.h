@@ -97,6 +97,13 @@ private:
     static constexpr int maxReentries = 120;
     static constexpr int pollInterval = 10000;
 
+    // A name that Execute made in a call of a procedure.
+    struct Made {
+        Value value;
+        LocalName::Kind kind = LocalName::Kind::Variable;
+        Unit* unit = nullptr; // of a callable
+    };
+
     struct Frame {
         const Procedure* procedure;
         const Instruction* pc;
@@ -106,7 +113,7 @@ private:
         Value* result;
         Store store;
         bool resumeNext;
-        std::unordered_map<Symbol, std::unique_ptr<Value>>* extra; // names made by Execute
+        std::unordered_map<Symbol, Made>* extra; // names made by Execute
     };
 
     // Dispatch
@@ -134,6 +141,9 @@ private:
     bool mayRun(const Unit& unit) const noexcept;
     Value* freeRegisters() noexcept;
     Frame& top() noexcept { return m_frames[m_depth - 1]; }
+    Frame& scopeFrame() noexcept;
+    Made& made(Symbol symbol);
+    void makeLocals(const Unit& unit);
     Value& at(Operand o) noexcept;
     bool isTemporary(Operand o) noexcept;
     void consume(Operand o) noexcept;
@@ -193,6 +203,7 @@ private:
     void executeText(Instruction instruction);
     Value runLocalText(std::u16string_view text, bool expression);
     void getRef(Instruction instruction);
+    const Value* findNamed(Symbol symbol) noexcept;
     void onError(bool resumeNext);
     [[noreturn]] void raiseCompiled(Instruction instruction);
     [[noreturn]] void raiseUndefined(std::size_t slot);

@@ -106,9 +106,11 @@ void Vm::findName(Instruction instruction) {
     const auto slot = static_cast<std::uint32_t>(indexOf(operandC(instruction)));
     Value& to = at(operandA(instruction));
     Value* found = &m_globals[slot];
-    if (const auto* made = top().extra; made != nullptr) {
+    bool constant = false;
+    if (auto* made = scopeFrame().extra; made != nullptr) {
         if (const auto entry = made->find(m_globals.symbol(slot)); entry != made->end()) {
-            found = entry->second.get();
+            found = &entry->second.value;
+            constant = entry->second.kind == LocalName::Kind::Constant;
         }
     }
     to.clear();
@@ -117,12 +119,16 @@ void Vm::findName(Instruction instruction) {
         found = &at(operandB(instruction)).deref();
     }
     const GlobalKind kind = m_globals.kind(slot);
-    if (mode == 2 && found == &m_globals[slot] && (kind == GlobalKind::Constant || kind == GlobalKind::Object)) {
+    constant = constant || (found == &m_globals[slot] && (kind == GlobalKind::Constant || kind == GlobalKind::Object));
+    if ((mode & 4) != 0 && (constant || found->type == Type::Procedure)) {
+        raise(ErrorNumber::IllegalAssignment, m_symbols.name(m_globals.symbol(slot)));
+    }
+    if (mode == 2 && constant) {
         to = *found;
     } else if (found->type != Type::Undefined) {
         to.type = Type::Reference;
         to.target = found;
-    } else if (mode == 1) {
+    } else if ((mode & 1) != 0) {
         raiseUndefined(slot);
     }
 }

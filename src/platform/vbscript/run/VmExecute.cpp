@@ -14,8 +14,11 @@ namespace vbs {
 
 void Vm::makeNew(Instruction instruction) {
     const Operand c = operandC(instruction);
-    const Value& named = at(c);
+    const Value& named = at(c).deref();
     if (named.type != Type::Procedure || static_cast<const Callable*>(named.pointer)->kind != Callable::Kind::Class) {
+        if (placeOf(c) != Place::Global) {
+            raise(ErrorNumber::ClassUndefined);
+        }
         raise(ErrorNumber::ClassUndefined, m_symbols.name(m_globals.symbol(static_cast<std::uint32_t>(indexOf(c)))));
     }
     const auto& cls = *static_cast<const ScriptClass*>(static_cast<const Callable*>(named.pointer));
@@ -37,15 +40,23 @@ void Vm::getRef(Instruction instruction) {
     if (!given.isString()) {
         raise(ErrorNumber::TypeMismatch);
     }
-    const String name = toString(*this, given);
-    const std::uint32_t slot = m_globals.find(m_symbols.find(name.view()));
-    const Value* named = slot == Globals::none ? nullptr : &m_globals[slot];
-    if (named == nullptr || named->type != Type::Procedure ||
-        static_cast<const Callable*>(named->pointer)->kind != Callable::Kind::Procedure) {
+    const Value* named = findNamed(m_symbols.find(given.text()));
+    const Procedure* procedure = named != nullptr ? procedureIn(*named) : nullptr;
+    if (procedure == nullptr) {
         raise(ErrorNumber::InvalidCall);
     }
-    const auto& procedure = *static_cast<const Procedure*>(static_cast<const Callable*>(named->pointer));
-    at(operandA(instruction)) = makeObject<ProcedureReference>(*this, procedure).value();
+    at(operandA(instruction)) = makeObject<ProcedureReference>(*this, *procedure).value();
+}
+
+// What the name stands for in the running call, or else among the globals; null for nothing.
+const Value* Vm::findNamed(Symbol symbol) noexcept {
+    if (const auto* extra = scopeFrame().extra; extra != nullptr) {
+        if (const auto entry = extra->find(symbol); entry != extra->end()) {
+            return &entry->second.value;
+        }
+    }
+    const std::uint32_t slot = m_globals.find(symbol);
+    return slot == Globals::none ? nullptr : &m_globals[slot];
 }
 
 void Vm::executeText(Instruction instruction) {
@@ -63,8 +74,8 @@ void Vm::executeText(Instruction instruction) {
     }
     const String text = toString(*this, given);
     const bool local =
-        kind != 1 && (top().procedure->dynamicScope || top().me != nullptr || kind == 2) &&
-        (kind == 2 || top().procedure->form != ProcedureDecl::Kind::Main || top().procedure->parameters > 0);
+        kind == 2 || (kind != 1 && (top().procedure->dynamicScope || top().me != nullptr) &&
+                      (top().procedure->form != ProcedureDecl::Kind::Main || top().procedure->localText));
     Value result;
     try {
         if (local) {
@@ -78,19 +89,64 @@ void Vm::executeText(Instruction instruction) {
     at(operandA(instruction)) = std::move(result);
 }
 
+// The frame of the procedure that a running Execute or Eval belongs to, however deep they stand in each other.
+Vm::Frame& Vm::scopeFrame() noexcept {
+    Frame* frame = &top();
+    while (frame->procedure->localText) {
+        --frame;
+    }
+    return *frame;
+}
+
+// The entry of a name that Execute makes in the running call, made if need be.
+Vm::Made& Vm::made(Symbol symbol) {
+    Frame& frame = scopeFrame();
+    if (frame.extra == nullptr) {
+        frame.extra = new std::unordered_map<Symbol, Made>;
+    }
+    const auto [entry, added] = frame.extra->try_emplace(symbol);
+    if (added) {
+        m_symbols.hold(symbol);
+    }
+    if (Unit* before = std::exchange(entry->second.unit, nullptr); before != nullptr) {
+        release(before);
+    }
+    return entry->second;
+}
+
+// Procedures, classes and constants of a text that runs in a procedure belong to that call of it.
+void Vm::makeLocals(const Unit& unit) {
+    for (const auto& [symbol, callable] : unit.localCallables) {
+        Made& entry = made(symbol);
+        entry.kind = LocalName::Kind::Callable;
+        entry.unit = callable->kind == Callable::Kind::Class ? static_cast<ScriptClass*>(callable)->unit
+                                                             : static_cast<Procedure*>(callable)->unit;
+        retain(entry.unit);
+        Value itself;
+        itself.type = Type::Procedure;
+        itself.pointer = callable;
+        overwrite(entry.value, std::move(itself));
+    }
+    for (const auto& [symbol, value] : unit.localConstants) {
+        Made& entry = made(symbol);
+        entry.kind = LocalName::Kind::Constant;
+        overwrite(entry.value, value);
+    }
+}
+
 // Execute and Eval where local names are in sight: they reach the text as references.
 Value Vm::runLocalText(std::u16string_view text, bool expression) {
-    Frame& frame = top();
-    std::vector<Symbol> names;
+    const Frame& frame = top();
+    std::vector<LocalName> names;
     std::vector<Value*> variables;
-    for (const auto& [symbol, index] : frame.procedure->locals) {
-        names.push_back(symbol);
+    for (const auto& [name, index] : frame.procedure->locals) {
+        names.push_back(name);
         variables.push_back(&frame.base[index].deref());
     }
-    if (frame.extra != nullptr) {
-        for (const auto& [symbol, value] : *frame.extra) {
-            names.push_back(symbol);
-            variables.push_back(value.get());
+    if (auto* extra = scopeFrame().extra; extra != nullptr) {
+        for (auto& [symbol, entry] : *extra) {
+            names.push_back({symbol, entry.kind});
+            variables.push_back(&entry.value);
         }
     }
     const LocalScope scope{names, frame.procedure->owner};
@@ -103,20 +159,18 @@ Value Vm::runLocalText(std::u16string_view text, bool expression) {
     } releaseAtEnd{*this, unit};
     bind(unit);
     for (const Symbol symbol : created) {
-        if (frame.extra == nullptr) {
-            frame.extra = new std::unordered_map<Symbol, std::unique_ptr<Value>>;
-        }
-        auto value = std::make_unique<Value>();
-        variables.push_back(value.get());
-        frame.extra->emplace(symbol, std::move(value));
-        m_symbols.hold(symbol);
+        Made& entry = made(symbol);
+        entry.kind = LocalName::Kind::Variable;
+        overwrite(entry.value, {});
+        variables.push_back(&entry.value);
     }
+    makeLocals(*unit);
     std::vector<Value> references(variables.size());
     for (std::size_t i = 0; i < variables.size(); ++i) {
         references[i].type = Type::Reference;
         references[i].target = variables[i];
     }
-    return callProcedure(unit->main, frame.me, references);
+    return callProcedure(unit->main, scopeFrame().me, references);
 }
 
 // ---------------------------------------------------------------------------------------------------------------

@@ -40,8 +40,11 @@ void Vm::clearRegisters(const Frame& frame, std::size_t from) noexcept {
 // Gives up the names that Execute made in the frame.
 void Vm::dropExtra(const Frame& frame) noexcept {
     if (frame.extra != nullptr) {
-        for (const auto& [symbol, value] : *frame.extra) {
+        for (const auto& [symbol, made] : *frame.extra) {
             m_symbols.release(symbol);
+            if (made.unit != nullptr) {
+                release(made.unit);
+            }
         }
         delete frame.extra;
     }
