@@ -1,6 +1,8 @@
 #include "platform/profile/ArchivoBytes.h"
 
 #include <cerrno>
+#include <charconv>
+#include <csignal>
 #include <fcntl.h>
 #include <optional>
 #include <sys/stat.h>
@@ -88,17 +90,48 @@ void asentarCarpeta(const std::filesystem::path& carpeta) {
         ::fsync(descriptor.numero());
 }
 
+// The number in "name.number.tmp", or 0 when `nombre` is not a temporary file for `archivo`.
+pid_t duenoDeTemporal(std::string_view nombre, std::string_view archivo) {
+    constexpr std::string_view fin = ".tmp";
+    if (!nombre.starts_with(archivo) || !nombre.ends_with(fin) || nombre.size() < archivo.size() + fin.size() + 2 ||
+        nombre[archivo.size()] != '.')
+        return 0;
+    const std::string_view numero = nombre.substr(archivo.size() + 1, nombre.size() - archivo.size() - fin.size() - 1);
+    pid_t dueno = 0;
+    const char* const final = numero.data() + numero.size();
+    const bool entero = std::from_chars(numero.data(), final, dueno).ptr == final;
+    return entero && dueno > 0 ? dueno : 0;
+}
+
+// Removes the temporary files of processes that were killed before theirs took the name.
+void quitarRestos(const std::filesystem::path& destino) {
+    std::error_code error;
+    const std::string archivo = destino.filename();
+    const std::filesystem::path carpeta = destino.has_parent_path() ? destino.parent_path() : ".";
+    std::filesystem::directory_iterator entrada(carpeta, error);
+    for (; !error && entrada != std::filesystem::directory_iterator(); entrada.increment(error))
+        if (const pid_t dueno = duenoDeTemporal(entrada->path().filename().native(), archivo);
+            dueno > 0 && ::kill(dueno, 0) != 0 && errno == ESRCH)
+            ::unlink(entrada->path().c_str());
+}
+
 bool prohibido(const std::error_code& error) {
     return error == std::errc::permission_denied || error == std::errc::read_only_file_system ||
            error == std::errc::operation_not_permitted;
 }
 
+// Takes the space first, so that a full disk leaves the old text as it is.
 std::error_code escribirEnElSitio(const std::filesystem::path& archivo, std::string_view bytes) {
-    const Descriptor descriptor(archivo, O_WRONLY | O_TRUNC | O_NONBLOCK);
+    const Descriptor descriptor(archivo, O_WRONLY | O_NONBLOCK);
     if (!descriptor.abierto())
         return ultimoError();
+    const auto largo = static_cast<off_t>(bytes.size());
+    if (const int fallo = bytes.empty() ? 0 : ::posix_fallocate(descriptor.numero(), 0, largo); fallo != 0)
+        return {fallo, std::generic_category()};
     if (const std::error_code error = escribirTodo(descriptor.numero(), bytes))
         return error;
+    if (::ftruncate(descriptor.numero(), largo) != 0)
+        return ultimoError();
     return ::fsync(descriptor.numero()) == 0 ? std::error_code{} : ultimoError();
 }
 
@@ -159,6 +192,7 @@ std::error_code reemplazarBytes(const std::filesystem::path& archivo, std::strin
         ::unlink(temporal.c_str());
     else
         asentarCarpeta(destino.parent_path());
+    quitarRestos(destino);
     return error;
 }
 

@@ -3,8 +3,12 @@
 #include "CarpetaTemporal.h"
 #include "ProcesoHijo.h"
 
+#include <atomic>
 #include <gtest/gtest.h>
+#include <random>
+#include <sys/mman.h>
 #include <sys/stat.h>
+#include <thread>
 
 namespace fs = std::filesystem;
 
@@ -82,6 +86,19 @@ TEST_F(ArchivoBytes, aFileThatMayBeWrittenInAFolderThatMayNotIsWrittenInPlace) {
     EXPECT_EQ(archivosEnCarpeta(), 1U);
 }
 
+TEST_F(ArchivoBytes, aFullDiskLeavesAFileThatIsWrittenInPlaceAlone) {
+    escribirArchivo(archivo, "viejo");
+    fs::permissions(archivo, fs::perms(0666));
+    fs::permissions(carpeta.ruta(), fs::perms(0555));
+    EXPECT_EQ(enProcesoHijo([&] {
+                  if (!soltarPrivilegios() || !limitarArchivos(1000))
+                      return 1;
+                  return reemplazarBytes(archivo, std::string(5000, 'x')) ? 0 : 2;
+              }),
+              0);
+    EXPECT_EQ(contenidoDe(archivo), "viejo");
+}
+
 TEST_F(ArchivoBytes, aReadOnlyFileIsAnErrorAndStays) {
     escribirArchivo(archivo, "viejo");
     fs::permissions(archivo, fs::perms(0444));
@@ -106,6 +123,43 @@ TEST_F(ArchivoBytes, aFullDiskIsAnErrorAndLeavesTheFileAlone) {
               0);
     EXPECT_EQ(contenidoDe(archivo), "viejo");
     EXPECT_EQ(archivosEnCarpeta(), 1U);
+}
+
+// A process that replaces the file for ever, with texts of every length, and counts what it has done.
+pid_t escritorSinFin(const fs::path& archivo, std::atomic<int>& escritos) {
+    const pid_t proceso = ::fork();
+    for (; proceso == 0; ++escritos) {
+        const auto letra = static_cast<char>('a' + escritos % 26);
+        reemplazarBytes(archivo, std::string(1000 + 997 * static_cast<std::size_t>(escritos % 31), letra));
+    }
+    return proceso;
+}
+
+TEST_F(ArchivoBytes, aProcessKilledInTheMiddleOfAThousandWritesNeverLeavesHalfAFile) {
+    void* const memoria =
+        ::mmap(nullptr, sizeof(std::atomic<int>), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0);
+    ASSERT_NE(memoria, MAP_FAILED);
+    std::atomic<int>& escritos = *new (memoria) std::atomic<int>(0);
+    escribirArchivo(archivo, std::string(1000, 'a'));
+    std::minstd_rand azar(1);
+    while (escritos < 1000) {
+        const int antes = escritos;
+        const pid_t escritor = escritorSinFin(archivo, escritos);
+        while (escritos < antes + 5)
+            std::this_thread::yield();
+        for (auto vueltas = azar() % 20'000; vueltas > 0; --vueltas)
+            std::atomic_signal_fence(std::memory_order_seq_cst); // any moment of a write
+        ::kill(escritor, SIGKILL);
+        ASSERT_EQ(::waitpid(escritor, nullptr, 0), escritor);
+
+        const std::string entero = contenidoDe(archivo);
+        ASSERT_GE(entero.size(), 1000U);
+        ASSERT_EQ((entero.size() - 1000) % 997, 0U);
+        ASSERT_EQ(entero.find_first_not_of(entero[0]), std::string::npos);
+    }
+    EXPECT_FALSE(reemplazarBytes(archivo, "el último"));
+    EXPECT_EQ(archivosEnCarpeta(), 1U) << "what the dead left";
+    ::munmap(memoria, sizeof(std::atomic<int>));
 }
 
 TEST_F(ArchivoBytes, aMissingFolderIsAnError) {
