@@ -1,5 +1,6 @@
 #include "Masters.h"
 
+#include <algorithm>
 #include <arpa/inet.h>
 #include <iterator>
 #include <netinet/in.h>
@@ -85,6 +86,7 @@ void Masters::ask(Master& master) {
                                                0,
                                                10};
     master.sent = Clock::now();
+    master.waiting = true;
     send(master.connection.number(), request.data(), request.size(), MSG_NOSIGNAL);
 }
 
@@ -95,6 +97,40 @@ void Masters::takeAnswer(Master& master) {
         answer[5] != answerSize - 6 || answer[7] != 3)
         throw std::runtime_error("a wrong answer");
     latencies_.push_back(Clock::now() - master.sent);
+    master.waiting = false;
+}
+
+/// Takes what comes within that time, and returns how many answers it was.
+std::size_t Masters::takeAnswers(int milliseconds) {
+    std::array<epoll_event, 256> events;
+    const int ready = epoll_wait(epoll_.number(), events.data(), static_cast<int>(events.size()), milliseconds);
+    for (int i = 0; i < ready; ++i)
+        takeAnswer(masters_[events[static_cast<std::size_t>(i)].data.u64]);
+    return static_cast<std::size_t>(std::max(ready, 0));
+}
+
+void Masters::runPaced(std::chrono::nanoseconds period, std::size_t periods) {
+    const auto begin = Clock::now();
+    std::size_t open = 0;
+    for (std::size_t asked = 0; asked < periods * count();) {
+        const auto due = begin + period / static_cast<long>(count()) * static_cast<long>(asked);
+        if (Clock::now() < due) {
+            open -= takeAnswers(1);
+            continue;
+        }
+        Master& master = masters_[asked++ % count()];
+        if (master.waiting)
+            throw std::runtime_error("an answer is later than the next request");
+        ask(master);
+        ++open;
+        open -= takeAnswers(0);
+    }
+    while (open > 0) {
+        const std::size_t answers = takeAnswers(5000);
+        if (answers == 0)
+            throw std::runtime_error("no answer for five seconds");
+        open -= answers;
+    }
 }
 
 std::size_t Masters::run(std::chrono::nanoseconds duration) {

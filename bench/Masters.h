@@ -26,6 +26,9 @@ public:
     /// Runs for that long and until the last answer has come, and returns how many requests were answered. Adds the
     /// latency of each to latencies(). Throws std::runtime_error on a wrong answer or one that takes five seconds.
     std::size_t run(std::chrono::nanoseconds duration);
+    /// Each asks once in every `period`, evenly spread, for that many periods. Latencies and exceptions as above; an
+    /// answer that has not come when its master's next request is due is an exception too.
+    void runPaced(std::chrono::nanoseconds period, std::size_t periods);
     const std::vector<std::chrono::nanoseconds>& latencies() const { return latencies_; }
 
 private:
@@ -34,10 +37,12 @@ private:
         Descriptor connection;
         Clock::time_point sent;
         std::uint16_t transaction = 0;
+        bool waiting = false;
     };
 
     static void ask(Master& master);
     void takeAnswer(Master& master);
+    std::size_t takeAnswers(int milliseconds);
 
     Descriptor epoll_;
     std::vector<Master> masters_;
