@@ -2,7 +2,14 @@
 include(GNUInstallDirs)
 
 set(CPACK_PACKAGE_NAME esclavo-modbus)
-set(CPACK_PACKAGE_CONTACT "Autores de Esclavo Modbus <autores@esclavomodbus.org>")
+# Who answers for a package: whoever builds it, as Debian's own tools take it from the environment. The authors have no
+# public address; the one that stands for it belongs to nobody (RFC 2606).
+if(NOT "$ENV{DEBEMAIL}" STREQUAL "")
+  set(contact "$ENV{DEBFULLNAME} <$ENV{DEBEMAIL}>")
+else()
+  set(contact "Los autores de Esclavo Modbus <esclavo-modbus@example.org>")
+endif()
+set(CPACK_PACKAGE_CONTACT "${contact}")
 string(TIMESTAMP FECHA_ISO "%Y-%m-%d" UTC)
 string(TIMESTAMP FECHA_RFC "%a, %d %b %Y %H:%M:%S +0000" UTC)
 
@@ -29,7 +36,7 @@ foreach(side 16 32 64 256)
   install(FILES src/shell/recursos/icono-${side}.png RENAME esclavo-modbus.png
     DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/${side}x${side}/apps)
 endforeach()
-set(metainfo org.esclavomodbus.EsclavoModbus.metainfo.xml)
+set(metainfo org.example.EsclavoModbus.metainfo.xml)
 configure_file(packaging/${metainfo}.in ${generated}/${metainfo} @ONLY)
 install(FILES ${generated}/${metainfo} DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
 install(FILES packaging/esclavo-modbus.service DESTINATION lib/systemd/user)
