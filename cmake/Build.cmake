@@ -6,6 +6,7 @@ option(BUILD_TESTING "build the tests" OFF)
 option(ESCLAVO_WERROR "a warning ends the build" ${BUILD_TESTING})
 option(ESCLAVO_BENCH "build the programs in bench/" OFF)
 option(ESCLAVO_FUZZ "build the fuzz targets (needs clang)" OFF)
+option(ESCLAVO_COVERAGE "count what the tests run" OFF)
 set(ESCLAVO_SANITIZE "" CACHE STRING "sanitizers for every target, e.g. address,undefined")
 
 if(NOT CMAKE_BUILD_TYPE)
@@ -42,6 +43,12 @@ endif()
 # The standard library checks its own preconditions where speed does not count.
 if(ESCLAVO_SANITIZE OR CMAKE_BUILD_TYPE STREQUAL "Debug")
   target_compile_definitions(project_options INTERFACE _GLIBCXX_ASSERTIONS)
+endif()
+
+if(ESCLAVO_COVERAGE)
+  # Without inlining a line is counted where it stands; tests that fork or run in parallel add to the same counts.
+  target_compile_options(project_options INTERFACE --coverage -fprofile-update=atomic -Og -fno-inline)
+  target_link_options(project_options INTERFACE --coverage)
 endif()
 
 if(ESCLAVO_FUZZ)
