@@ -4,10 +4,10 @@
 #include "platform/text/Utf.h"
 
 #include <algorithm>
-#include <array>
 #include <charconv>
 #include <cmath>
 #include <cstdint>
+#include <cstdlib>
 #include <limits>
 
 namespace text {
@@ -132,40 +132,62 @@ bool takeExponent(std::u16string_view& text, std::string& plain) {
     return digits;
 }
 
-// Of a number beyond a double's range: whether it is a very large one, not a very small one.
-bool isLarge(std::string_view digits) noexcept {
-    const std::size_t mark = std::min(digits.find_first_of("eE"), digits.size());
-    const std::string_view mantissa = digits.substr(0, mark);
-    const auto point = static_cast<std::int64_t>(std::min(mantissa.find('.'), mantissa.size()));
-    const auto first = static_cast<std::int64_t>(std::min(mantissa.find_first_not_of("0."), mantissa.size()));
-    std::string_view power = digits.substr(std::min(mark + 1, digits.size()));
+// A number's digits without zeros in front: 0.d1d2d3... times ten to the power of `point`.
+struct Digits {
+    std::string_view whole;
+    std::string_view fraction;
+    std::int64_t point = 0;
+
+    std::size_t size() const noexcept { return whole.size() + fraction.size(); }
+    int operator[](std::size_t i) const noexcept {
+        return i >= size() ? 0 : (i < whole.size() ? whole[i] : fraction[i - whole.size()]) - '0';
+    }
+};
+
+// Of digits, at most one point and an exponent. An exponent beyond all reason counts as a very large one.
+Digits digitsOf(std::string_view plain) noexcept {
+    constexpr std::int64_t farAway = std::int64_t{1} << 60;
+    const std::size_t mark = std::min(plain.find_first_of("eE"), plain.size());
+    std::string_view power = plain.substr(std::min(mark + 1, plain.size()));
     if (power.starts_with('+')) {
         power.remove_prefix(1);
     }
     std::int64_t exponent = 0;
     if (std::from_chars(power.data(), power.data() + power.size(), exponent).ec == std::errc::result_out_of_range) {
-        return !power.starts_with('-');
+        exponent = power.starts_with('-') ? -farAway : farAway;
     }
-    return point - first + exponent > 0;
+    const std::size_t point = std::min(plain.substr(0, mark).find('.'), mark);
+    Digits digits{plain.substr(0, point), plain.substr(std::min(point + 1, mark), mark - std::min(point + 1, mark)),
+                  std::clamp(exponent, -farAway, farAway)};
+    const auto withoutZeros = [](std::string_view& part) {
+        const std::size_t zeros = std::min(part.find_first_not_of('0'), part.size());
+        part.remove_prefix(zeros);
+        return static_cast<std::int64_t>(zeros);
+    };
+    withoutZeros(digits.whole);
+    digits.point += static_cast<std::int64_t>(digits.whole.size());
+    if (digits.whole.empty()) {
+        digits.point -= withoutZeros(digits.fraction);
+    }
+    return digits;
 }
 
-} // namespace
-
-double readPlainNumber(std::string_view digits) noexcept {
-    double number = 0;
-    const auto result = std::from_chars(digits.data(), digits.data() + digits.size(), number);
-    if (result.ec == std::errc::result_out_of_range) {
-        return isLarge(digits) ? std::numeric_limits<double>::infinity() : 0.0;
+// &H or &O with its digits; nothing for anything else.
+std::optional<std::optional<double>> radixNumber(std::u16string_view text) {
+    if (text.size() <= 2 || text[0] != u'&') {
+        return std::nullopt;
     }
-    return number;
+    const char16_t kind = toUpper(text[1]);
+    return kind == u'H' ? readRadix(text.substr(2), 16) : readRadix(text.substr(kind == u'O' ? 2 : 1), 8);
 }
 
-std::optional<double> readNumber(std::u16string_view text, const NumberSigns& signs) {
-    text = trimmed(text);
-    if (text.size() > 2 && text[0] == u'&') {
-        const char16_t kind = toUpper(text[1]);
-        return kind == u'H' ? readRadix(text.substr(2), 16) : readRadix(text.substr(kind == u'O' ? 2 : 1), 8);
-    }
+struct Decimal {
+    bool negative = false;
+    std::string digits; // what readPlainNumber() reads
+};
+
+// Any other number.
+std::optional<Decimal> readDecimal(std::u16string_view text, const NumberSigns& signs) {
     Head head = takeHead(text, signs);
     std::string plain;
     if (!takeMantissa(text, signs, plain) || !takeExponent(text, plain)) {
@@ -182,70 +204,77 @@ std::optional<double> readNumber(std::u16string_view text, const NumberSigns& si
     if (!trimmed(text).empty()) {
         return std::nullopt;
     }
-    const double number = readPlainNumber(plain);
-    return head.negative ? -number : number;
+    return Decimal{head.negative, std::move(plain)};
+}
+
+// Whether what stands behind the first `whole` digits rounds them up.
+bool roundsUp(const Digits& digits, std::size_t whole, bool odd) noexcept {
+    bool more = odd;
+    for (std::size_t i = whole + 1; i < digits.size() && !more; ++i) {
+        more = digits[i] != 0;
+    }
+    return digits[whole] > 5 || (digits[whole] == 5 && more);
+}
+
+} // namespace
+
+double readPlainNumber(std::string_view digits) noexcept {
+    double number = 0;
+    const auto result = std::from_chars(digits.data(), digits.data() + digits.size(), number);
+    if (result.ec == std::errc::result_out_of_range) { // a very large one or a very small one
+        return digitsOf(digits).point > 0 ? std::numeric_limits<double>::infinity() : 0.0;
+    }
+    return number;
+}
+
+std::optional<double> readNumber(std::u16string_view text, const NumberSigns& signs) {
+    text = trimmed(text);
+    if (const auto radix = radixNumber(text)) {
+        return *radix;
+    }
+    const auto decimal = readDecimal(text, signs);
+    if (!decimal) {
+        return std::nullopt;
+    }
+    const double number = readPlainNumber(decimal->digits);
+    return decimal->negative ? -number : number;
+}
+
+std::optional<ScaledNumber> readScaled(std::u16string_view text, const NumberSigns& signs, int places) {
+    text = trimmed(text);
+    const auto radix = radixNumber(text);
+    if (radix && !*radix) {
+        return std::nullopt;
+    }
+    const auto decimal = radix ? Decimal{**radix < 0, std::to_string(std::llabs(static_cast<long long>(**radix)))}
+                               : readDecimal(text, signs);
+    if (!decimal) {
+        return std::nullopt;
+    }
+    const Digits digits = digitsOf(decimal->digits);
+    const std::int64_t count = digits.point + places; // of those that stay
+    if (digits.size() == 0 || count < 0) {
+        return ScaledNumber{};
+    }
+    if (count > 19) {
+        return ScaledNumber{0, false};
+    }
+    const auto whole = static_cast<std::size_t>(count);
+    std::uint64_t size = 0; // nineteen digits fit
+    for (std::size_t i = 0; i < whole; ++i) {
+        size = size * 10 + static_cast<std::uint64_t>(digits[i]);
+    }
+    size += roundsUp(digits, whole, size % 2 != 0) ? 1 : 0;
+    constexpr auto largest = static_cast<std::uint64_t>(std::numeric_limits<std::int64_t>::max());
+    if (size > largest + (decimal->negative ? 1 : 0)) {
+        return ScaledNumber{0, false};
+    }
+    return ScaledNumber{static_cast<std::int64_t>(decimal->negative ? 0 - size : size), true};
 }
 
 std::optional<double> readNumber(std::string_view utf8, char16_t decimal) {
     const auto number = readNumber(toUtf16(utf8), NumberSigns{.decimal = decimal});
     return number && std::isfinite(*number) ? number : std::nullopt;
-}
-
-Figures figuresOf(double x, int count) {
-    std::array<char, 40> buffer{};
-    const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), std::fabs(x),
-                                   std::chars_format::scientific, count - 1)
-                         .ptr;
-    // d.ddde+xx
-    const std::string_view written(buffer.data(), static_cast<std::size_t>(end - buffer.data()));
-    const std::size_t mark = written.find('e');
-    const std::string_view power = written.substr(written[mark + 1] == '+' ? mark + 2 : mark + 1);
-    Figures figures;
-    std::from_chars(power.data(), power.data() + power.size(), figures.point);
-    ++figures.point;
-    figures.digits.assign(1, written[0]);
-    if (mark > 1) {
-        figures.digits += written.substr(2, mark - 2);
-    }
-    return figures;
-}
-
-std::string writeNumber(double x, char16_t decimal, int digits) {
-    const std::string sign = toUtf8({&decimal, 1});
-    const auto notFinite = [&sign](const char* one, const char* what) { return one + sign + what; };
-    if (std::isnan(x)) {
-        return std::signbit(x) ? notFinite("-1", "#IND") : notFinite("1", "#QNAN");
-    }
-    if (std::isinf(x)) {
-        return notFinite(x < 0 ? "-1" : "1", "#INF");
-    }
-    if (x == 0.0) {
-        return "0";
-    }
-    Figures rounded = figuresOf(x, digits);
-    std::string& figures = rounded.digits;
-    const int point = rounded.point;
-    figures.erase(figures.find_last_not_of('0') + 1);
-    const int count = static_cast<int>(figures.size());
-    std::string out(x < 0 ? 1 : 0, '-');
-    const auto put = [&](std::size_t whole) {
-        out.append(figures, 0, whole);
-        if (figures.size() > whole) {
-            out.append(sign).append(figures, whole);
-        }
-    };
-    if (point > digits || (point <= 0 && count - point > digits)) {
-        put(1);
-        const int exponent = std::abs(point - 1);
-        out.append(point > 0 ? "E+" : "E-").append(exponent < 10 ? 1 : 0, '0').append(std::to_string(exponent));
-    } else if (point <= 0) {
-        figures.insert(0, static_cast<std::size_t>(1 - point), '0');
-        put(1);
-    } else {
-        figures.resize(static_cast<std::size_t>(std::max(count, point)), '0');
-        put(static_cast<std::size_t>(point));
-    }
-    return out;
 }
 
 } // namespace text

@@ -5,6 +5,7 @@
 //     text::readNumber(u" -12,5 ", {.decimal = u','}) == -12.5
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -23,6 +24,16 @@ struct NumberSigns {
 // which up to 16 stand for a 16-bit integer. Nothing when the text is no number; infinite when it is too large for a
 // double.
 std::optional<double> readNumber(std::u16string_view text, const NumberSigns& signs);
+
+// A number times a power of ten, rounded to a whole one.
+struct ScaledNumber {
+    std::int64_t value = 0;
+    bool fits = true; // false: too large for 64 bits
+};
+
+// Reads the same texts, digit by digit and not through a double: the number times ten to the power of `places` (0 to
+// 9), rounded half to even. Nothing when the text is no number.
+std::optional<ScaledNumber> readScaled(std::u16string_view text, const NumberSigns& signs, int places);
 
 // What users type and configuration files hold: UTF-8, no groups of digits, nothing for what does not fit a double.
 std::optional<double> readNumber(std::string_view utf8, char16_t decimal);

@@ -126,4 +126,47 @@ TEST(WriteNumber, whatIsNoFiniteNumberHasATextToo) {
     EXPECT_EQ(text::writeNumber(std::nan(""), u','), "1,#QNAN");
 }
 
+std::optional<std::int64_t> scaled(std::u16string_view text, int places = 4) {
+    const auto number = text::readScaled(text, {.decimal = u','}, places);
+    return number && number->fits ? std::optional(number->value) : std::nullopt;
+}
+
+TEST(ReadScaled, keepsEveryDigitOfSixtyFourBits) {
+    EXPECT_EQ(scaled(u"922337203685477,5807"), std::numeric_limits<std::int64_t>::max());
+    EXPECT_EQ(scaled(u"-922337203685477,5808"), std::numeric_limits<std::int64_t>::min());
+    EXPECT_EQ(scaled(u"0000000000000000000000000001,50"), 15000);
+    EXPECT_EQ(scaled(u"0,0000000000000000000015E19"), 150);
+    EXPECT_EQ(scaled(u"12", 0), 12);
+    EXPECT_EQ(scaled(u"12,345678901", 9), 12345678901);
+}
+
+TEST(ReadScaled, roundsHalfToEvenAndLooksAtEveryDigitForIt) {
+    EXPECT_EQ(scaled(u"0,5", 0), 0);
+    EXPECT_EQ(scaled(u"1,5", 0), 2);
+    EXPECT_EQ(scaled(u"2,5", 0), 2);
+    EXPECT_EQ(scaled(u"-2,5", 0), -2);
+    EXPECT_EQ(scaled(u"2,50000000000000000000000000001", 0), 3);
+    EXPECT_EQ(scaled(u"2,49999999999999999999999999999", 0), 2);
+    EXPECT_EQ(scaled(u"0,05", 0), 0);
+    EXPECT_EQ(scaled(u"0,96", 0), 1);
+}
+
+TEST(ReadScaled, tellsWhatIsTooLargeFromWhatIsNoNumber) {
+    for (const char16_t* large :
+         {u"922337203685477,5808", u"-922337203685477,5809", u"1e400", u"99999999999999999999"}) {
+        const auto number = text::readScaled(large, {.decimal = u','}, 4);
+        ASSERT_TRUE(number.has_value());
+        EXPECT_FALSE(number->fits);
+    }
+    for (const char16_t* no : {u"", u",", u"x", u"1e", u"1,2,3", u"&HG"})
+        EXPECT_FALSE(text::readScaled(no, {.decimal = u','}, 4).has_value());
+}
+
+TEST(ReadScaled, noExponentIsTooLongToRead) {
+    EXPECT_EQ(scaled(u"1e-99999999999999999999"), 0);
+    EXPECT_EQ(scaled(u"0e99999999999999999999"), 0);
+    EXPECT_EQ(scaled(u"1e99999999999999999999"), std::nullopt);
+    EXPECT_EQ(scaled(u"&HFFFF"), -10000);
+}
+
 } // namespace

@@ -58,14 +58,22 @@ Value sgn(Context& context, Arguments arguments) {
 
 constexpr std::int64_t currencyUnit = 10000;
 
+// A multiple of the unit; raises 6 where an amount ends.
+std::int64_t amount(std::int64_t quotient, std::int64_t unit) {
+    std::int64_t product = 0;
+    if (__builtin_mul_overflow(quotient, unit, &product)) {
+        raise(ErrorNumber::Overflow);
+    }
+    return product;
+}
+
 Value floorOf(Context& context, Arguments arguments) {
     Value x = numberArgument(context, arguments[0]);
     if (isReal(x)) {
         return withReal(x, std::floor(x.d));
     }
     if (x.type == Type::Currency) {
-        const std::int64_t rest = x.n % currencyUnit;
-        x.n -= rest < 0 ? rest + currencyUnit : rest;
+        x.n = amount(x.n / currencyUnit - (x.n % currencyUnit < 0 ? 1 : 0), currencyUnit);
     }
     return x;
 }
@@ -89,7 +97,7 @@ double roundedTo(double x, int places) noexcept {
 }
 
 // The exact decimal of a Currency is rounded, half to even as well.
-std::int64_t currencyRoundedTo(std::int64_t x, int places) noexcept {
+std::int64_t currencyRoundedTo(std::int64_t x, int places) {
     std::int64_t unit = 1;
     for (int i = places; i < 4; ++i) {
         unit *= 10;
@@ -100,7 +108,7 @@ std::int64_t currencyRoundedTo(std::int64_t x, int places) noexcept {
     if (twice > unit || (twice == unit && quotient % 2 != 0)) {
         quotient += x < 0 ? -1 : 1;
     }
-    return quotient * unit;
+    return amount(quotient, unit);
 }
 
 // Round(number[, places]): half to even; 0 to 22 places. A Boolean stays what it is.

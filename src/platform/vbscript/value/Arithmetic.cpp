@@ -6,6 +6,7 @@
 
 #include <cmath>
 #include <cstdlib>
+#include <limits>
 
 namespace vbs {
 
@@ -220,6 +221,9 @@ Value negate(Context& context, const Value& a) {
     case Type::Date:
         return Value::ofDate(-x.d);
     case Type::Currency:
+        if (x.n == std::numeric_limits<std::int64_t>::min()) {
+            raise(ErrorNumber::Overflow);
+        }
         return Value::ofCurrency(-x.n);
     default:
         return wholeResult(x.type == Type::Long ? x : Value::ofInteger(0), Value::ofInteger(0), -x.n);

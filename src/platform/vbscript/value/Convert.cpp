@@ -129,6 +129,16 @@ std::int64_t toCurrency(Context& context, const Value& value) {
     if (isWholeKind(v)) {
         return v.n * 10000;
     }
+    if (v.isObject()) {
+        return toCurrency(context, context.defaultValue(v));
+    }
+    if (v.isString()) {
+        const auto amount = parseCurrency(v.text(), context.locale());
+        if (!amount) {
+            raise(ErrorNumber::TypeMismatch);
+        }
+        return *amount;
+    }
     return currencyFromDouble(toDouble(context, v));
 }
 
@@ -217,8 +227,9 @@ std::int32_t longFromDouble(double x) {
 }
 
 std::int64_t currencyFromDouble(double x) {
-    const double scaled = roundHalfEven(x * 10000.0);
-    if (!(scaled >= -9223372036854775808.0 && scaled < 9223372036854775808.0)) {
+    // A double has fewer digits than an amount, and times ten thousand it must not lose any.
+    const long double scaled = std::nearbyint(static_cast<long double>(x) * 10000.0L);
+    if (!(scaled >= -9223372036854775808.0L && scaled < 9223372036854775808.0L)) {
         raise(ErrorNumber::Overflow);
     }
     return static_cast<std::int64_t>(scaled);

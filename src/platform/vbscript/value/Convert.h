@@ -56,6 +56,8 @@ std::u16string_view wholeText(std::int64_t n, WholeDigits& buffer) noexcept; // 
 
 // Text as number: blanks around it, thousands signs, exponent, &H and &O, currency sign and brackets are understood.
 std::optional<double> parseNumber(std::u16string_view text, const Locale& locale);
+// The same as ten-thousandths, to the last digit.
+std::optional<std::int64_t> parseCurrency(std::u16string_view text, const Locale& locale);
 
 // Text as date in the locale and the year in force.
 std::optional<double> textAsDate(Context& context, std::u16string_view text);

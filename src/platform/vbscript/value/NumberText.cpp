@@ -17,6 +17,15 @@ std::optional<double> parseNumber(std::u16string_view text, const Locale& locale
     return number;
 }
 
+std::optional<std::int64_t> parseCurrency(std::u16string_view text, const Locale& locale) {
+    const auto number = text::readScaled(
+        text, {.decimal = locale.decimal, .thousands = locale.thousands, .currencySymbol = locale.currencySymbol}, 4);
+    if (number && !number->fits) {
+        raise(ErrorNumber::Overflow);
+    }
+    return number ? std::optional(number->value) : std::nullopt;
+}
+
 std::u16string_view wholeText(std::int64_t n, WholeDigits& buffer) noexcept {
     std::uint64_t rest = n < 0 ? 0 - static_cast<std::uint64_t>(n) : static_cast<std::uint64_t>(n);
     std::size_t at = buffer.size();
