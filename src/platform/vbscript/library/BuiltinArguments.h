@@ -32,10 +32,18 @@ inline std::size_t countArgument(Context& context, const Value& v) {
     return static_cast<std::size_t>(count);
 }
 
+// Whether the argument is Null. An object gives way to the value of its default member, which may be Null as well.
+inline bool isNullArgument(Context& context, Value& argument) {
+    if (argument.isObject()) {
+        argument = context.defaultValue(argument);
+    }
+    return argument.isNull();
+}
+
 // Raises 94 if one of them is Null, before any other is looked at.
-inline void refuseNull(std::span<const Value> arguments) {
-    for (const Value& argument : arguments) {
-        if (argument.isNull()) {
+inline void refuseNull(Context& context, Arguments arguments) {
+    for (Value& argument : arguments) {
+        if (isNullArgument(context, argument)) {
             raise(ErrorNumber::InvalidNull);
         }
     }
@@ -50,7 +58,7 @@ struct Section {
 // The start (from 1) and the optional length in the second and third argument: both are converted before either is
 // checked; raises 94 for Null, 5 for a start below 1 or a negative length.
 inline Section sectionArguments(Context& context, Arguments arguments) {
-    refuseNull(arguments.subspan(1));
+    refuseNull(context, arguments.subspan(1));
     const std::int32_t start = longArgument(context, arguments[1]);
     const std::int32_t length = longArgument(context, arguments, 2, String::maxLength);
     if (start < 1 || length < 0) {

@@ -45,8 +45,8 @@ Value arrayOf(Context& /*context*/, Arguments arguments) {
 }
 
 // An array of one dimension, or one that has none yet; raises 94 for Null, 13 for anything else.
-Value listArgument(Context& context, const Value& argument) {
-    refuseNull({&argument, 1});
+Value listArgument(Context& context, Value& argument) {
+    refuseNull(context, {&argument, 1});
     Value list = arrayArgument(context, argument);
     if (list.array()->dimensions() > 1) {
         raise(ErrorNumber::TypeMismatch);

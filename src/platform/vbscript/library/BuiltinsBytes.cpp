@@ -27,7 +27,7 @@ Value chrB(Context& context, Arguments arguments) {
 }
 
 Value lenB(Context& context, Arguments arguments) {
-    if (arguments[0].isNull()) {
+    if (isNullArgument(context, arguments[0])) {
         return Value::null();
     }
     return Value::ofLong(static_cast<std::int32_t>(toString(context, arguments[0]).bytes().size()));
@@ -35,7 +35,7 @@ Value lenB(Context& context, Arguments arguments) {
 
 Value leftB(Context& context, Arguments arguments) {
     const std::size_t wanted = countArgument(context, arguments[1]);
-    if (arguments[0].isNull()) {
+    if (isNullArgument(context, arguments[0])) {
         return Value::null();
     }
     const String text = toString(context, arguments[0]);
@@ -44,7 +44,7 @@ Value leftB(Context& context, Arguments arguments) {
 
 Value rightB(Context& context, Arguments arguments) {
     const std::size_t wanted = countArgument(context, arguments[1]);
-    if (arguments[0].isNull()) {
+    if (isNullArgument(context, arguments[0])) {
         return Value::null();
     }
     const String text = toString(context, arguments[0]);
@@ -53,7 +53,7 @@ Value rightB(Context& context, Arguments arguments) {
 
 Value midB(Context& context, Arguments arguments) {
     const Section section = sectionArguments(context, arguments);
-    if (arguments[0].isNull()) {
+    if (isNullArgument(context, arguments[0])) {
         return Value::null();
     }
     const String text = toString(context, arguments[0]);
@@ -69,7 +69,7 @@ Value inStrB(Context& context, Arguments arguments) {
     if (start < 1) {
         raise(ErrorNumber::InvalidCall);
     }
-    if (arguments[first].isNull() || arguments[first + 1].isNull()) {
+    if (isNullArgument(context, arguments[first]) || isNullArgument(context, arguments[first + 1])) {
         return Value::null();
     }
     const String text = toString(context, arguments[first]);

@@ -45,15 +45,14 @@ Value cstr(Context& context, Arguments arguments) {
 }
 
 // The bits of a value: 16 of an Integer or Boolean, 8 of a Byte, 32 of anything else, rounded.
-std::uint32_t bitsOf(Context& context, const Value& argument) {
-    const Value v = withoutObject(context, argument);
+std::uint32_t bitsOf(Context& context, const Value& v) {
     const std::int32_t number = toLong(context, v);
     const bool narrow = v.type == Type::Integer || v.type == Type::Boolean;
     return narrow ? static_cast<std::uint16_t>(number) : static_cast<std::uint32_t>(number);
 }
 
-Value inBase(Context& context, const Value& argument, unsigned bitsPerDigit) {
-    if (argument.isNull()) {
+Value inBase(Context& context, Value& argument, unsigned bitsPerDigit) {
+    if (isNullArgument(context, argument)) {
         return Value::null();
     }
     std::uint32_t bits = bitsOf(context, argument);

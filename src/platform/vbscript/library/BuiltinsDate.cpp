@@ -28,7 +28,7 @@ Value timer(Context& context, Arguments /*arguments*/) {
 
 template <int CivilTime::*field>
 Value datePart(Context& context, Arguments arguments) {
-    if (arguments[0].isNull()) {
+    if (isNullArgument(context, arguments[0])) {
         return Value::null();
     }
     return Value::ofInteger(static_cast<std::int16_t>(civilTime(toDate(context, arguments[0])).*field));
@@ -37,7 +37,7 @@ Value datePart(Context& context, Arguments arguments) {
 // Weekday(date[, first day]): 1 is the first day of the week.
 Value weekday(Context& context, Arguments arguments) {
     const int first = firstDayArgument(context, arguments, 1);
-    if (arguments[0].isNull()) {
+    if (isNullArgument(context, arguments[0])) {
         return Value::null();
     }
     return Value::ofInteger(
@@ -55,7 +55,7 @@ std::size_t nameNumber(Context& context, const Value& v, std::int32_t most) {
 
 // WeekdayName(weekday[, abbreviated[, first day]])
 Value weekdayName(Context& context, Arguments arguments) {
-    refuseNull(arguments);
+    refuseNull(context, arguments);
     const std::size_t number = nameNumber(context, arguments[0], 7);
     const bool abbreviated = booleanArgument(context, arguments, 1, false);
     const auto first = static_cast<std::size_t>(firstDayArgument(context, arguments, 2));
@@ -67,7 +67,7 @@ Value weekdayName(Context& context, Arguments arguments) {
 
 // MonthName(month[, abbreviated])
 Value monthName(Context& context, Arguments arguments) {
-    refuseNull(arguments);
+    refuseNull(context, arguments);
     const std::size_t month = nameNumber(context, arguments[0], 12) - 1;
     const bool abbreviated = booleanArgument(context, arguments, 1, false);
     const Locale& locale = context.locale();

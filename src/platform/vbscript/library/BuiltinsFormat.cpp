@@ -108,7 +108,7 @@ Value formatCurrency(Context& context, Arguments arguments) {
 // FormatDateTime(date[, format]): 0 general, 1 long date, 2 short date, 3 long time, 4 short time (always 24 hours).
 Value formatDateTime(Context& context, Arguments arguments) {
     const std::int32_t format = longArgument(context, arguments, 1, 0);
-    if (arguments[0].isNull()) {
+    if (isNullArgument(context, arguments[0])) {
         raise(ErrorNumber::TypeMismatch);
     }
     const double date = toDate(context, arguments[0]);

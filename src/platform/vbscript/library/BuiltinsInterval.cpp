@@ -69,7 +69,7 @@ double addSeconds(const CivilTime& t, long long seconds) {
 Value dateAdd(Context& context, Arguments arguments) {
     const Interval interval = intervalArgument(context, arguments[0]);
     const double number = roundHalfEven(toDouble(context, arguments[1]));
-    if (arguments[2].isNull()) {
+    if (isNullArgument(context, arguments[2])) {
         return Value::null();
     }
     const CivilTime t = civilTime(toDate(context, arguments[2]));
@@ -144,7 +144,7 @@ Value dateDiff(Context& context, Arguments arguments) {
     const Interval interval = intervalArgument(context, arguments[0]);
     const int firstDay = firstDayArgument(context, arguments, 3);
     firstWeekArgument(context, arguments, 4);
-    if (arguments[1].isNull() || arguments[2].isNull()) {
+    if (isNullArgument(context, arguments[1]) || isNullArgument(context, arguments[2])) {
         return Value::null();
     }
     const CivilTime from = civilTime(toDate(context, arguments[1]));
@@ -203,7 +203,7 @@ Value datePart(Context& context, Arguments arguments) {
     const Interval interval = intervalArgument(context, arguments[0]);
     const int firstDay = firstDayArgument(context, arguments, 2);
     const FirstWeek rule = firstWeekArgument(context, arguments, 3);
-    if (arguments[1].isNull()) {
+    if (isNullArgument(context, arguments[1])) {
         return Value::null();
     }
     const CivilTime t = civilTime(toDate(context, arguments[1]));

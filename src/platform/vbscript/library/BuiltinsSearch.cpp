@@ -21,7 +21,7 @@ Value inStr(Context& context, Arguments arguments) {
     if (start < 1) {
         raise(ErrorNumber::InvalidCall);
     }
-    if (arguments[first].isNull() || arguments[first + 1].isNull()) {
+    if (isNullArgument(context, arguments[first]) || isNullArgument(context, arguments[first + 1])) {
         return Value::null();
     }
     const TextArgument text(context, arguments[first]);
@@ -36,7 +36,7 @@ Value inStr(Context& context, Arguments arguments) {
 
 // InStrRev(text, needle[, start[, comparison]]): looks backwards; the find ends at `start` at the latest.
 Value inStrRev(Context& context, Arguments arguments) {
-    refuseNull(arguments);
+    refuseNull(context, arguments);
     const std::int32_t start = longArgument(context, arguments, 2, -1);
     const TextComparison comparison = comparisonArgument(context, arguments, 3);
     if (start == 0 || start < -1) {

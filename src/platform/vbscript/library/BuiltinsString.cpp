@@ -18,8 +18,8 @@ Value part(Context& context, const Value& argument, std::u16string_view text, st
 }
 
 Value len(Context& context, Arguments arguments) {
-    const Value& v = arguments[0];
-    if (v.isNull()) {
+    Value& v = arguments[0];
+    if (isNullArgument(context, v)) {
         return Value::null();
     }
     const std::size_t size = v.isString() ? v.text().size() : toString(context, v).size();
@@ -29,7 +29,7 @@ Value len(Context& context, Arguments arguments) {
 // The numbers of Left, Right, Mid and String are checked before a Null text is let through.
 Value left(Context& context, Arguments arguments) {
     const std::size_t wanted = countArgument(context, arguments[1]);
-    if (arguments[0].isNull()) {
+    if (isNullArgument(context, arguments[0])) {
         return Value::null();
     }
     const TextArgument text(context, arguments[0]);
@@ -39,7 +39,7 @@ Value left(Context& context, Arguments arguments) {
 
 Value right(Context& context, Arguments arguments) {
     const std::size_t wanted = countArgument(context, arguments[1]);
-    if (arguments[0].isNull()) {
+    if (isNullArgument(context, arguments[0])) {
         return Value::null();
     }
     const TextArgument text(context, arguments[0]);
@@ -50,7 +50,7 @@ Value right(Context& context, Arguments arguments) {
 // Mid(text, start[, length]): start from 1; without a length up to the end.
 Value mid(Context& context, Arguments arguments) {
     const Section section = sectionArguments(context, arguments);
-    if (arguments[0].isNull()) {
+    if (isNullArgument(context, arguments[0])) {
         return Value::null();
     }
     const TextArgument text(context, arguments[0]);
@@ -59,8 +59,8 @@ Value mid(Context& context, Arguments arguments) {
 }
 
 // Only the blank is trimmed, not tabs or line ends.
-Value trimmed(Context& context, const Value& argument, bool front, bool back) {
-    if (argument.isNull()) {
+Value trimmed(Context& context, Value& argument, bool front, bool back) {
+    if (isNullArgument(context, argument)) {
         return Value::null();
     }
     const TextArgument text(context, argument);
@@ -88,8 +88,8 @@ Value trim(Context& context, Arguments arguments) {
 }
 
 template <char16_t (*map)(char16_t) noexcept>
-Value mapped(Context& context, const Value& argument) {
-    if (argument.isNull()) {
+Value mapped(Context& context, Value& argument) {
+    if (isNullArgument(context, argument)) {
         return Value::null();
     }
     String text = toString(context, argument);
@@ -118,11 +118,11 @@ Value space(Context& context, Arguments arguments) {
 
 // String(count, character): a text stands for its first character, a number for its code modulo 256.
 Value repeated(Context& context, Arguments arguments) {
-    const std::size_t count = arguments[0].isNull() ? 0 : countArgument(context, arguments[0]);
-    if (arguments[0].isNull() || arguments[1].isNull()) {
+    const std::size_t count = isNullArgument(context, arguments[0]) ? 0 : countArgument(context, arguments[0]);
+    if (arguments[0].isNull() || isNullArgument(context, arguments[1])) {
         return Value::null();
     }
-    const Value character = withoutObject(context, arguments[1]);
+    const Value& character = arguments[1];
     if (character.isString()) {
         if (character.text().empty()) {
             raise(ErrorNumber::InvalidCall);
@@ -144,7 +144,7 @@ Value strReverse(Context& context, Arguments arguments) {
 
 Value strComp(Context& context, Arguments arguments) {
     const TextComparison comparison = comparisonArgument(context, arguments, 2);
-    if (arguments[0].isNull() || arguments[1].isNull()) {
+    if (isNullArgument(context, arguments[0]) || isNullArgument(context, arguments[1])) {
         return Value::null();
     }
     const TextArgument a(context, arguments[0]);
