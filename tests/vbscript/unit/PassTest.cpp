@@ -206,6 +206,18 @@ TEST_F(PassTest, tooManyDefinedNamesAreRefusedWhereTheyStand) {
     }
     EXPECT_FALSE(control.addCode(text));
     EXPECT_EQ(control.error().number, 1903);
+    EXPECT_EQ(control.error().lineText, u"v" + text::toUtf16(std::to_string(control.error().line - 2)) + u" = 1");
+    EXPECT_GT(control.error().line, 16000U);
+    EXPECT_EQ(control.error().column, 1U);
+    EXPECT_TRUE(control.addCode("x = 1"));
+    text = "Sub use(a) : End Sub\n";
+    for (int i = 0; i < 17000; ++i) {
+        text += "use n" + std::to_string(i) + "\n";
+    }
+    EXPECT_FALSE(control.addCode(text));
+    EXPECT_EQ(control.error().number, 1903);
+    EXPECT_GT(control.error().line, 16000U);
+    EXPECT_EQ(control.error().column, 5U);
     EXPECT_TRUE(control.addCode("x = 1"));
 }
 

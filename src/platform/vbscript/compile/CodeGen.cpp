@@ -89,6 +89,7 @@ void CodeGen::layOut() {
 
 // Undeclared names that the procedure assigns are its own, unless a global of that name is known.
 void CodeGen::addImplicitLocals() {
+    m_scope.at = m_decl.at;
     const auto consider = [this](Symbol symbol) {
         if (!m_locals.contains(symbol) && !isMember(symbol) &&
             m_scope.resolve(symbol).kind == Resolved::Kind::Unknown) {

@@ -96,14 +96,15 @@ void declareGlobals(UnitScope& scope) {
         }
         return;
     }
-    const auto makeImplicit = [&scope](Symbol symbol) {
-        if (scope.resolve(symbol).kind == Resolved::Kind::Unknown) {
-            scope.makeImplicit(symbol);
+    for (std::size_t i = 0; i < main.assigned.size(); ++i) {
+        scope.at = main.assignedAt[i];
+        if (scope.resolve(main.assigned[i]).kind == Resolved::Kind::Unknown) {
+            scope.makeImplicit(main.assigned[i]);
         }
-    };
-    std::for_each(main.assigned.begin(), main.assigned.end(), makeImplicit);
+    }
     const std::unordered_set<Symbol> changed = namesChanged(scope.ast);
     for (const Passed& passed : main.passed) {
+        scope.at = passed.at;
         const bool toIntrinsic =
             passed.callee != noSymbol && scope.resolve(passed.callee).kind == Resolved::Kind::Intrinsic;
         if (toIntrinsic || scope.resolve(passed.name).kind != Resolved::Kind::Unknown) {

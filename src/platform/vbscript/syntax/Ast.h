@@ -199,6 +199,7 @@ struct Passed {
     Symbol name;
     Symbol callee;
     std::size_t index;
+    Position at;
 };
 
 struct ProcedureDecl {
@@ -213,6 +214,7 @@ struct ProcedureDecl {
     std::vector<ConstDecl> constants;
     std::unordered_set<Symbol> declared; // names of variables and constants
     std::vector<Symbol> assigned;        // names assigned without regard to where they are declared
+    std::vector<Position> assignedAt;    // of each of those
     std::vector<Symbol> redimmed;        // names that a ReDim would declare
     std::vector<Symbol> changed;         // names whose elements are assigned, or that ReDim and Erase act on
     std::vector<Passed> passed;          // names that stand alone as arguments

@@ -6,6 +6,7 @@ namespace vbs {
 void Parser::noteAssigned(const Expr* target) {
     if (target->kind == Expr::Kind::Name) {
         m_procedure->assigned.push_back(target->symbol);
+        m_procedure->assignedAt.push_back(target->at);
     } else if (target->kind == Expr::Kind::Call) {
         for (const Expr* base = target; base != nullptr; base = base->a) {
             if (base->kind == Expr::Kind::Name) {

@@ -266,7 +266,7 @@ Expr* Parser::call(Expr* callee, std::vector<Expr*> arguments, Position at) {
     }
     for (std::size_t i = 0; i < e->args.size(); ++i) {
         if (e->args[i]->kind == Expr::Kind::Name) {
-            m_procedure->passed.push_back({e->args[i]->symbol, name, i});
+            m_procedure->passed.push_back({e->args[i]->symbol, name, i, e->args[i]->at});
         }
     }
     setHeight(*e);
