@@ -23,17 +23,23 @@ public:
             {u"Put", &Station::put, readOnly, 1, 1},
             {u"Fail", &Station::fail, readOnly, 1, 1},
             {u"Stop", &Station::stop, readOnly, 0, 0},
+            {u"Keep", &Station::keep, readOnly, 1, 1},
         };
         return table;
     }
     std::u16string_view typeName() const override { return u"Host"; }
 
     Seen seen;
+    std::vector<Value> kept;
     ScriptControl* control = nullptr;
 
 private:
     Value put(Context& context, Access /*access*/, Arguments arguments) {
         seen.push_back(toUtf8(toString(context, arguments[0]).view()));
+        return {};
+    }
+    Value keep(Context& /*context*/, Access /*access*/, Arguments arguments) {
+        kept.push_back(arguments[0]);
         return {};
     }
     Value fail(Context& context, Access /*access*/, Arguments arguments) {
@@ -161,6 +167,58 @@ TEST_F(EngineLife, aHundredThousandPassesLeaveMemoryFlat) {
     EXPECT_EQ(memoryMeter().used, before);
     ASSERT_TRUE(control.addCode("out.put n"));
     EXPECT_EQ(out->seen, Seen{"100000"});
+}
+
+// Hands out what another engine left to its host.
+class Legacy final : public NativeObject<Legacy> {
+public:
+    explicit Legacy(std::vector<Value> values) : m_values(std::move(values)) {}
+    static std::span<const Member> members() {
+        static constexpr Member table[] = {{u"Item", &Legacy::item, readOnly, 1, 1}};
+        return table;
+    }
+    std::u16string_view typeName() const override { return u"Legacy"; }
+
+private:
+    Value item(Context& context, Access /*access*/, Arguments arguments) {
+        return m_values.at(static_cast<std::size_t>(toLong(context, arguments[0])));
+    }
+    std::vector<Value> m_values;
+};
+
+TEST_F(EngineLife, whatAHostKeepsOfAnEngineThatHasGoneOnlyFails) {
+    std::vector<Value> kept;
+    {
+        Engine gone;
+        ASSERT_TRUE(gone.control.addCode(
+            "Class K : Public v, other : Public Default Property Get d : d = v : End Property\n"
+            "Sub s : v = 1 : End Sub : Private Sub Class_Terminate : out.put \"end\" : End Sub : End Class\n"
+            "Function f(a) : f = a : End Function\n"
+            "Set o = New K : Set o.other = o : o.v = Array(1, New K)\n"
+            "out.keep o : out.keep GetRef(\"f\") : out.keep Me : out.keep Err : out.keep New K\n"
+            "Set d = CreateObject(\"Scripting.Dictionary\") : Set d(\"k\") = o : out.keep d : out.keep Array(o, d)\n"
+            "out.keep Eval(\"New RegExp\").Execute(\"a\")"));
+        kept = gone.out->kept;
+    }
+    EXPECT_EQ(kept.at(0).object()->typeName(), u"Object");
+    EXPECT_EQ(kept.at(0).object()->resolve(u"v"), Object::noMember);
+    control.addObject(u"old", Ref<Object>(makeObject<Legacy>(kept).get()));
+    kept.clear();
+    ASSERT_TRUE(control.addCode("Dim x, i\nOn Error Resume Next\n"
+                                "For i = 0 To 4 : x = old(i) : out.put i & \":\" & Err.Number : Err.Clear : Next\n"
+                                "x = old(0).v : out.put Err.Number : Err.Clear\n"
+                                "old(0).v = 1 : out.put Err.Number : Err.Clear\n"
+                                "old(0).s : out.put Err.Number : Err.Clear\n"
+                                "Set r = old(1) : x = r(1) : out.put Err.Number : Err.Clear\n"
+                                "r 1 : out.put Err.Number : Err.Clear\n"
+                                "x = old(2).x : out.put Err.Number : Err.Clear\n"
+                                "x = old(3).Number : out.put Err.Number : Err.Clear\n"
+                                "x = old(5).Count : out.put Err.Number & \" \" & x : Err.Clear\n"
+                                "out.put TypeName(old(0)) & \" \" & old(7).Count"));
+    EXPECT_EQ(out->seen, (Seen{"0:424", "1:424", "2:424", "3:424", "4:424", "438", "438", "438", "424", "424", "438",
+                               "424", "0 0", "Object 1"}));
+    control.removeObject(u"old");
+    control.reset();
 }
 
 } // namespace

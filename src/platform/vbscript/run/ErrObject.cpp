@@ -4,6 +4,8 @@
 #include "platform/vbscript/value/Convert.h"
 #include "platform/vbscript/value/Library.h"
 
+#include <utility>
+
 namespace vbs {
 
 namespace {
@@ -73,16 +75,37 @@ std::int32_t scriptErrorNumber(std::int32_t code) noexcept {
     }
 }
 
+ErrObject::ErrObject(Vm& vm) : m_vm(&vm) {
+    vm.adopt(*this);
+}
+
+ErrObject::~ErrObject() {
+    dropContents();
+}
+
+void ErrObject::dropContents() noexcept {
+    if (m_vm != nullptr) {
+        std::exchange(m_vm, nullptr)->abandon(*this);
+    }
+}
+
+ErrorState& ErrObject::state() const {
+    if (m_vm == nullptr) {
+        raise(ErrorNumber::ObjectRequired);
+    }
+    return m_vm->error;
+}
+
 Value ErrObject::number(Context& context, Access access, Arguments arguments) {
     if (access == Access::Let) {
-        m_vm.error.number = scriptErrorNumber(toLong(context, arguments[0]));
+        state().number = scriptErrorNumber(toLong(context, arguments[0]));
     }
-    return Value::ofLong(m_vm.error.number);
+    return Value::ofLong(state().number);
 }
 
 template <String ErrorState::*part>
 Value ErrObject::text(Context& context, Access access, Arguments arguments) {
-    String& text = m_vm.error.*part;
+    String& text = state().*part;
     if (access == Access::Let) {
         text = toString(context, arguments[0]);
     }
@@ -91,13 +114,13 @@ Value ErrObject::text(Context& context, Access access, Arguments arguments) {
 
 Value ErrObject::helpContext(Context& context, Access access, Arguments arguments) {
     if (access == Access::Let) {
-        m_vm.error.helpContext = toLong(context, arguments[0]);
+        state().helpContext = toLong(context, arguments[0]);
     }
-    return Value::ofLong(m_vm.error.helpContext);
+    return Value::ofLong(state().helpContext);
 }
 
 Value ErrObject::clear(Context& /*context*/, Access /*access*/, Arguments /*arguments*/) {
-    m_vm.error = {};
+    state() = {};
     return {};
 }
 
@@ -113,16 +136,16 @@ Value ErrObject::raiseError(Context& context, Access /*access*/, Arguments argum
     if (raised.number == 0 || raised.number > greatestNumber) {
         raise(ErrorNumber::InvalidCall);
     }
-    const bool kept = m_vm.error.number != 0;
+    const bool kept = state().number != 0;
     const auto text = [&](std::size_t i, const String& present) {
         const Value* given = optional(arguments, i);
         return given != nullptr ? toString(context, *given) : kept ? present : String();
     };
-    raised.source = text(1, m_vm.error.source);
-    raised.description = text(2, m_vm.error.description);
-    raised.helpFile = text(3, m_vm.error.helpFile);
+    raised.source = text(1, state().source);
+    raised.description = text(2, state().description);
+    raised.helpFile = text(3, state().helpFile);
     const Value* helpContext = optional(arguments, 4);
-    raised.helpContext = helpContext != nullptr ? toLong(context, *helpContext) : kept ? m_vm.error.helpContext : 0;
+    raised.helpContext = helpContext != nullptr ? toLong(context, *helpContext) : kept ? state().helpContext : 0;
     throw raised;
 }
 

@@ -12,9 +12,11 @@ struct ErrorState;
 
 class ErrObject final : public NativeObject<ErrObject> {
 public:
-    explicit ErrObject(Vm& vm) noexcept : m_vm(vm) {}
+    explicit ErrObject(Vm& vm);
+    ~ErrObject() override;
     static std::span<const Member> members();
     std::u16string_view typeName() const override { return u"Object"; }
+    void dropContents() noexcept override;
 
 private:
     Value number(Context& context, Access access, Arguments arguments);
@@ -25,7 +27,9 @@ private:
     Value clear(Context& context, Access access, Arguments arguments);
     Value raiseError(Context& context, Access access, Arguments arguments);
 
-    Vm& m_vm;
+    ErrorState& state() const;
+
+    Vm* m_vm; // null once the engine has gone
 };
 
 // The script's own number for a system result code; other numbers stay as they are.

@@ -9,14 +9,16 @@ class Vm;
 
 class GlobalScope final : public Object {
 public:
-    explicit GlobalScope(Vm& vm) : m_vm(vm) { takesReferences = true; }
+    explicit GlobalScope(Vm& vm);
+    ~GlobalScope() override;
 
     std::u16string_view typeName() const override { return u"Object"; }
     int resolve(std::u16string_view name) override;
     Value invoke(Context& context, int member, Access access, Arguments arguments) override;
+    void dropContents() noexcept override;
 
 private:
-    Vm& m_vm;
+    Vm* m_vm; // null once the engine has gone
 };
 
 } // namespace vbs

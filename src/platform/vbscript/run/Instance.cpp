@@ -15,7 +15,7 @@ std::size_t bytesOf(const ScriptClass& cls) noexcept {
 
 } // namespace
 
-Instance::Instance(Vm& vm, const ScriptClass& cls) : m_vm(vm), m_class(cls), m_charge(bytesOf(cls)) {
+Instance::Instance(Vm& vm, const ScriptClass& cls) : m_vm(&vm), m_class(&cls), m_charge(bytesOf(cls)) {
     role = Role::Instance;
     shape = cls.shape;
     m_fields = std::make_unique<Value[]>(cls.fields.size());
@@ -29,54 +29,86 @@ Instance::Instance(Vm& vm, const ScriptClass& cls) : m_vm(vm), m_class(cls), m_c
 }
 
 Instance::~Instance() {
-    m_vm.abandon(*this);
+    if (m_vm == nullptr) {
+        return;
+    }
+    m_vm->abandon(*this);
     m_fields.reset();
-    m_vm.release(m_class.unit);
+    m_vm->release(m_class->unit);
+}
+
+std::u16string_view Instance::typeName() const {
+    return m_class != nullptr ? std::u16string_view(m_class->spelling) : u"Object";
 }
 
 int Instance::resolve(std::u16string_view name) {
-    const auto found = m_class.index.find(m_vm.symbols().find(name));
-    return found != m_class.index.end() ? found->second : noMember;
+    if (m_class == nullptr) {
+        return noMember;
+    }
+    const auto found = m_class->index.find(m_vm->symbols().find(name));
+    return found != m_class->index.end() ? found->second : noMember;
 }
 
 Value Instance::invoke(Context& /*context*/, int member, Access access, Arguments arguments) {
-    if (member < 0 || static_cast<std::size_t>(member) >= m_class.members.size()) {
+    if (m_vm == nullptr) {
+        raise(ErrorNumber::ObjectRequired);
+    }
+    if (member < 0 || static_cast<std::size_t>(member) >= m_class->members.size()) {
         raise(ErrorNumber::MemberNotFound);
     }
-    return m_vm.invokeInstance(*this, m_class.members[static_cast<std::size_t>(member)], access, arguments);
+    return m_vm->invokeInstance(*this, m_class->members[static_cast<std::size_t>(member)], access, arguments);
 }
 
 void Instance::dropContents() noexcept {
+    if (m_vm == nullptr) {
+        return;
+    }
     terminates = false;
-    for (std::size_t i = 0; i < m_class.fields.size(); ++i) {
+    for (std::size_t i = 0; i < m_class->fields.size(); ++i) {
         m_fields[i].clear();
     }
+    m_vm->abandon(*this);
+    role = Role::Native;
+    shape = nullptr;
+    std::exchange(m_vm, nullptr)->release(std::exchange(m_class, nullptr)->unit);
 }
 
 bool Instance::postponesEnd() noexcept {
-    if (!terminates || m_class.terminate == nullptr) {
+    if (!terminates || m_class->terminate == nullptr) {
         return false;
     }
     terminates = false;
     references = 1;
-    m_vm.awaitTermination(*this);
+    m_vm->awaitTermination(*this);
     return true;
 }
 
-ProcedureReference::ProcedureReference(Vm& vm, const Procedure& procedure) : m_vm(vm), m_procedure(procedure) {
+ProcedureReference::ProcedureReference(Vm& vm, const Procedure& procedure) : m_vm(&vm), m_procedure(&procedure) {
     role = Role::ProcedureReference;
     vm.retain(procedure.unit);
+    vm.adopt(*this);
 }
 
 ProcedureReference::~ProcedureReference() {
-    m_vm.release(m_procedure.unit);
+    dropContents();
+}
+
+void ProcedureReference::dropContents() noexcept {
+    if (m_vm != nullptr) {
+        m_vm->abandon(*this);
+        role = Role::Native;
+        std::exchange(m_vm, nullptr)->release(std::exchange(m_procedure, nullptr)->unit);
+    }
 }
 
 Value ProcedureReference::invoke(Context& /*context*/, int member, Access access, Arguments arguments) {
+    if (m_vm == nullptr) {
+        raise(ErrorNumber::ObjectRequired);
+    }
     if (member != defaultMember || access == Access::Let || access == Access::Set) {
         raise(ErrorNumber::MemberNotFound);
     }
-    return m_vm.callProcedure(m_procedure, nullptr, arguments);
+    return m_vm->callProcedure(*m_procedure, nullptr, arguments);
 }
 
 Iterator::Iterator(const Value& array) : m_array(array) {

@@ -1,4 +1,5 @@
-// An object of a class that the script declares, what GetRef answers, and the iterator behind For Each.
+// An object of a class that the script declares, what GetRef answers, and the iterator behind For Each. A host may keep
+// the first two beyond the end of their engine: they know nothing more then, and using them raises 424.
 #pragma once
 
 #include "platform/vbscript/compile/Program.h"
@@ -17,12 +18,12 @@ public:
     Instance(Vm& vm, const ScriptClass& cls);
     ~Instance() override;
 
-    std::u16string_view typeName() const override { return m_class.spelling; }
+    std::u16string_view typeName() const override;
     int resolve(std::u16string_view name) override;
     Value invoke(Context& context, int member, Access access, Arguments arguments) override;
     void dropContents() noexcept override;
 
-    const ScriptClass& cls() const noexcept { return m_class; }
+    const ScriptClass& cls() const noexcept { return *m_class; }
     Value* fields() noexcept { return m_fields.get(); }
     bool terminates = false; // Class_Initialize was reached, so Class_Terminate will run
 
@@ -31,8 +32,8 @@ protected:
     bool postponesEnd() noexcept override;
 
 private:
-    Vm& m_vm;
-    const ScriptClass& m_class;
+    Vm* m_vm; // null once the engine has gone, and so is the class
+    const ScriptClass* m_class;
     const MemoryCharge m_charge;
     std::unique_ptr<Value[]> m_fields;
 };
@@ -45,12 +46,13 @@ public:
     std::u16string_view typeName() const override { return u"Object"; }
     int resolve(std::u16string_view /*name*/) override { return noMember; }
     Value invoke(Context& context, int member, Access access, Arguments arguments) override;
+    void dropContents() noexcept override;
 
-    const Procedure& procedure() const noexcept { return m_procedure; }
+    const Procedure& procedure() const noexcept { return *m_procedure; }
 
 private:
-    Vm& m_vm;
-    const Procedure& m_procedure;
+    Vm* m_vm; // null once the engine has gone, and so is the procedure
+    const Procedure* m_procedure;
 };
 
 class Iterator final : public Object {
