@@ -4,6 +4,7 @@
 //
 // The two readers take turns, so that what else the machine does falls upon both; the ratio is the median of the ratios
 // of neighbouring rounds. The script engine is left out: its time belongs to the user's script.
+#include "ajustes/Ajustes.h"
 #include "serial/frmRS232.h"
 
 #include <QApplication>
@@ -96,15 +97,11 @@ private:
     pid_t pid_;
 };
 
-class Defaults final : public ConfiguracionSerie {
+class Defaults final : public Ajustes {
 public:
     virtual ~Defaults() = default;
-    std::string leerConfiguracion(std::string_view, std::string_view porDefecto) override {
-        return std::string(porDefecto);
-    }
-    std::string leerConfiguracionRS232(std::string_view, std::string_view porDefecto) override {
-        return std::string(porDefecto);
-    }
+    std::string leerConfiguracion(const Clave& clave) override { return std::string(clave.porDefecto); }
+    void escribirConfiguracion(const Clave&, std::string_view) override {}
     char16_t signoDecimal() const override { return u','; }
 };
 

@@ -1,5 +1,6 @@
 // How soon the operator sees something: the station's start to its first paint beside a bare Qt window's, and opening
 // FrmMW by a double click. Usage: window_times BARE-WINDOW; it starts itself as the station, with the word "station".
+#include "ajustes/Claves.h"
 #include "shell/Estacion.h"
 #include "shell/FrmPrincipal.h"
 
@@ -54,7 +55,7 @@ int station(int argc, char** argv, bool dialogs) {
     const auto folder = std::filesystem::temp_directory_path() / ("window-times-" + std::to_string(getpid()));
     std::filesystem::create_directory(folder);
     Estacion parts(folder, Arranque{.rutaPrograma = (folder / "esclavo-modbus").string(), .lineaDeComandos = {}});
-    parts.config.escribirConfiguracion("PUERTO_VALOR", "15999");
+    parts.config.escribirConfiguracion(claves::puerto, "15999");
     {
         FrmPrincipal window(parts);
         const FirstPaint shown("FrmPrincipal");

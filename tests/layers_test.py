@@ -14,12 +14,13 @@ import tempfile
 import unittest
 
 BELOW = {  # folder: the folders whose files it may include, beside its own
-    "shell": {"modbus", "script", "serial", "bridge", "registers", "platform"},
+    "shell": {"modbus", "script", "serial", "bridge", "registers", "ajustes", "platform"},
     "modbus": {"registers", "platform"},
-    "script": {"registers", "platform"},
-    "serial": {"registers", "platform"},
+    "script": {"registers", "ajustes", "platform"},
+    "serial": {"registers", "ajustes", "platform"},
     "bridge": {"platform"},
     "registers": {"platform"},
+    "ajustes": {"platform"},
 }
 FLOOR = {"platform/text", "platform/posix", "platform/events"}  # known to the other folders of platform/
 # The script engine's rooms, from left to right; a file includes, and a target links, only what stands left of it.

@@ -1,5 +1,6 @@
 #include "script/AutomatizacionScript.h"
 
+#include "ajustes/Claves.h"
 #include "platform/events/Eventos.h"
 #include "platform/text/Numbers.h"
 #include "platform/window/MsgBox.h"
@@ -25,11 +26,11 @@ constexpr QRgb rojo = 0xFFFF0000;
 
 } // namespace
 
-AutomatizacionScript::AutomatizacionScript(Esclavos& esclavos, ConfiguracionScript& configuracion,
+AutomatizacionScript::AutomatizacionScript(Esclavos& esclavos, Ajustes& ajustes,
                                            const std::filesystem::path& carpetaPrograma, Eventos& eventos,
                                            const Ventana& ventana, std::chrono::milliseconds limite)
-    : QObject(&ventana.principal), configuracion_(configuracion), eventos_(eventos), ventana_(ventana),
-      host_(&ventana.principal, ventana.sinPantalla), codigo_(configuracion, carpetaPrograma),
+    : QObject(&ventana.principal), ajustes_(ajustes), eventos_(eventos), ventana_(ventana),
+      host_(&ventana.principal, ventana.sinPantalla), codigo_(ajustes, carpetaPrograma),
       mw_(vbs::makeObject<ObjetoMW>(esclavos, [this](double num) { ejecutor_.ejecucionPedidaPorScript(num); })),
       ScriptControl1_(host_), ejecutor_(ScriptControl1_, codigo_, *this, eventos_) {
     ScriptControl1_.setTimeout(limite);
@@ -54,33 +55,30 @@ AutomatizacionScript::~AutomatizacionScript() {
 
 FrmEdicionCodigo& AutomatizacionScript::editor() {
     if (!editor_)
-        editor_ =
-            new FrmEdicionCodigo(codigo_, configuracion_, ventana_.chScript, ejecutor_, eventos_, &ventana_.principal);
+        editor_ = new FrmEdicionCodigo(codigo_, ajustes_, ventana_.chScript, ejecutor_, eventos_, &ventana_.principal);
     editor_->mostrarFallo(ejecutor_.ultimoError());
     return *editor_;
 }
 
 void AutomatizacionScript::iniciar() {
     ScriptControl1_.addObject(u"mw", vbs::Ref<vbs::Object>(mw_.get()));
-    const std::string ejecutar = configuracion_.leerConfiguracion(ConfiguracionScript::claveEjecutar, "0");
-    const double marcada = text::readNumber(ejecutar, configuracion_.signoDecimal()).value_or(0);
+    const std::string ejecutar = ajustes_.leerConfiguracion(claves::ejecutar);
+    const double marcada = text::readNumber(ejecutar, ajustes_.signoDecimal()).value_or(0);
     ventana_.chScript.setChecked(std::nearbyint(marcada) == 1);
 }
 
 // What makes the click fail is told to the user, and the timer stays as it was.
 void AutomatizacionScript::clicChScript() {
     try {
-        configuracion_.escribirConfiguracion(ConfiguracionScript::claveEjecutar,
-                                             ventana_.chScript.isChecked() ? "1" : "0");
-        const char16_t signo = configuracion_.signoDecimal();
-        const double periodo =
-            periodoDeTexto(configuracion_.leerConfiguracion(ConfiguracionScript::clavePeriodo, "500"), signo);
+        ajustes_.escribirConfiguracion(claves::ejecutar, ventana_.chScript.isChecked() ? "1" : "0");
+        const char16_t signo = ajustes_.signoDecimal();
+        const double periodo = periodoDeTexto(ajustes_.leerConfiguracion(claves::periodo), signo);
         armarTimer(periodo);
         ventana_.lblBaseDeTiempo.setText(
             QString::fromStdString("Intervalo: " + text::writeNumber(periodo, signo) + " Milisegundos"));
     } catch (const ErrorEjecucion& error) {
         if (ventana_.sinPantalla)
-            std::fprintf(stderr, "esclavo-modbus: %s: %s\n", ConfiguracionScript::clavePeriodo.data(), error.what());
+            std::fprintf(stderr, "esclavo-modbus: %s: %s\n", claves::periodo.nombre.data(), error.what());
         else
             avisarMsgBox(&ventana_.principal, QString::fromUtf8(error.what()), vbCritical);
     }

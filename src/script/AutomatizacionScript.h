@@ -6,7 +6,6 @@
 // up: after a pass that took longer than the period, the next one comes a whole period later.
 #pragma once
 
-#include "script/ConfiguracionScript.h"
 #include "script/EjecutorScript.h"
 #include "script/HostScript.h"
 #include "script/ObjetoMW.h"
@@ -19,6 +18,7 @@
 
 #include <chrono>
 
+class Ajustes;
 class Esclavos;
 class Eventos;
 class FrmEdicionCodigo;
@@ -44,9 +44,8 @@ public:
     };
 
     // All borrowed; they outlive this object.
-    AutomatizacionScript(Esclavos& esclavos, ConfiguracionScript& configuracion,
-                         const std::filesystem::path& carpetaPrograma, Eventos& eventos, const Ventana& ventana,
-                         std::chrono::milliseconds limite = tiempoLimite);
+    AutomatizacionScript(Esclavos& esclavos, Ajustes& ajustes, const std::filesystem::path& carpetaPrograma,
+                         Eventos& eventos, const Ventana& ventana, std::chrono::milliseconds limite = tiempoLimite);
     ~AutomatizacionScript() override;
 
     // Part of the main window's start: gives the engine "mw" and sets chScript from the configuration.
@@ -88,7 +87,7 @@ private:
     void armarTimer(double periodo);
     void alVencer();
 
-    ConfiguracionScript& configuracion_;
+    Ajustes& ajustes_;
     Eventos& eventos_;
     Ventana ventana_;
     HostScript host_;

@@ -1,5 +1,6 @@
 #include "script/FrmEdicionCodigo.h"
 
+#include "ajustes/Claves.h"
 #include "platform/events/Eventos.h"
 #include "platform/profile/Archivos.h"
 #include "platform/text/Numbers.h"
@@ -47,10 +48,10 @@ void rearmar(QCheckBox& casilla, Eventos& eventos) {
 
 } // namespace
 
-FrmEdicionCodigo::FrmEdicionCodigo(const Modulo_Codigo& codigo, ConfiguracionScript& configuracion, QCheckBox& chScript,
+FrmEdicionCodigo::FrmEdicionCodigo(const Modulo_Codigo& codigo, Ajustes& ajustes, QCheckBox& chScript,
                                    EjecutorScript& ejecutor, Eventos& eventos, QWidget* padre)
-    : QWidget(padre, Qt::Window), archivo_(codigo), configuracion_(configuracion), chScript_(chScript),
-      ejecutor_(ejecutor), eventos_(eventos) {
+    : QWidget(padre, Qt::Window), archivo_(codigo), ajustes_(ajustes), chScript_(chScript), ejecutor_(ejecutor),
+      eventos_(eventos) {
     setObjectName(QStringLiteral("FrmEdicionCodigo"));
     setAttribute(Qt::WA_DeleteOnClose);
     crearControles();
@@ -74,7 +75,7 @@ void FrmEdicionCodigo::cargar() {
     txtCodigo_->ponerTexto(texto);
     if (!fallo.isEmpty())
         aviso_ = QStringLiteral("No se pudo leer el archivo. ") + fallo;
-    periodoCargado_ = QString::fromStdString(configuracion_.leerConfiguracion(ConfiguracionScript::clavePeriodo, "0"));
+    periodoCargado_ = QString::fromStdString(ajustes_.leerConfiguracion(claves::periodoDelEditor));
     txtIntervaloDeTiempo_->setText(periodoCargado_);
     txtCodigo_->document()->setModified(false);
     mostrarTitulo();
@@ -128,12 +129,12 @@ bool FrmEdicionCodigo::puedeReemplazar() {
 // Returns whether the period stored is another one now.
 bool FrmEdicionCodigo::guardarPeriodo() {
     const std::string texto = txtIntervaloDeTiempo_->text().toStdString();
-    const char16_t signo = configuracion_.signoDecimal();
+    const char16_t signo = ajustes_.signoDecimal();
     const double periodo = periodoDeTexto(texto, signo);
     periodoCargado_ = txtIntervaloDeTiempo_->text();
-    if (text::readNumber(configuracion_.leerConfiguracion(ConfiguracionScript::clavePeriodo, "0"), signo) == periodo)
+    if (text::readNumber(ajustes_.leerConfiguracion(claves::periodoDelEditor), signo) == periodo)
         return false;
-    configuracion_.escribirConfiguracion(ConfiguracionScript::clavePeriodo, texto);
+    ajustes_.escribirConfiguracion(claves::periodoDelEditor, texto);
     return true;
 }
 
@@ -145,7 +146,7 @@ void FrmEdicionCodigo::salir() {
 bool FrmEdicionCodigo::comprobarPeriodo() {
     periodoPendiente_ = false;
     const QString texto = txtIntervaloDeTiempo_->text();
-    const auto periodo = text::readNumber(texto.toStdString(), configuracion_.signoDecimal());
+    const auto periodo = text::readNumber(texto.toStdString(), ajustes_.signoDecimal());
     const bool vacio = texto.trimmed().isEmpty();
     if (periodo && *periodo >= periodoMinimo && *periodo <= periodoMaximo)
         return true;

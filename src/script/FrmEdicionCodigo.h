@@ -9,11 +9,11 @@
 #include "platform/vbscript/ScriptControl.h"
 #include "script/ArchivoCodigo.h"
 #include "script/ComprobadorCodigo.h"
-#include "script/ConfiguracionScript.h"
 
 #include <QPointer>
 #include <QWidget>
 
+class Ajustes;
 class AyudaMW;
 class BarraBusqueda;
 class BarraEjecucion;
@@ -34,8 +34,8 @@ class FrmEdicionCodigo final : public QWidget {
 public:
     // All borrowed. `chScript` starts and stops the script, and is unticked and ticked again to arm the timer with a
     // new period; of `ejecutor` the variables, the console and the times are shown.
-    FrmEdicionCodigo(const Modulo_Codigo& codigo, ConfiguracionScript& configuracion, QCheckBox& chScript,
-                     EjecutorScript& ejecutor, Eventos& eventos, QWidget* padre);
+    FrmEdicionCodigo(const Modulo_Codigo& codigo, Ajustes& ajustes, QCheckBox& chScript, EjecutorScript& ejecutor,
+                     Eventos& eventos, QWidget* padre);
 
     // Tells the outcome of a pass of the script; number 0: good. Cheap when nothing has changed.
     void mostrarFallo(const vbs::ScriptFailure& fallo);
@@ -77,7 +77,7 @@ private:
     bool hayCambios() const;
 
     ArchivoCodigo archivo_;
-    ConfiguracionScript& configuracion_;
+    Ajustes& ajustes_;
     QCheckBox& chScript_;
     EjecutorScript& ejecutor_;
     Eventos& eventos_;

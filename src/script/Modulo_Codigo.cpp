@@ -1,5 +1,6 @@
 #include "script/Modulo_Codigo.h"
 
+#include "ajustes/Claves.h"
 #include "platform/profile/Archivos.h"
 #include "platform/text/Case.h"
 
@@ -17,11 +18,11 @@ bool igualSinCaja(char a, char b) {
 
 } // namespace
 
-Modulo_Codigo::Modulo_Codigo(const AjustesCodigo& ajustes, std::filesystem::path carpetaPrograma)
+Modulo_Codigo::Modulo_Codigo(Ajustes& ajustes, std::filesystem::path carpetaPrograma)
     : ajustes_(ajustes), carpetaPrograma_(std::move(carpetaPrograma)) {}
 
 std::filesystem::path Modulo_Codigo::rutaParaLeer() const {
-    const auto proyecto = ajustes_.rutaProyecto();
+    const auto proyecto = rutaProyecto();
     if (!existeArchivo(proyecto))
         return rutaDelPrograma();
     const auto candidato = rutaScriptDeProyecto(proyecto);
@@ -29,8 +30,12 @@ std::filesystem::path Modulo_Codigo::rutaParaLeer() const {
 }
 
 std::filesystem::path Modulo_Codigo::rutaParaGuardar() const {
-    const auto proyecto = ajustes_.rutaProyecto();
+    const auto proyecto = rutaProyecto();
     return existeArchivo(proyecto) ? rutaScriptDeProyecto(proyecto) : rutaDelPrograma();
+}
+
+std::filesystem::path Modulo_Codigo::rutaProyecto() const {
+    return ajustes_.leerConfiguracion(claves::rutaProyecto);
 }
 
 std::filesystem::path Modulo_Codigo::rutaDelPrograma() const {

@@ -5,19 +5,12 @@
 
 #include <filesystem>
 
-class AjustesCodigo {
-public:
-    // Full path of the default project file; empty without one.
-    virtual std::filesystem::path rutaProyecto() const = 0;
-
-protected:
-    ~AjustesCodigo() = default;
-};
+class Ajustes;
 
 class Modulo_Codigo {
 public:
     // `ajustes` is borrowed.
-    Modulo_Codigo(const AjustesCodigo& ajustes, std::filesystem::path carpetaPrograma);
+    Modulo_Codigo(Ajustes& ajustes, std::filesystem::path carpetaPrograma);
 
     // The file that a pass runs and the editor loads: the project's script if project and script exist, else
     // "codigoTrelvano.txt" in the program's folder (which need not exist).
@@ -27,9 +20,10 @@ public:
     std::filesystem::path rutaParaGuardar() const;
 
 private:
+    std::filesystem::path rutaProyecto() const; // empty without one
     std::filesystem::path rutaDelPrograma() const;
 
-    const AjustesCodigo& ajustes_;
+    Ajustes& ajustes_;
     std::filesystem::path carpetaPrograma_;
 };
 

@@ -4,21 +4,6 @@
 #include <string>
 #include <string_view>
 
-// The configuration file. Both readers write the default back when the value read equals it, and never fail.
-class ConfiguracionSerie {
-public:
-    virtual std::string leerConfiguracion(std::string_view clave, std::string_view porDefecto) = 0;
-
-    // The key is stored as "RS232_" followed by the one given.
-    virtual std::string leerConfiguracionRS232(std::string_view clave, std::string_view porDefecto) = 0;
-
-    // The decimal sign of the numbers in the file.
-    virtual char16_t signoDecimal() const = 0;
-
-protected:
-    ~ConfiguracionSerie() = default;
-};
-
 // The log files: one line for each call. Never fails.
 class LogSerie {
 public:

@@ -1,5 +1,6 @@
 #include "serial/InterpreteTramas.h"
 
+#include "ajustes/Claves.h"
 #include "platform/text/CodePage.h"
 #include "platform/text/Numbers.h"
 #include "serial/Modulo_RS232.h"
@@ -59,6 +60,5 @@ std::string InterpreteTramas::asignaciones(std::string_view lectura, std::string
 
 // Read for every frame text, so that a change of the file takes effect with the next one.
 std::string InterpreteTramas::leerValidez() {
-    return text::writeNumber(numeroDeAjuste(configuracion_.leerConfiguracionRS232("Cant_Intervalos_Validez", "2"),
-                                            configuracion_.signoDecimal()));
+    return text::writeNumber(numeroDeAjuste(ajustes_.leerConfiguracion(claves::validez), ajustes_.signoDecimal()));
 }

@@ -12,6 +12,8 @@
 #include <string>
 #include <string_view>
 
+class Ajustes;
+
 // A reading that could not become assignments; what() is the cause (UTF-8).
 class LecturaRechazada : public std::runtime_error {
 public:
@@ -24,9 +26,9 @@ private:
 
 class InterpreteTramas {
 public:
-    // Configuration and engine are borrowed.
-    InterpreteTramas(const MarcaFin& marca, ConfiguracionSerie& configuracion, MotorSerie& motor)
-        : marca_(marca), configuracion_(configuracion), motor_(motor) {}
+    // Settings and engine are borrowed.
+    InterpreteTramas(const MarcaFin& marca, Ajustes& ajustes, MotorSerie& motor)
+        : marca_(marca), ajustes_(ajustes), motor_(motor) {}
 
     // Hands the readings of a frame text (ANSI) to the engine in order and gives the list of them back, each followed
     // by CR LF. Raises LecturaRechazada for the first one that fails; those after it are not interpreted. A configured
@@ -41,6 +43,6 @@ private:
     void darValor_A_Variable(std::string_view lectura, std::string_view validez);
 
     MarcaFin marca_;
-    ConfiguracionSerie& configuracion_;
+    Ajustes& ajustes_;
     MotorSerie& motor_;
 };

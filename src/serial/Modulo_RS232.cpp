@@ -1,5 +1,6 @@
 #include "serial/Modulo_RS232.h"
 
+#include "ajustes/Claves.h"
 #include "platform/text/Numbers.h"
 #include "registers/ErrorEjecucion.h"
 #include "registers/Palabra.h"
@@ -14,27 +15,26 @@ unsigned char caracter(std::string_view codigo, char16_t signoDecimal) {
     return static_cast<unsigned char>(numero);
 }
 
-unsigned char leerCaracter(ConfiguracionSerie& configuracion, LogSerie& log, std::string_view clave,
-                           std::string_view porDefecto) {
-    const std::string codigo = configuracion.leerConfiguracion(clave, porDefecto);
+unsigned char leerCaracter(Ajustes& ajustes, LogSerie& log, const Clave& clave) {
+    const std::string codigo = ajustes.leerConfiguracion(clave);
     try {
-        return caracter(codigo, configuracion.signoDecimal());
+        return caracter(codigo, ajustes.signoDecimal());
     } catch (const ErrorEjecucion& error) {
-        log.escribirLog("RS232", std::string(clave) + ": " + codigo, "", error.what());
-        return caracter(porDefecto, configuracion.signoDecimal());
+        log.escribirLog("RS232", std::string(clave.nombre) + ": " + codigo, "", error.what());
+        return caracter(clave.porDefecto, ajustes.signoDecimal());
     }
 }
 
 } // namespace
 
-ConfiguracionRS232 ConfiguracionRS232::leer(ConfiguracionSerie& configuracion) {
+ConfiguracionRS232 ConfiguracionRS232::leer(Ajustes& ajustes) {
     ConfiguracionRS232 leida;
-    leida.NomCOM = configuracion.leerConfiguracionRS232("NomCOM", "1");
-    leida.Baudios = configuracion.leerConfiguracionRS232("Baudios", "9600");
-    leida.Paridad = configuracion.leerConfiguracionRS232("Paridad", "N");
-    leida.DataBits = configuracion.leerConfiguracionRS232("DataBits", "8");
-    leida.StopBit = configuracion.leerConfiguracionRS232("StopBit", "1");
-    leida.signoDecimal = configuracion.signoDecimal();
+    leida.NomCOM = ajustes.leerConfiguracion(claves::puertoSerie);
+    leida.Baudios = ajustes.leerConfiguracion(claves::baudios);
+    leida.Paridad = ajustes.leerConfiguracion(claves::paridad);
+    leida.DataBits = ajustes.leerConfiguracion(claves::bitsDeDatos);
+    leida.StopBit = ajustes.leerConfiguracion(claves::bitsDeParada);
+    leida.signoDecimal = ajustes.signoDecimal();
     return leida;
 }
 
@@ -53,8 +53,8 @@ double numeroDeAjuste(std::string_view texto, char16_t signoDecimal) {
     return *numero;
 }
 
-MarcaFin leerMarcaFin(ConfiguracionSerie& configuracion, LogSerie& log) {
-    const unsigned char primero = leerCaracter(configuracion, log, "Caracter_Fin_TRAMA_1", "10");
-    const unsigned char segundo = leerCaracter(configuracion, log, "Caracter_Fin_TRAMA_2", "13");
+MarcaFin leerMarcaFin(Ajustes& ajustes, LogSerie& log) {
+    const unsigned char primero = leerCaracter(ajustes, log, claves::finDeTrama1);
+    const unsigned char segundo = leerCaracter(ajustes, log, claves::finDeTrama2);
     return MarcaFin(primero, segundo);
 }

@@ -9,6 +9,8 @@
 #include <string>
 #include <string_view>
 
+class Ajustes;
+
 // The five port settings as they stand in the file, unchecked.
 struct ConfiguracionRS232 {
     std::string NomCOM;  // port number
@@ -18,7 +20,7 @@ struct ConfiguracionRS232 {
     std::string StopBit;
     char16_t signoDecimal = u','; // of the numbers above
 
-    static ConfiguracionRS232 leer(ConfiguracionSerie& configuracion);
+    static ConfiguracionRS232 leer(Ajustes& ajustes);
 
     // The port number as a whole number. Raises ErrorEjecucion: tiposNoCoinciden, desbordamiento.
     std::int16_t CommPort() const;
@@ -30,6 +32,6 @@ struct ConfiguracionRS232 {
 // The number that a setting stands for. Raises ErrorEjecucion (tiposNoCoinciden).
 double numeroDeAjuste(std::string_view texto, char16_t signoDecimal);
 
-// The end mark of the keys "Caracter_Fin_TRAMA_1" and "Caracter_Fin_TRAMA_2". A value that is no character code 0 to
+// The configured end mark. A value that is no character code 0 to
 // 255 goes to the log and its default (10, 13) takes its place.
-MarcaFin leerMarcaFin(ConfiguracionSerie& configuracion, LogSerie& log);
+MarcaFin leerMarcaFin(Ajustes& ajustes, LogSerie& log);

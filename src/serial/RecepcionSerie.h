@@ -38,8 +38,8 @@ public:
     using Entrada = std::function<std::string()>;
 
     // All but the mark are borrowed.
-    RecepcionSerie(const MarcaFin& marca, ConfiguracionSerie& configuracion, MotorSerie& motor, SalidaSerie& salida)
-        : cortador_(marca), interprete_(marca, configuracion, motor), salida_(salida) {}
+    RecepcionSerie(const MarcaFin& marca, Ajustes& ajustes, MotorSerie& motor, SalidaSerie& salida)
+        : cortador_(marca), interprete_(marca, ajustes, motor), salida_(salida) {}
 
     // The receive event, of whatever kind. Faults go to the output, none passes through.
     void alRecibir(const Entrada& Input);

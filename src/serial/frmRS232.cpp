@@ -75,9 +75,8 @@ QString legible(std::string_view lectura) {
 
 } // namespace
 
-frmRS232::frmRS232(const QString& carpeta, ConfiguracionSerie& configuracion, LogSerie& log, MotorSerie& motor,
-                   QWidget* parent)
-    : QWidget(parent, Qt::Window), configuracion_(configuracion), log_(log), motor_(motor), comm_(carpeta, this) {
+frmRS232::frmRS232(const QString& carpeta, Ajustes& ajustes, LogSerie& log, MotorSerie& motor, QWidget* parent)
+    : QWidget(parent, Qt::Window), ajustes_(ajustes), log_(log), motor_(motor), comm_(carpeta, this) {
     crearControles();
     comm_.setObjectName(QStringLiteral("MSComm"));
     connect(&comm_, &MSComm::OnComm, this, &frmRS232::MSComm_OnComm);
@@ -88,7 +87,7 @@ frmRS232::frmRS232(const QString& carpeta, ConfiguracionSerie& configuracion, Lo
 
     // A step that is logged may open a box, in which characters arrive.
     SetearConfig();
-    recepcion_.emplace(leerMarcaFin(configuracion_, log_), configuracion_, motor_, static_cast<SalidaSerie&>(*this));
+    recepcion_.emplace(leerMarcaFin(ajustes_, log_), ajustes_, motor_, static_cast<SalidaSerie&>(*this));
 
     timerLimpiarBuffer_.setObjectName(QStringLiteral("timerLimpiarBuffer"));
     timerLimpiarBuffer_.setInterval(3000ms);
@@ -153,7 +152,7 @@ void frmRS232::crearControles() {
 }
 
 void frmRS232::SetearConfig() {
-    ajustes_ = ConfiguracionRS232::leer(configuracion_);
+    configuracion_ = ConfiguracionRS232::leer(ajustes_);
     const auto intentar = [this](std::string_view propiedad, const auto& asignacion) {
         try {
             asignacion();
@@ -161,13 +160,13 @@ void frmRS232::SetearConfig() {
             escribirFallo("SetearConfig", propiedad, error.what());
         }
     };
-    intentar("CommPort", [this] { comm_.setCommPort(ajustes_.CommPort()); });
-    intentar("Settings", [this] { comm_.setSettings(ajustes_.Settings()); });
+    intentar("CommPort", [this] { comm_.setCommPort(configuracion_.CommPort()); });
+    intentar("Settings", [this] { comm_.setSettings(configuracion_.Settings()); });
     intentar("InputLen", [this] { comm_.setInputLen(0); });
     intentar("RThreshold", [this] { comm_.setRThreshold(1); });
     intentar("SThreshold", [this] { comm_.setSThreshold(1); });
     intentar("PortOpen", [this] { abrirPuerto(); });
-    txtConfigRS232_->setText(deUtf8("Com: " + ajustes_.NomCOM + " / " + comm_.Settings()));
+    txtConfigRS232_->setText(deUtf8("Com: " + configuracion_.NomCOM + " / " + comm_.Settings()));
 }
 
 void frmRS232::abrirPuerto() {
@@ -186,7 +185,7 @@ void frmRS232::cerradoPor(std::string_view causa) {
 }
 
 std::string frmRS232::conAjustes(std::string_view operacion) const {
-    return std::string(operacion) + ": Com:" + ajustes_.NomCOM + "/" + ajustes_.Settings();
+    return std::string(operacion) + ": Com:" + configuracion_.NomCOM + "/" + configuracion_.Settings();
 }
 
 void frmRS232::escribirFallo(std::string_view operacion, std::string_view detalle, std::string_view descripcion) {

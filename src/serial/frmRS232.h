@@ -24,8 +24,7 @@ class frmRS232 final : public QWidget, private SalidaSerie {
 
 public:
     // `carpeta` is the program's folder, where the links com<n> stand. The others are borrowed.
-    frmRS232(const QString& carpeta, ConfiguracionSerie& configuracion, LogSerie& log, MotorSerie& motor,
-             QWidget* parent = nullptr);
+    frmRS232(const QString& carpeta, Ajustes& ajustes, LogSerie& log, MotorSerie& motor, QWidget* parent = nullptr);
 
     // Reads the settings, sets the port up and opens it. A step that fails goes to the log and the next one follows.
     void SetearConfig();
@@ -44,11 +43,11 @@ private:
     void agregarListado(std::string_view listado) override;
     void rechazar(std::string_view lectura, std::string_view causa) override;
 
-    ConfiguracionSerie& configuracion_;
+    Ajustes& ajustes_;
     LogSerie& log_;
     MotorSerie& motor_;
     MSComm comm_;
-    ConfiguracionRS232 ajustes_;
+    ConfiguracionRS232 configuracion_;
     FallosRepetidos fallosRecepcion_{log_};
     std::optional<RecepcionSerie> recepcion_; // empty until the end mark is read, after the port was opened
     bool llegoAntes_ = false;                 // characters arrived by then

@@ -9,8 +9,8 @@
 #include <ctime>
 #include <stdexcept>
 
-EnlaceSerie::EnlaceSerie(QWidget& principal, const Modulo_Config& config, vbs::ScriptControl& motor,
-                         std::string ejecutable, bool depurar)
+EnlaceSerie::EnlaceSerie(QWidget& principal, Modulo_Config& config, vbs::ScriptControl& motor, std::string ejecutable,
+                         bool depurar)
     : principal_(principal), config_(config), motor_(motor), ejecutable_(std::move(ejecutable)), log_(*this, depurar) {}
 
 EnlaceSerie::~EnlaceSerie() {
@@ -20,7 +20,7 @@ EnlaceSerie::~EnlaceSerie() {
 frmRS232& EnlaceSerie::formulario() {
     if (!formulario_) {
         formulario_ =
-            new frmRS232(QString::fromStdString(carpetaPrograma().string()), *this, *this, *this, &principal_);
+            new frmRS232(QString::fromStdString(carpetaPrograma().string()), config_, *this, *this, &principal_);
         ponerAyudaContextual(*formulario_);
     }
     return *formulario_;
@@ -29,18 +29,6 @@ frmRS232& EnlaceSerie::formulario() {
 void EnlaceSerie::ocultar() {
     if (formulario_)
         formulario_->hide();
-}
-
-std::string EnlaceSerie::leerConfiguracion(std::string_view clave, std::string_view porDefecto) {
-    return config_.leerConfiguracion(clave, porDefecto);
-}
-
-std::string EnlaceSerie::leerConfiguracionRS232(std::string_view clave, std::string_view porDefecto) {
-    return config_.leerConfiguracionRS232(clave, porDefecto);
-}
-
-char16_t EnlaceSerie::signoDecimal() const {
-    return config_.signoDecimal();
 }
 
 void EnlaceSerie::escribirLog(std::string_view origen, std::string_view mensaje, std::string_view detalle,

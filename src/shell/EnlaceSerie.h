@@ -18,10 +18,10 @@ namespace vbs {
 class ScriptControl;
 }
 
-class EnlaceSerie final : private ConfiguracionSerie, private LogSerie, private MotorSerie, private EntornoDebug {
+class EnlaceSerie final : private LogSerie, private MotorSerie, private EntornoDebug {
 public:
     // All borrowed. The log lines name `ejecutable`; `depurar` shows every logged error in a message box too.
-    EnlaceSerie(QWidget& principal, const Modulo_Config& config, vbs::ScriptControl& motor, std::string ejecutable,
+    EnlaceSerie(QWidget& principal, Modulo_Config& config, vbs::ScriptControl& motor, std::string ejecutable,
                 bool depurar);
     ~EnlaceSerie();
     EnlaceSerie(const EnlaceSerie&) = delete;
@@ -34,10 +34,6 @@ public:
     void ocultar();
 
 private:
-    // ConfiguracionSerie
-    std::string leerConfiguracion(std::string_view clave, std::string_view porDefecto) override;
-    std::string leerConfiguracionRS232(std::string_view clave, std::string_view porDefecto) override;
-    char16_t signoDecimal() const override;
     // LogSerie
     void escribirLog(std::string_view origen, std::string_view mensaje, std::string_view detalle,
                      std::string_view descripcionError) override;
@@ -50,7 +46,7 @@ private:
     void mostrarErrorCritico(const std::string& texto, const std::string& titulo) override;
 
     QWidget& principal_;
-    const Modulo_Config& config_;
+    Modulo_Config& config_;
     vbs::ScriptControl& motor_;
     std::string ejecutable_;
     Modulo_DEBUG log_;

@@ -1,5 +1,6 @@
 #include "shell/Estacion.h"
 
+#include "ajustes/Claves.h"
 #include "bridge/Puente.h"
 #include "platform/locale/SystemLocale.h"
 
@@ -24,8 +25,8 @@ Estacion::Estacion(const std::filesystem::path& carpeta, Arranque conQue)
 
 void Estacion::abrirVentana(VentanaEstacion& ventana, const AutomatizacionScript::Ventana& controles) {
     ventana_ = &ventana;
-    script_ = std::make_unique<AutomatizacionScript>(esclavos, configuracionScript_, config.rutaArchivo().parent_path(),
-                                                     eventos, controles, arranque.limiteScript);
+    script_ = std::make_unique<AutomatizacionScript>(esclavos, config, config.rutaArchivo().parent_path(), eventos,
+                                                     controles, arranque.limiteScript);
     decir(avisoCarpeta_, arranque.avisoCarpeta);
     enlaceSerie_ = std::make_unique<EnlaceSerie>(controles.principal, config, script_->ScriptControl1(),
                                                  std::filesystem::path(arranque.rutaPrograma).filename().string(),
@@ -53,14 +54,14 @@ void Estacion::ponerPeticionesACero() {
 // A file that cannot be read for the moment, for want of a descriptor or because its folder is away, moves no listener.
 double Estacion::leerPuerto() {
     const bool vale = !config.ilegible();
-    const double leido = config.leerNumero("PUERTO_VALOR", "502").value_or(0);
+    const double leido = config.leerNumero(claves::puerto).value_or(0);
     if (vale)
         ultimoPuerto_ = leido;
     return ultimoPuerto_.value_or(leido);
 }
 
 void Estacion::guardarPuerto(double puerto) {
-    config.escribirNumero("PUERTO_VALOR", puerto);
+    config.escribirNumero(claves::puerto, puerto);
 }
 
 void Estacion::mostrarPuerto(const std::string& texto) {

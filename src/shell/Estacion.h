@@ -16,7 +16,6 @@
 #include "registers/Esclavos.h"
 #include "script/AutomatizacionScript.h"
 #include "shell/ArchivoEtiquetas.h"
-#include "shell/ConfiguracionScriptIni.h"
 #include "shell/EnlaceSerie.h"
 #include "shell/Modulo_Config.h"
 #include "shell/RelojSistema.h"
@@ -79,7 +78,7 @@ public:
 
     const std::chrono::steady_clock::time_point inicio = std::chrono::steady_clock::now();
     const Arranque arranque;
-    const Modulo_Config config;
+    Modulo_Config config;
     Esclavos esclavos;
     Anotaciones anotaciones;
     Monitores monitores;
@@ -111,7 +110,6 @@ private:
     std::string avisoPuerto_;
     std::string avisoEtiquetas_;
     ArchivoEtiquetas archivoEtiquetas_;
-    ConfiguracionScriptIni configuracionScript_{config};
     std::unique_ptr<AutomatizacionScript> script_;
     std::unique_ptr<EnlaceSerie> enlaceSerie_;
 };

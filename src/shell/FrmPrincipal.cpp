@@ -1,5 +1,6 @@
 #include "shell/FrmPrincipal.h"
 
+#include "ajustes/Claves.h"
 #include "bridge/FrmConexionesPuentes.h"
 #include "modbus/VistaMonitor.h"
 #include "platform/window/Contraste.h"
@@ -37,6 +38,7 @@ namespace {
 
 constexpr std::chrono::milliseconds periodoCambioPuerto{5000};
 constexpr std::chrono::milliseconds periodoAux{1000};
+constexpr Clave VER{.nombre = "VER"}; // claves::ver as a second instance spells it
 constexpr int tablasIniciales = 12;
 constexpr double ultimoRegistroInicial = 499;
 
@@ -164,7 +166,7 @@ void FrmPrincipal::rechazarSegundaInstancia() {
     else
         MsgBox(nullptr, mensaje, vbCritical + vbSystemModal, QStringLiteral("Esclavo Modbus"));
     if (!apagada_)
-        estacion_.config.escribirConfiguracion("VER", "1");
+        estacion_.config.escribirConfiguracion(VER, "1");
 }
 
 void FrmPrincipal::crearTablasIniciales() {
@@ -175,7 +177,7 @@ void FrmPrincipal::crearTablasIniciales() {
 void FrmPrincipal::atenderLineaDeComandos() {
     if (!estacion_.arranque.lineaDeComandos.contains(QLatin1String("view"), Qt::CaseInsensitive))
         return;
-    estacion_.config.escribirConfiguracion("ver", "1");
+    estacion_.config.escribirConfiguracion(claves::ver, "1");
     show();
 }
 
@@ -224,14 +226,14 @@ void FrmPrincipal::comprobarPuertoYVisibilidad() {
 void FrmPrincipal::aplicarVisibilidad() {
     if (std::exchange(visibilidadAplicada_, true) && estacion_.config.ilegible())
         return;
-    if (estacion_.config.leerConfiguracion("ver", "1") != "1")
+    if (estacion_.config.leerConfiguracion(claves::ver) != "1")
         hide();
     else if (!isVisible())
         show();
 }
 
 void FrmPrincipal::ocultar() {
-    estacion_.config.escribirConfiguracion("ver", "0");
+    estacion_.config.escribirConfiguracion(claves::ver, "0");
     hide();
 }
 

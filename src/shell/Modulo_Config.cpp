@@ -2,14 +2,12 @@
 
 #include "platform/profile/ArchivoBytes.h"
 #include "platform/profile/Archivos.h"
-#include "platform/text/Numbers.h"
 #include "shell/Modulo_modINI.h"
 
 #include <utility>
 
 namespace {
 
-constexpr std::string_view seccionPrincipal = "Trelvano";
 constexpr std::string_view seccionVentanas = "Ventanas";
 
 } // namespace
@@ -21,25 +19,17 @@ std::filesystem::path Modulo_Config::rutaArchivo() const {
     return carpeta_ / "Sis_Config.ini";
 }
 
-std::string Modulo_Config::leerConfiguracion(std::string_view clave, std::string_view porDefecto) const {
-    std::string valor = sGetINI(rutaArchivo(), seccionPrincipal, clave, porDefecto);
-    if (valor == porDefecto)
-        escribir(clave, valor);
+std::string Modulo_Config::leerConfiguracion(const Clave& clave) {
+    std::string valor = sGetINI(rutaArchivo(), clave.seccion, clave.nombre, clave.porDefecto);
+    if (!clave.ajena && valor == clave.porDefecto)
+        escribirConfiguracion(clave, valor);
     return valor;
 }
 
-std::string Modulo_Config::leerConfiguracionRS232(std::string_view clave, std::string_view porDefecto) const {
-    return leerConfiguracion("RS232_" + std::string(clave), porDefecto);
-}
-
-void Modulo_Config::escribirConfiguracion(std::string_view clave, std::string_view valor) const {
-    escribir(clave, valor);
-}
-
-void Modulo_Config::escribir(std::string_view clave, std::string_view valor) const {
+void Modulo_Config::escribirConfiguracion(const Clave& clave, std::string_view valor) {
     const std::string_view ausente = "\n"; // no value has a line end
-    if (sGetINI(rutaArchivo(), seccionPrincipal, clave, ausente) != valor)
-        ultimaEscritura_ = WriteINI(rutaArchivo(), seccionPrincipal, clave, valor);
+    if (sGetINI(rutaArchivo(), clave.seccion, clave.nombre, ausente) != valor)
+        ultimaEscritura_ = WriteINI(rutaArchivo(), clave.seccion, clave.nombre, valor);
 }
 
 bool Modulo_Config::ilegible() const {
@@ -60,22 +50,10 @@ std::string Modulo_Config::fallo() const {
     return {};
 }
 
-std::optional<double> Modulo_Config::leerNumero(std::string_view clave, std::string_view porDefecto) const {
-    return text::readNumber(leerConfiguracion(clave, porDefecto), signoDecimal_);
-}
-
-void Modulo_Config::escribirNumero(std::string_view clave, double numero) const {
-    escribirConfiguracion(clave, text::writeNumber(numero, signoDecimal_));
-}
-
-std::string Modulo_Config::rutaProyecto() const {
-    return sGetINI(rutaArchivo(), "PROYECTO_PREDETERMINADO", "RutaProyecto", "");
-}
-
 std::string Modulo_Config::lugarDeVentana(std::string_view ventana) const {
     return sGetINI(rutaArchivo(), seccionVentanas, ventana, "");
 }
 
-void Modulo_Config::guardarLugarDeVentana(std::string_view ventana, std::string_view lugar) const {
+void Modulo_Config::guardarLugarDeVentana(std::string_view ventana, std::string_view lugar) {
     ultimaEscritura_ = WriteINI(rutaArchivo(), seccionVentanas, ventana, lugar);
 }

@@ -2,8 +2,8 @@
 // window.
 #pragma once
 
+#include "AjustesFalsos.h"
 #include "CarpetaTemporal.h"
-#include "ConfiguracionFalsa.h"
 #include "platform/window/EventosQt.h"
 #include "script/EditorCodigo.h"
 #include "script/EjecutorScript.h"
@@ -20,7 +20,7 @@
 class EditorDePrueba : public QObject, private EntornoScript {
 protected:
     std::unique_ptr<CarpetaTemporal> carpeta_;
-    std::unique_ptr<ConfiguracionFalsa> config_;
+    std::unique_ptr<AjustesFalsos> config_;
     std::unique_ptr<Modulo_Codigo> codigo_;
     std::unique_ptr<QWidget> principal_;
     QCheckBox* chScript_ = nullptr;
@@ -59,7 +59,7 @@ protected:
 
     void preparar() {
         carpeta_ = std::make_unique<CarpetaTemporal>();
-        config_ = std::make_unique<ConfiguracionFalsa>();
+        config_ = std::make_unique<AjustesFalsos>();
         codigo_ = std::make_unique<Modulo_Codigo>(*config_, carpeta_->ruta());
         motor_ = std::make_unique<vbs::ScriptControl>(host_);
         ejecutor_ = std::make_unique<EjecutorScript>(*motor_, *codigo_, static_cast<EntornoScript&>(*this), eventos_);

@@ -1,5 +1,6 @@
 #include "script/EjecutorScript.h"
 
+#include "AjustesFalsos.h"
 #include "CarpetaTemporal.h"
 #include "EventosFalsos.h"
 #include "script/MotorConMW.h"
@@ -16,7 +17,7 @@ namespace {
 
 // A runner whose window only notes what it is told: "+" a green pass, "-" a red one, "e" pending events,
 // ">" a pass put off.
-class Runner : public testing::Test, protected AjustesCodigo, protected EntornoScript {
+class Runner : public testing::Test, protected EntornoScript {
 protected:
     Runner() {
         station_.esclavos.crearEsclavo(1, 0, 99);
@@ -27,7 +28,6 @@ protected:
         };
     }
 
-    std::filesystem::path rutaProyecto() const override { return {}; }
     bool ejecucionActiva() const override { return active_; }
     void mostrarResultado(bool good) override {
         told_ += good ? '+' : '-';
@@ -53,7 +53,8 @@ protected:
     std::function<void()> onEvents_;
     std::function<void()> onResult_;
     EventosFalsos events_;
-    Modulo_Codigo code_{*this, folder_.ruta()};
+    AjustesFalsos settings_;
+    Modulo_Codigo code_{settings_, folder_.ruta()};
     EjecutorScript runner_{station_.motor, code_, *this, events_};
 };
 

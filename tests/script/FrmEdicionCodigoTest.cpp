@@ -66,7 +66,7 @@ private Q_SLOTS:
         escribirArchivo(archivo(), "del programa");
         escribirArchivo(*carpeta_ / "P.ZQP", "");
         escribirArchivo(*carpeta_ / "P.KOVAScrip", "del proyecto");
-        config_->proyecto = *carpeta_ / "P.ZQP";
+        config_->valores["RutaProyecto"] = (*carpeta_ / "P.ZQP").string();
         abrir();
         QCOMPARE(txtCodigo().texto(), QStringLiteral("del proyecto\n"));
     }
@@ -74,7 +74,7 @@ private Q_SLOTS:
     void projectWithoutScriptShowsTheProgramsAndSavesItsOwn() {
         escribirArchivo(archivo(), "del programa");
         escribirArchivo(*carpeta_ / "p.zqp", "");
-        config_->proyecto = *carpeta_ / "p.zqp";
+        config_->valores["RutaProyecto"] = (*carpeta_ / "p.zqp").string();
         abrir();
         QCOMPARE(txtCodigo().texto(), QStringLiteral("del programa\n"));
         guardar();
@@ -87,11 +87,11 @@ private Q_SLOTS:
     void periodIsReadWithDefaultZeroAndWrittenBack() {
         abrir();
         QCOMPARE(periodo().text(), QStringLiteral("0"));
-        QCOMPARE(config_->claves[clavePeriodo], std::string("0"));
+        QCOMPARE(config_->valores[clavePeriodo], std::string("0"));
     }
 
     void storedPeriodIsShown() {
-        config_->claves[clavePeriodo] = "250";
+        config_->valores[clavePeriodo] = "250";
         abrir();
         QCOMPARE(periodo().text(), QStringLiteral("250"));
     }
@@ -130,7 +130,7 @@ private Q_SLOTS:
     }
     void badPeriodIsToldSetToThousandAndKeepsTheFocus() {
         QFETCH(QString, escrito);
-        config_->claves[clavePeriodo] = "500";
+        config_->valores[clavePeriodo] = "500";
         abrir();
         escribirPeriodo(escrito);
         CajaDeMensaje caja;
@@ -144,7 +144,7 @@ private Q_SLOTS:
         QTest::mouseClick(txtCodigo().viewport(), Qt::LeftButton); // 1000 is good
         QTRY_VERIFY(txtCodigo().hasFocus());
         QCOMPARE(caja.vistas, 1);
-        QCOMPARE(config_->claves[clavePeriodo], std::string("500")); // nothing is stored before a save
+        QCOMPARE(config_->valores[clavePeriodo], std::string("500")); // nothing is stored before a save
     }
 
     void goodPeriodsAreAccepted_data() {
@@ -180,7 +180,7 @@ private Q_SLOTS:
         QCOMPARE(periodo().text(), QStringLiteral("1000"));
         QCOMPARE(contenidoDe(archivo()), std::string("a = 1"));
         guardar();
-        QCOMPARE(config_->claves[clavePeriodo], std::string("1000"));
+        QCOMPARE(config_->valores[clavePeriodo], std::string("1000"));
     }
 
     void saveKeyInTheBoxChecksThePeriodFirst() {
@@ -244,23 +244,23 @@ private Q_SLOTS:
     }
 
     void newPeriodIsStoredAsItsText() {
-        config_->claves[clavePeriodo] = "500";
+        config_->valores[clavePeriodo] = "500";
         abrir();
         escribirPeriodo(QStringLiteral("12,5"));
         guardar();
-        QCOMPARE(config_->claves[clavePeriodo], std::string("12,5"));
+        QCOMPARE(config_->valores[clavePeriodo], std::string("12,5"));
         QVERIFY(clics_.empty()); // automation is off
     }
 
     void newPeriodRearmsTheTimerWhileAutomationIsOn() {
-        config_->claves[clavePeriodo] = "500";
+        config_->valores[clavePeriodo] = "500";
         abrir();
         chScript_->setChecked(true);
         clics_.clear();
         escribirPeriodo(QStringLiteral("70"));
         guardar();
         QCOMPARE(clics_, std::vector<bool>({false, true}));
-        QCOMPARE(config_->claves[clavePeriodo], std::string("70"));
+        QCOMPARE(config_->valores[clavePeriodo], std::string("70"));
     }
 
     void windowClosedWhileItSavesIsGoneAndAutomationOn_data() {
@@ -270,7 +270,7 @@ private Q_SLOTS:
     }
     void windowClosedWhileItSavesIsGoneAndAutomationOn() {
         QFETCH(bool, conBoton);
-        config_->claves[clavePeriodo] = "500";
+        config_->valores[clavePeriodo] = "500";
         abrirCon("a = 1");
         chScript_->setChecked(true);
         clics_.clear();
@@ -286,7 +286,7 @@ private Q_SLOTS:
         guardar();
         QVERIFY(seFueDurante);
         QCOMPARE(contenidoDe(archivo()), std::string("a = 1\r\n\r\n"));
-        QCOMPARE(config_->claves[clavePeriodo], std::string("70"));
+        QCOMPARE(config_->valores[clavePeriodo], std::string("70"));
         QCOMPARE(clics_, std::vector<bool>({false, true}));
         QVERIFY(chScript_->isChecked());
     }
@@ -305,7 +305,7 @@ private Q_SLOTS:
     }
 
     void unchangedPeriodRearmsAndStoresNothing() {
-        config_->claves[clavePeriodo] = "500";
+        config_->valores[clavePeriodo] = "500";
         abrir();
         chScript_->setChecked(true);
         clics_.clear();
@@ -318,11 +318,11 @@ private Q_SLOTS:
     }
 
     void periodThatChangedInTheFileMeanwhileIsComparedAnew() {
-        config_->claves[clavePeriodo] = "500";
+        config_->valores[clavePeriodo] = "500";
         abrir();
-        config_->claves[clavePeriodo] = "70";
+        config_->valores[clavePeriodo] = "70";
         guardar();
-        QCOMPARE(config_->claves[clavePeriodo], std::string("500"));
+        QCOMPARE(config_->valores[clavePeriodo], std::string("500"));
     }
 
     void saveThatFailsIsToldAndTheTextStaysUnsaved() {
@@ -630,7 +630,7 @@ private Q_SLOTS:
     }
 
     void tabLeavesThePeriodForTheButtons() {
-        config_->claves[clavePeriodo] = "500";
+        config_->valores[clavePeriodo] = "500";
         abrir();
         QTest::mouseClick(&periodo(), Qt::LeftButton);
         QStringList recorrido;

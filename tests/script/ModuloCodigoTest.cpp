@@ -1,3 +1,4 @@
+#include "AjustesFalsos.h"
 #include "CarpetaTemporal.h"
 #include "script/Modulo_Codigo.h"
 
@@ -9,14 +10,16 @@ namespace fs = std::filesystem;
 namespace {
 
 // A program folder and a project folder; the default project is set by each test.
-class ScriptPlace : public testing::Test, protected AjustesCodigo {
+class ScriptPlace : public testing::Test {
 protected:
     ScriptPlace() { fs::create_directories(projects_); }
 
-    fs::path rutaProyecto() const override { return project_; }
-
+    void pathIs(const fs::path& project) {
+        project_ = project;
+        settings_.valores["RutaProyecto"] = project.string();
+    }
     void projectIs(const std::string& name) {
-        project_ = projects_ / name;
+        pathIs(projects_ / name);
         escribirArchivo(project_, "");
     }
     fs::path ofProgram() const { return folder_ / "codigoTrelvano.txt"; }
@@ -24,7 +27,8 @@ protected:
     CarpetaTemporal folder_;
     fs::path projects_ = folder_ / "Mis Proyectos ñ";
     fs::path project_;
-    Modulo_Codigo code_{*this, folder_.ruta()};
+    AjustesFalsos settings_;
+    Modulo_Codigo code_{settings_, folder_.ruta()};
 };
 
 } // namespace
@@ -35,7 +39,7 @@ TEST_F(ScriptPlace, withoutAProjectItIsInTheProgramFolder) {
 }
 
 TEST_F(ScriptPlace, aProjectThatDoesNotExistCountsForNothing) {
-    project_ = projects_ / "falta.zqp";
+    pathIs(projects_ / "falta.zqp");
     escribirArchivo(projects_ / "falta.KOVAScrip", "x = 1");
     EXPECT_EQ(code_.rutaParaLeer(), ofProgram());
     EXPECT_EQ(code_.rutaParaGuardar(), ofProgram());

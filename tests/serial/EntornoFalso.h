@@ -2,32 +2,13 @@
 // that the script engine was given.
 #pragma once
 
+#include "AjustesFalsos.h"
 #include "serial/EntornoSerie.h"
 
 #include <functional>
-#include <map>
 #include <stdexcept>
 #include <string>
 #include <vector>
-
-class ConfiguracionFalsa final : public ConfiguracionSerie {
-public:
-    virtual ~ConfiguracionFalsa() = default;
-
-    std::map<std::string, std::string, std::less<>> valores; // by stored key, the defaults written back included
-    std::vector<std::string> leidas;                         // stored keys in the order of reading
-
-    std::string leerConfiguracion(std::string_view clave, std::string_view porDefecto) override {
-        leidas.emplace_back(clave);
-        return valores.try_emplace(std::string(clave), porDefecto).first->second;
-    }
-
-    std::string leerConfiguracionRS232(std::string_view clave, std::string_view porDefecto) override {
-        return leerConfiguracion("RS232_" + std::string(clave), porDefecto);
-    }
-
-    char16_t signoDecimal() const override { return u','; }
-};
 
 class LogFalso final : public LogSerie {
 public:

@@ -11,7 +11,7 @@ using Textos = std::vector<std::string>;
 
 class FrameInterpretation : public testing::Test {
 protected:
-    ConfiguracionFalsa configuracion;
+    AjustesFalsos configuracion;
     MotorFalso motor;
     InterpreteTramas interprete{MarcaFin(), configuracion, motor};
 };

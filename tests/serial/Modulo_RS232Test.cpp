@@ -21,7 +21,7 @@ std::optional<int> errorDelPuerto(std::string_view numero) {
 }
 
 std::string marcaDe(std::string_view primero, std::string_view segundo, LogFalso& log) {
-    ConfiguracionFalsa configuracion;
+    AjustesFalsos configuracion;
     configuracion.valores["Caracter_Fin_TRAMA_1"] = primero;
     configuracion.valores["Caracter_Fin_TRAMA_2"] = segundo;
     return std::string(leerMarcaFin(configuracion, log).texto());
@@ -35,7 +35,7 @@ std::string marcaDe(std::string_view primero, std::string_view segundo) {
 }
 
 TEST(SerialSettings, freshConfigurationGainsTheFiveKeys) {
-    ConfiguracionFalsa configuracion;
+    AjustesFalsos configuracion;
     const ConfiguracionRS232 ajustes = ConfiguracionRS232::leer(configuracion);
     EXPECT_EQ(ajustes.CommPort(), 1);
     EXPECT_EQ(ajustes.Settings(), "9600,N,8,1");
@@ -45,7 +45,7 @@ TEST(SerialSettings, freshConfigurationGainsTheFiveKeys) {
 }
 
 TEST(SerialSettings, settingsTextHoldsWhatStandsInTheFile) {
-    ConfiguracionFalsa configuracion;
+    AjustesFalsos configuracion;
     configuracion.valores = {
         {"RS232_Baudios", "abc"}, {"RS232_Paridad", ""}, {"RS232_DataBits", "7"}, {"RS232_StopBit", "1.5"}};
     EXPECT_EQ(ConfiguracionRS232::leer(configuracion).Settings(), "abc,,7,1.5");
@@ -65,7 +65,7 @@ TEST(SerialSettings, portNumberIsRoundedToTheEvenNeighbour) {
 }
 
 TEST(EndMark, freshConfigurationGivesLineFeedThenCarriageReturn) {
-    ConfiguracionFalsa configuracion;
+    AjustesFalsos configuracion;
     LogFalso log;
     EXPECT_EQ(leerMarcaFin(configuracion, log).texto(), "\n\r");
     EXPECT_EQ(configuracion.leidas, (std::vector<std::string>{"Caracter_Fin_TRAMA_1", "Caracter_Fin_TRAMA_2"}));

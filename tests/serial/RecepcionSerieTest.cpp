@@ -46,7 +46,7 @@ protected:
     Pasos pasos;
     std::string mala = "nada"; // a reading's first two characters; the engine rejects it
     bool puertoCerrado = false;
-    ConfiguracionFalsa configuracion;
+    AjustesFalsos configuracion;
     RecepcionSerie recepcion{MarcaFin('.', ';'), configuracion, *this, *this};
 };
 

@@ -51,7 +51,7 @@ struct Estacion {
     void adelantar(const char* temporizador) { control<QTimer>(temporizador)->setInterval(1); }
 
     ParSerie par;
-    ConfiguracionFalsa configuracion;
+    AjustesFalsos configuracion;
     LogFalso log;
     MotorFalso motor;
     std::unique_ptr<frmRS232> ventana;
@@ -278,7 +278,7 @@ private Q_SLOTS:
     // The box of the debug switch opens while the window is being made, and characters arrive in it.
     void charactersThatArriveWhileTheWindowIsMadeAreTakenAfterwards() {
         const ParSerie par;
-        ConfiguracionFalsa configuracion;
+        AjustesFalsos configuracion;
         configuracion.valores["Caracter_Fin_TRAMA_1"] = "300"; // is logged, with the port open by then
         LogFalso log;
         MotorFalso motor;
@@ -371,7 +371,7 @@ private Q_SLOTS:
             {QStringLiteral("-"), QStringLiteral("PTY,rawer,link=%1").arg(carpeta.filePath(QStringLiteral("com1")))});
         QVERIFY(socat.waitForStarted());
         QTRY_VERIFY(QFileInfo(carpeta.filePath(QStringLiteral("com1"))).isSymLink());
-        ConfiguracionFalsa configuracion;
+        AjustesFalsos configuracion;
         LogFalso log;
         MotorFalso motor;
         {

@@ -1,5 +1,6 @@
 #include "CarpetaTemporal.h"
 #include "ProcesoHijo.h"
+#include "ajustes/Claves.h"
 #include "shell/Modulo_Config.h"
 #include "shell/Modulo_modINI.h"
 
@@ -9,6 +10,10 @@
 using namespace std::string_literals;
 
 namespace {
+
+Clave clave(std::string_view nombre, std::string_view porDefecto = "") {
+    return {.nombre = nombre, .porDefecto = porDefecto};
+}
 
 class Configuracion : public testing::Test {
 protected:
@@ -22,67 +27,67 @@ TEST_F(Configuracion, theFileIsSisConfigInTheProgramFolder) {
 }
 
 TEST_F(Configuracion, withoutAFileTheFirstReadsCreateItWithEveryDefault) {
-    EXPECT_EQ(config.leerConfiguracion("PUERTO_VALOR", "502"), "502");
-    EXPECT_EQ(config.leerConfiguracion("ver", "1"), "1");
-    EXPECT_EQ(config.leerConfiguracionRS232("NomCOM", "1"), "1");
+    EXPECT_EQ(config.leerConfiguracion(clave("PUERTO_VALOR", "502")), "502");
+    EXPECT_EQ(config.leerConfiguracion(clave("ver", "1")), "1");
+    EXPECT_EQ(config.leerConfiguracion(clave("RS232_NomCOM", "1")), "1");
     EXPECT_EQ(contenidoDe(archivo), "[Trelvano]\r\nPUERTO_VALOR=502\r\nver=1\r\nRS232_NomCOM=1\r\n");
 }
 
 TEST_F(Configuracion, aKeyEqualToItsDefaultStaysAsItIs) {
     escribirArchivo(archivo, "[Trelvano]\nver=1\n");
-    EXPECT_EQ(config.leerConfiguracion("ver", "1"), "1");
+    EXPECT_EQ(config.leerConfiguracion(clave("ver", "1")), "1");
     EXPECT_EQ(contenidoDe(archivo), "[Trelvano]\nver=1\n");
 }
 
 TEST_F(Configuracion, aKeyWithAnyOtherValueIsLeftUntouched) {
     const std::string texto = "; mia\n[trelvano]\nVER = \"0\"\n";
     escribirArchivo(archivo, texto);
-    EXPECT_EQ(config.leerConfiguracion("ver", "1"), "0");
+    EXPECT_EQ(config.leerConfiguracion(clave("ver", "1")), "0");
     EXPECT_EQ(contenidoDe(archivo), texto);
 }
 
 TEST_F(Configuracion, aDefaultThatDiffersInCaseIsNotWrittenBack) {
     escribirArchivo(archivo, "[Trelvano]\nRS232_Paridad=n\n");
-    EXPECT_EQ(config.leerConfiguracionRS232("Paridad", "N"), "n");
+    EXPECT_EQ(config.leerConfiguracion(clave("RS232_Paridad", "N")), "n");
     EXPECT_EQ(contenidoDe(archivo), "[Trelvano]\nRS232_Paridad=n\n");
 }
 
 TEST_F(Configuracion, ofTwoReadersWithDifferentDefaultsTheFirstStoresItsOwn) {
-    EXPECT_EQ(config.leerConfiguracion("Ejecucion_Codigo_Milisegundos", "500"), "500");
-    EXPECT_EQ(config.leerConfiguracion("Ejecucion_Codigo_Milisegundos", "0"), "500");
+    EXPECT_EQ(config.leerConfiguracion(clave("Ejecucion_Codigo_Milisegundos", "500")), "500");
+    EXPECT_EQ(config.leerConfiguracion(clave("Ejecucion_Codigo_Milisegundos", "0")), "500");
     std::filesystem::remove(archivo);
-    EXPECT_EQ(config.leerConfiguracion("Ejecucion_Codigo_Milisegundos", "0"), "0");
-    EXPECT_EQ(config.leerConfiguracion("Ejecucion_Codigo_Milisegundos", "500"), "0");
+    EXPECT_EQ(config.leerConfiguracion(clave("Ejecucion_Codigo_Milisegundos", "0")), "0");
+    EXPECT_EQ(config.leerConfiguracion(clave("Ejecucion_Codigo_Milisegundos", "500")), "0");
 }
 
 TEST_F(Configuracion, aMissingProjectPathIsEmptyAndNotWritten) {
-    EXPECT_EQ(config.rutaProyecto(), "");
+    EXPECT_EQ(config.leerConfiguracion(claves::rutaProyecto), "");
     EXPECT_FALSE(std::filesystem::exists(archivo));
     escribirArchivo(archivo, "[Trelvano]\nver=1\n");
-    EXPECT_EQ(config.rutaProyecto(), "");
+    EXPECT_EQ(config.leerConfiguracion(claves::rutaProyecto), "");
     EXPECT_EQ(contenidoDe(archivo), "[Trelvano]\nver=1\n");
 }
 
 TEST_F(Configuracion, theProjectPathIsReadFromItsOwnSection) {
     escribirArchivo(archivo, "[Trelvano]\nRutaProyecto=no\n[PROYECTO_PREDETERMINADO]\nRutaProyecto=/p/a\xF1o.zqp\n");
-    EXPECT_EQ(config.rutaProyecto(), "/p/año.zqp");
+    EXPECT_EQ(config.leerConfiguracion(claves::rutaProyecto), "/p/año.zqp");
 }
 
 TEST_F(Configuracion, aValueLongerThan254CharactersIsCut) {
-    config.escribirConfiguracion("largo", std::string(300, 'x'));
-    EXPECT_EQ(config.leerConfiguracion("largo", ""), std::string(254, 'x'));
+    config.escribirConfiguracion(clave("largo"), std::string(300, 'x'));
+    EXPECT_EQ(config.leerConfiguracion(clave("largo", "")), std::string(254, 'x'));
 }
 
 TEST_F(Configuracion, theCutCountsCharactersAndNotTheBytesOfUtf8) {
     std::string enes;
     for (int i = 0; i < 300; ++i)
         enes += "ñ";
-    config.escribirConfiguracion("largo", enes);
-    EXPECT_EQ(config.leerConfiguracion("largo", "").size(), 2U * 254);
+    config.escribirConfiguracion(clave("largo"), enes);
+    EXPECT_EQ(config.leerConfiguracion(clave("largo", "")).size(), 2U * 254);
 }
 
 TEST_F(Configuracion, aDefaultLongerThan254CharactersIsCutAndSoNotWrittenBack) {
-    EXPECT_EQ(config.leerConfiguracion("largo", std::string(300, 'x')), std::string(254, 'x'));
+    EXPECT_EQ(config.leerConfiguracion(clave("largo", std::string(300, 'x'))), std::string(254, 'x'));
     EXPECT_FALSE(std::filesystem::exists(archivo));
 }
 
@@ -92,61 +97,62 @@ TEST_F(Configuracion, aValueWithLineBreaksIsWrittenAsItStands) {
 }
 
 TEST_F(Configuracion, textsAreWindows1252OnDisk) {
-    config.escribirConfiguracion("Año", "€ → ñ");
+    config.escribirConfiguracion(clave("Año"), "€ → ñ");
     EXPECT_EQ(contenidoDe(archivo), "[Trelvano]\r\nA\xF1o=\x80 ? \xF1\r\n");
-    EXPECT_EQ(config.leerConfiguracion("AÑO", ""), "€ ? ñ");
+    EXPECT_EQ(config.leerConfiguracion(clave("AÑO", "")), "€ ? ñ");
 }
 
 TEST_F(Configuracion, verAndVERAreOneKey) {
-    config.escribirConfiguracion("ver", "0");
-    config.escribirConfiguracion("VER", "1");
+    config.escribirConfiguracion(clave("ver"), "0");
+    config.escribirConfiguracion(clave("VER"), "1");
     EXPECT_EQ(contenidoDe(archivo), "[Trelvano]\r\nver=1\r\n");
 }
 
 TEST_F(Configuracion, anEditByAnotherProgramIsSeenOnTheNextRead) {
-    EXPECT_EQ(config.leerConfiguracion("ver", "1"), "1");
+    EXPECT_EQ(config.leerConfiguracion(clave("ver", "1")), "1");
     escribirArchivo(archivo, "[Trelvano]\nver=0\n");
-    EXPECT_EQ(config.leerConfiguracion("ver", "1"), "0");
+    EXPECT_EQ(config.leerConfiguracion(clave("ver", "1")), "0");
 }
 
 TEST_F(Configuracion, numbersAreReadFromTheirText) {
-    EXPECT_EQ(config.leerNumero("PUERTO_VALOR", "502"), 502.0);
-    config.escribirConfiguracion("PUERTO_VALOR", "1e9");
-    EXPECT_EQ(config.leerNumero("PUERTO_VALOR", "502"), 1e9);
-    config.escribirConfiguracion("PUERTO_VALOR", "-1");
-    EXPECT_EQ(config.leerNumero("PUERTO_VALOR", "502"), -1.0);
+    EXPECT_EQ(config.leerNumero(clave("PUERTO_VALOR", "502")), 502.0);
+    config.escribirConfiguracion(clave("PUERTO_VALOR"), "1e9");
+    EXPECT_EQ(config.leerNumero(clave("PUERTO_VALOR", "502")), 1e9);
+    config.escribirConfiguracion(clave("PUERTO_VALOR"), "-1");
+    EXPECT_EQ(config.leerNumero(clave("PUERTO_VALOR", "502")), -1.0);
 }
 
 TEST_F(Configuracion, aTextThatIsNoNumberIsReportedAsSuch) {
-    config.escribirConfiguracion("PUERTO_VALOR", "quinientos");
-    EXPECT_EQ(config.leerNumero("PUERTO_VALOR", "502"), std::nullopt);
-    config.escribirConfiguracion("PUERTO_VALOR", "");
-    EXPECT_EQ(config.leerNumero("PUERTO_VALOR", "502"), std::nullopt);
+    config.escribirConfiguracion(clave("PUERTO_VALOR"), "quinientos");
+    EXPECT_EQ(config.leerNumero(clave("PUERTO_VALOR", "502")), std::nullopt);
+    config.escribirConfiguracion(clave("PUERTO_VALOR"), "");
+    EXPECT_EQ(config.leerNumero(clave("PUERTO_VALOR", "502")), std::nullopt);
 }
 
 TEST_F(Configuracion, numbersBearTheLocalesDecimalSign) {
-    config.escribirConfiguracion("RS232_Cant_Intervalos_Validez", "2,5");
-    EXPECT_EQ(config.leerNumero("RS232_Cant_Intervalos_Validez", "2"), 2.5);
-    EXPECT_EQ(Modulo_Config(carpeta.ruta(), u'.').leerNumero("RS232_Cant_Intervalos_Validez", "2"), std::nullopt);
+    config.escribirConfiguracion(clave("RS232_Cant_Intervalos_Validez"), "2,5");
+    EXPECT_EQ(config.leerNumero(clave("RS232_Cant_Intervalos_Validez", "2")), 2.5);
+    EXPECT_EQ(Modulo_Config(carpeta.ruta(), u'.').leerNumero(clave("RS232_Cant_Intervalos_Validez", "2")),
+              std::nullopt);
 }
 
 TEST_F(Configuracion, aNumberIsWrittenAsItIsRead) {
-    config.escribirNumero("PUERTO_VALOR", 502.5);
-    EXPECT_EQ(config.leerConfiguracion("PUERTO_VALOR", ""), "502,5");
-    EXPECT_EQ(config.leerNumero("PUERTO_VALOR", "502"), 502.5);
+    config.escribirNumero(clave("PUERTO_VALOR"), 502.5);
+    EXPECT_EQ(config.leerConfiguracion(clave("PUERTO_VALOR", "")), "502,5");
+    EXPECT_EQ(config.leerNumero(clave("PUERTO_VALOR", "502")), 502.5);
 }
 
 TEST_F(Configuracion, junkAndNulBytesGiveDefaultsAndSurvive) {
     const std::string basura = "\0\xFF[[[=;\r\rTrelvano]\n==\n"s;
     escribirArchivo(archivo, basura);
-    EXPECT_EQ(config.leerNumero("PUERTO_VALOR", "502"), 502.0);
+    EXPECT_EQ(config.leerNumero(clave("PUERTO_VALOR", "502")), 502.0);
     EXPECT_EQ(contenidoDe(archivo), basura + "[Trelvano]\rPUERTO_VALOR=502\r");
 }
 
 TEST_F(Configuracion, aFolderInTheFilesPlaceGivesDefaults) {
     std::filesystem::create_directory(archivo);
-    EXPECT_EQ(config.leerConfiguracion("ver", "1"), "1");
-    config.escribirConfiguracion("ver", "0");
+    EXPECT_EQ(config.leerConfiguracion(clave("ver", "1")), "1");
+    config.escribirConfiguracion(clave("ver"), "0");
     EXPECT_TRUE(std::filesystem::is_directory(archivo));
 }
 
@@ -162,16 +168,16 @@ TEST_F(Configuracion, aFileThatCannotBeReadIsTold) {
 TEST_F(Configuracion, aValueThatCouldNotBeStoredIsToldUntilOneIs) {
     escribirArchivo(archivo, "[Trelvano]\nver=1\n");
     std::filesystem::permissions(archivo, std::filesystem::perms(0444));
-    config.escribirConfiguracion("ver", "1"); // nothing to store
+    config.escribirConfiguracion(clave("ver"), "1"); // nothing to store
     EXPECT_EQ(config.fallo(), "");
-    config.escribirConfiguracion("ver", "0");
+    config.escribirConfiguracion(clave("ver"), "0");
     const std::string fallo =
         "No se puede escribir " + archivo.string() + ": Permiso denegado. Los cambios no se guardan.";
     EXPECT_EQ(config.fallo(), fallo);
-    config.escribirConfiguracion("ver", "1");
+    config.escribirConfiguracion(clave("ver"), "1");
     EXPECT_EQ(config.fallo(), fallo);
     std::filesystem::permissions(archivo, std::filesystem::perms(0644));
-    config.escribirConfiguracion("ver", "0");
+    config.escribirConfiguracion(clave("ver"), "0");
     EXPECT_EQ(config.fallo(), "");
 }
 
@@ -186,9 +192,9 @@ TEST_F(Configuracion, placesOfWindowsHaveASectionOfTheirOwn) {
 TEST_F(Configuracion, aReadOnlyFolderGivesDefaultsAndStaysEmpty) {
     std::filesystem::permissions(carpeta.ruta(), std::filesystem::perms(0555));
     EXPECT_EQ(enProcesoHijo([&] {
-                  if (!soltarPrivilegios() || config.leerConfiguracion("ver", "1") != "1")
+                  if (!soltarPrivilegios() || config.leerConfiguracion(clave("ver", "1")) != "1")
                       return 1;
-                  config.escribirConfiguracion("ver", "0");
+                  config.escribirConfiguracion(clave("ver"), "0");
                   return 0;
               }),
               0);

@@ -2,10 +2,12 @@
 #pragma once
 
 #include "CarpetaTemporal.h"
+#include "ajustes/Claves.h"
 #include "platform/locale/SystemLocale.h"
 #include "platform/net/Peer.h"
 #include "shell/Estacion.h"
 #include "shell/FrmPrincipal.h"
+#include "shell/Modulo_modINI.h"
 
 #include <QApplication>
 #include <QTest>
@@ -41,7 +43,10 @@ public:
     void escribirConfig(const std::string& claves) const {
         escribirArchivo(config.rutaArchivo(), "[Trelvano]\r\n" + claves);
     }
-    std::string clave(const char* nombre) const { return config.leerConfiguracion(nombre, "?"); }
+    // What the file holds, "?" without the key.
+    std::string clave(const char* nombre) const {
+        return sGetINI(config.rutaArchivo(), claves::ver.seccion, nombre, "?");
+    }
 
     template <typename Control>
     Control& control(const char* nombre) const {
