@@ -1,6 +1,7 @@
 #include "registers/AccionesRegistros.h"
 
 #include "platform/locale/SystemLocale.h"
+#include "platform/window/Controles.h"
 #include "platform/window/MsgBox.h"
 #include "registers/FrmGrafica.h"
 #include "registers/Pegado.h"
@@ -43,8 +44,7 @@ QAction* AccionesRegistros::crear(const QString& titulo, const QString& tecla, v
 
 void AccionesRegistros::crearFormatos() {
     for (const NombreFormato& formato : formatosRegistro) {
-        auto* accion = formatos_->addAction(
-            QString::fromUtf8(formato.titulo.data(), static_cast<qsizetype>(formato.titulo.size())));
+        auto* accion = formatos_->addAction(deUtf8(formato.titulo));
         accion->setCheckable(true);
         accion->setChecked(formato.formato == FormatoRegistro::decimal);
         accion->setData(static_cast<int>(formato.formato));

@@ -1,5 +1,6 @@
 #include "registers/FrmGrafica.h"
 
+#include "platform/window/Controles.h"
 #include "platform/window/MsgBox.h"
 #include "registers/NumeroLocal.h"
 
@@ -66,24 +67,19 @@ void FrmGrafica::construir() {
     setObjectName(QStringLiteral("FrmGrafica"));
     setWindowTitle(QStringLiteral("Gráfica"));
     vista_ = new VistaGrafica(lineas_, [this] { return anotaciones_.cambios.hora(); });
-    cmbTiempo_ = new QComboBox;
-    cmbTiempo_->setObjectName(QStringLiteral("cmbTiempo"));
-    cmbTiempo_->setAccessibleName(QStringLiteral("Tiempo que se muestra"));
+    cmbTiempo_ = nombrado(new QComboBox, "cmbTiempo", QStringLiteral("Tiempo que se muestra"));
     for (const Tiempo& tiempo : tiempos)
         cmbTiempo_->addItem(QString::fromUtf16(tiempo.titulo));
     cmbTiempo_->setCurrentIndex(tiempoInicial);
     connect(cmbTiempo_, &QComboBox::currentIndexChanged, this, [this](int cual) {
         vista_->ponerVentana(std::int64_t{tiempos[static_cast<std::size_t>(cual)].segundos} * 1000);
     });
-    chPausa_ = new QCheckBox(QStringLiteral("&Pausa"));
-    chPausa_->setObjectName(QStringLiteral("chPausa"));
-    chPausa_->setToolTip(QStringLiteral("Detiene el dibujo; los cambios se siguen anotando"));
+    chPausa_ = crearCasilla(this, "chPausa", QStringLiteral("&Pausa"),
+                            QStringLiteral("Detiene el dibujo; los cambios se siguen anotando"));
     connect(chPausa_, &QCheckBox::toggled, vista_, &VistaGrafica::pausar);
-    auto* imagen = new QPushButton(QStringLiteral("Guardar &imagen…"));
-    imagen->setObjectName(QStringLiteral("btnImagen"));
+    auto* imagen = crearBoton(this, "btnImagen", QStringLiteral("Guardar &imagen…"));
     connect(imagen, &QPushButton::clicked, this, &FrmGrafica::guardarImagen);
-    auto* csv = new QPushButton(QStringLiteral("&Exportar CSV…"));
-    csv->setObjectName(QStringLiteral("btnCsv"));
+    auto* csv = crearBoton(this, "btnCsv", QStringLiteral("&Exportar CSV…"));
     connect(csv, &QPushButton::clicked, this, &FrmGrafica::guardarCsv);
 
     auto* mandos = new QHBoxLayout;

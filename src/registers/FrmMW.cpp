@@ -1,5 +1,6 @@
 #include "registers/FrmMW.h"
 
+#include "platform/window/Controles.h"
 #include "platform/window/MsgBox.h"
 #include "registers/ErrorEjecucion.h"
 #include "registers/Esclavos.h"
@@ -28,8 +29,7 @@ constexpr std::int16_t retroceso = 8;
 constexpr std::int16_t teclaIgnorada = 16;
 
 QLabel* crearEtiqueta(const char* nombre) {
-    auto* etiqueta = new QLabel;
-    etiqueta->setObjectName(QLatin1String(nombre));
+    auto* etiqueta = nombrado(new QLabel, nombre);
     etiqueta->setTextFormat(Qt::PlainText);
     return etiqueta;
 }
@@ -52,9 +52,9 @@ FrmMW::FrmMW(Esclavos& esclavos, QWidget* padre)
 
     auto* botones = new QHBoxLayout;
     botones->addStretch();
-    QPushButton* ok = crearBoton("BtnOk", QStringLiteral("&Aceptar"));
-    QPushButton* cancelar = crearBoton("BtnCancelar", QStringLiteral("&Cancelar"));
-    QPushButton* salir = crearBoton("BtnSalir", QStringLiteral("&Salir"));
+    QPushButton* ok = crearBoton(this, "BtnOk", QStringLiteral("&Aceptar"));
+    QPushButton* cancelar = crearBoton(this, "BtnCancelar", QStringLiteral("&Cancelar"));
+    QPushButton* salir = crearBoton(this, "BtnSalir", QStringLiteral("&Salir"));
     for (QPushButton* boton : {ok, cancelar, salir})
         botones->addWidget(boton);
     ok->setDefault(true);
@@ -75,18 +75,10 @@ FrmMW::FrmMW(Esclavos& esclavos, QWidget* padre)
 }
 
 QLineEdit* FrmMW::crearTexto(const char* nombre, const QString& nombreAccesible) {
-    auto* caja = new QLineEdit(this);
-    caja->setObjectName(QLatin1String(nombre));
-    caja->setAccessibleName(nombreAccesible);
+    auto* caja = nombrado(new QLineEdit(this), nombre, nombreAccesible);
     caja->setAttribute(Qt::WA_InputMethodEnabled, false); // composed characters would pass by the key filter
     caja->installEventFilter(this);
     return caja;
-}
-
-QPushButton* FrmMW::crearBoton(const char* nombre, const QString& titulo) {
-    auto* boton = new QPushButton(titulo);
-    boton->setObjectName(QLatin1String(nombre));
-    return boton;
 }
 
 // Bit 0 stands rightmost, bit 15 leftmost.
@@ -96,9 +88,8 @@ QWidget* FrmMW::crearBits() {
     caja->setContentsMargins(0, 0, 0, 0);
     caja->setDirection(QBoxLayout::LeftToRight);
     for (int i = bits - 1; i >= 0; --i) {
-        auto* casilla = new QCheckBox(QString::number(i));
-        casilla->setObjectName(QStringLiteral("CheckBin(%1)").arg(i));
-        casilla->setAccessibleName(QStringLiteral("Bit %1").arg(i));
+        auto* casilla = nombrado(new QCheckBox(QString::number(i)), nombreDeElemento("CheckBin", i),
+                                 QStringLiteral("Bit %1").arg(i));
         connect(casilla, &QCheckBox::clicked, this, [this, i] { clicEnBit(i); });
         caja->addWidget(casilla);
         if (i > 0 && i % 4 == 0)

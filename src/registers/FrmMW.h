@@ -51,7 +51,6 @@ private:
     static constexpr int bits = 16;
 
     QLineEdit* crearTexto(const char* nombre, const QString& nombreAccesible);
-    QPushButton* crearBoton(const char* nombre, const QString& titulo);
     QWidget* crearBits();
     bool teclaAdmitida(QLineEdit& caja, const QString& texto);
     bool signoPuesto(QLineEdit& caja, char16_t letra);

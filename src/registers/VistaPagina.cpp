@@ -1,6 +1,7 @@
 #include "registers/VistaPagina.h"
 
 #include "platform/grid/MSFlexGrid.h"
+#include "platform/window/Controles.h"
 #include "registers/MarcoControles.h"
 
 #include <QCheckBox>
@@ -60,8 +61,7 @@ VistaPagina::~VistaPagina() {
 }
 
 void VistaPagina::nombrar(QWidget* control, const char* nombre, const QString& nombreAccesible) const {
-    control->setObjectName(QStringLiteral("%1(%2)").arg(QLatin1String(nombre)).arg(numero()));
-    control->setAccessibleName(nombreAccesible.arg(numero()));
+    nombrado(control, nombreDeElemento(nombre, numero()), nombreAccesible.arg(numero()));
 }
 
 QWidget* VistaPagina::crearMarco() {

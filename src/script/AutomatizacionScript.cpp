@@ -3,6 +3,7 @@
 #include "ajustes/Claves.h"
 #include "platform/events/Eventos.h"
 #include "platform/text/Numbers.h"
+#include "platform/window/Controles.h"
 #include "platform/window/MsgBox.h"
 #include "registers/ErrorEjecucion.h"
 #include "script/BarraEjecucion.h"
@@ -18,13 +19,6 @@
 #include <cmath>
 #include <cstdio>
 #include <string>
-
-namespace {
-
-constexpr QRgb verde = 0xFF00FF00;
-constexpr QRgb rojo = 0xFFFF0000;
-
-} // namespace
 
 AutomatizacionScript::AutomatizacionScript(Esclavos& esclavos, Ajustes& ajustes,
                                            const std::filesystem::path& carpetaPrograma, Eventos& eventos,
@@ -113,14 +107,8 @@ void AutomatizacionScript::mostrarResultado(bool sinError) {
     if (editor_)
         editor_->mostrarFallo(ejecutor_.ultimoError());
     contarFallo();
-    const QColor color = QColor::fromRgb(sinError ? verde : rojo);
-    if (ventana_.chScript.palette().color(QPalette::Window) == color)
-        return;
-    QPalette colores = ventana_.chScript.palette();
-    colores.setColor(QPalette::Window, color);
-    colores.setColor(QPalette::WindowText, Qt::black); // legible on both, whatever the theme
-    ventana_.chScript.setPalette(colores);
-    contarPasada();
+    if (ponerFondoDeEstado(ventana_.chScript, sinError))
+        contarPasada();
 }
 
 // Notes when the script failed; the box tells of another error at once, not only to who points at it.

@@ -1,5 +1,6 @@
 #include "script/BarraBusqueda.h"
 
+#include "platform/window/Controles.h"
 #include "script/EditorCodigo.h"
 
 #include <QCheckBox>
@@ -18,10 +19,10 @@ BarraBusqueda::BarraBusqueda(EditorCodigo& editor, QWidget* padre) : QWidget(pad
     txtReemplazar_ = crearCampo("txtReemplazar", QStringLiteral("Reemplazar por:"), *rejilla, 1);
     rotuloReemplazar_ = qobject_cast<QLabel*>(rejilla->itemAtPosition(1, 0)->widget());
 
-    auto* btnSiguiente = crearBoton("btnSiguiente", QStringLiteral("Sig&uiente"));
-    auto* btnAnterior = crearBoton("btnAnterior", QStringLiteral("&Anterior"));
-    btnReemplazar_ = crearBoton("btnReemplazar", QStringLiteral("&Reemplazar"));
-    btnReemplazarTodo_ = crearBoton("btnReemplazarTodo", QStringLiteral("Reemplazar &todo"));
+    auto* btnSiguiente = crearBoton(this, "btnSiguiente", QStringLiteral("Sig&uiente"));
+    auto* btnAnterior = crearBoton(this, "btnAnterior", QStringLiteral("&Anterior"));
+    btnReemplazar_ = crearBoton(this, "btnReemplazar", QStringLiteral("&Reemplazar"));
+    btnReemplazarTodo_ = crearBoton(this, "btnReemplazarTodo", QStringLiteral("Reemplazar &todo"));
     chMayusculas_ = new QCheckBox(QStringLiteral("&Mayúsculas y minúsculas"), this);
     chMayusculas_->setObjectName(QStringLiteral("chMayusculas"));
     mensaje_ = new QLabel(this);
@@ -54,13 +55,6 @@ QLineEdit* BarraBusqueda::crearCampo(const char* nombre, const QString& rotulo, 
     rejilla.addWidget(etiqueta, fila, 0);
     rejilla.addWidget(campo, fila, 1);
     return campo;
-}
-
-QPushButton* BarraBusqueda::crearBoton(const char* nombre, const QString& texto) {
-    auto* boton = new QPushButton(texto, this);
-    boton->setObjectName(QLatin1String(nombre));
-    boton->setAutoDefault(false);
-    return boton;
 }
 
 void BarraBusqueda::abrir(bool conReemplazo) {

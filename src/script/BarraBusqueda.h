@@ -31,7 +31,6 @@ protected:
 
 private:
     QLineEdit* crearCampo(const char* nombre, const QString& rotulo, class QGridLayout& rejilla, int fila);
-    QPushButton* crearBoton(const char* nombre, const QString& texto);
     Qt::CaseSensitivity caja() const;
     bool seleccionadoCoincide() const;
     void reemplazar();

@@ -1,5 +1,6 @@
 #include "script/BarraEjecucion.h"
 
+#include "platform/window/Controles.h"
 #include "script/Ejemplos.h"
 
 #include <QCheckBox>
@@ -23,23 +24,19 @@ QString textoDeDuracion(std::chrono::nanoseconds duracion) {
 
 BarraEjecucion::BarraEjecucion(const EjecutorScript& ejecutor, QCheckBox& chScript, QWidget* padre)
     : QWidget(padre), ejecutor_(ejecutor) {
-    chEjecutar_ = new QCheckBox(QStringLiteral("&Ejecutar"), this);
-    chEjecutar_->setObjectName(QStringLiteral("chEjecutar"));
-    chEjecutar_->setToolTip(QStringLiteral("Pone el script en marcha y lo para (F5)"));
+    chEjecutar_ = crearCasilla(this, "chEjecutar", QStringLiteral("&Ejecutar"),
+                               QStringLiteral("Pone el script en marcha y lo para (F5)"));
     chEjecutar_->setChecked(chScript.isChecked());
     connect(&chScript, &QCheckBox::toggled, chEjecutar_, &QCheckBox::setChecked);
     connect(chEjecutar_, &QCheckBox::toggled, &chScript, &QCheckBox::setChecked);
-    lblTiempos_ = new QLabel(this);
-    lblTiempos_->setObjectName(QStringLiteral("lblTiempos"));
-    lblTiempos_->setAccessibleName(QStringLiteral("Tiempos del script"));
+    lblTiempos_ = nombrado(new QLabel(this), "lblTiempos", QStringLiteral("Tiempos del script"));
     lblTiempos_->setTextInteractionFlags(Qt::TextSelectableByMouse);
     lblTiempos_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     lblTiempos_->setToolTip(
         QStringLiteral("Lo que duran las pasadas del script en marcha, y cuánto tardó en compilarse "
                        "el texto de esta ventana"));
-    btnPanel_ = new QPushButton(QStringLiteral("&Variables y consola"), this);
-    btnPanel_->setObjectName(QStringLiteral("btnPanel"));
-    btnPanel_->setToolTip(QStringLiteral("Enseña o esconde las variables y la consola del script (F6)"));
+    btnPanel_ = crearBoton(this, "btnPanel", QStringLiteral("&Variables y consola"),
+                           QStringLiteral("Enseña o esconde las variables y la consola del script (F6)"));
     btnPanel_->setCheckable(true);
     connect(btnPanel_, &QPushButton::toggled, this, &BarraEjecucion::panelPedido);
 
@@ -58,9 +55,8 @@ BarraEjecucion::BarraEjecucion(const EjecutorScript& ejecutor, QCheckBox& chScri
 }
 
 void BarraEjecucion::crearEjemplos(QHBoxLayout& fila) {
-    auto* boton = new QPushButton(QStringLiteral("E&jemplos"), this);
-    boton->setObjectName(QStringLiteral("btnEjemplos"));
-    boton->setToolTip(QStringLiteral("Pone en el texto uno de los scripts de ejemplo"));
+    auto* boton = crearBoton(this, "btnEjemplos", QStringLiteral("E&jemplos"),
+                             QStringLiteral("Pone en el texto uno de los scripts de ejemplo"));
     auto* menu = new QMenu(boton);
     menu->setObjectName(QStringLiteral("menuEjemplos"));
     menu->setToolTipsVisible(true);

@@ -1,5 +1,7 @@
 #include "script/BarraScript.h"
 
+#include "platform/window/Controles.h"
+
 #include <QCoreApplication>
 #include <QEvent>
 #include <QHBoxLayout>
@@ -52,8 +54,7 @@ BarraScript::BarraScript(QWidget& ventana, std::function<void()> parar)
     setFrameShape(QFrame::StyledPanel);
     setAutoFillBackground(true);
     texto_->setObjectName(QStringLiteral("lblScriptLleva"));
-    auto* boton = new QPushButton(QStringLiteral("&Parar"));
-    boton->setObjectName(QStringLiteral("BtnPararScript"));
+    auto* boton = crearBoton(this, "BtnPararScript", QStringLiteral("&Parar"));
     connect(boton, &QPushButton::clicked, this, [this] { parar_(); });
     auto* fila = new QHBoxLayout(this);
     fila->setContentsMargins(2 * margen, margen, 2 * margen, margen);

@@ -1,4 +1,5 @@
 // The controls of the script editor's window, their places and keys.
+#include "platform/window/Controles.h"
 #include "script/BarraBusqueda.h"
 #include "script/BarraEjecucion.h"
 #include "script/EditorCodigo.h"
@@ -12,17 +13,6 @@
 #include <QShortcut>
 #include <QSplitter>
 #include <QVBoxLayout>
-
-namespace {
-
-template <typename Control>
-Control* nombrado(Control* control, const char* nombre, const QString& nombreAccesible) {
-    control->setObjectName(QLatin1String(nombre));
-    control->setAccessibleName(nombreAccesible);
-    return control;
-}
-
-} // namespace
 
 void FrmEdicionCodigo::crearControles() {
     barra_ = new BarraEjecucion(ejecutor_, chScript_, this);
@@ -65,16 +55,13 @@ void FrmEdicionCodigo::crearFilaInferior(QVBoxLayout& columna) {
     txtIntervaloDeTiempo_->installEventFilter(this);
     auto* rotulo = new QLabel(QStringLiteral("&Intervalo (milisegundos):"), this);
     rotulo->setBuddy(txtIntervaloDeTiempo_);
-    auto* btnBuscar = nombrado(new QPushButton(QStringLiteral("&Buscar"), this), "btnBuscar", {});
-    btnBuscar->setToolTip(QStringLiteral("Ctrl+F; reemplazar: Ctrl+H"));
+    auto* btnBuscar =
+        crearBoton(this, "btnBuscar", QStringLiteral("&Buscar"), QStringLiteral("Ctrl+F; reemplazar: Ctrl+H"));
     connect(btnBuscar, &QPushButton::clicked, this, [this] { busqueda_->abrir(true); });
-    auto* btnAyuda = nombrado(new QPushButton(QStringLiteral("A&yuda"), this), "btnAyuda", {});
-    btnAyuda->setToolTip(QStringLiteral("F1"));
+    auto* btnAyuda = crearBoton(this, "btnAyuda", QStringLiteral("A&yuda"), QStringLiteral("F1"));
     connect(btnAyuda, &QPushButton::clicked, this, &FrmEdicionCodigo::mostrarAyuda);
-    BtnGuardar_ = nombrado(new QPushButton(QStringLiteral("&Guardar"), this), "BtnGuardar", {});
-    BtnGuardar_->setToolTip(QStringLiteral("Ctrl+S"));
-    BtnSalir_ = nombrado(new QPushButton(QStringLiteral("&Salir"), this), "BtnSalir", {});
-    BtnSalir_->setToolTip(QStringLiteral("Cierra sin guardar"));
+    BtnGuardar_ = crearBoton(this, "BtnGuardar", QStringLiteral("&Guardar"), QStringLiteral("Ctrl+S"));
+    BtnSalir_ = crearBoton(this, "BtnSalir", QStringLiteral("&Salir"), QStringLiteral("Cierra sin guardar"));
 
     auto* fila = new QHBoxLayout;
     fila->addWidget(rotulo);

@@ -4,6 +4,7 @@
 #include "platform/events/Eventos.h"
 #include "platform/profile/Archivos.h"
 #include "platform/text/Numbers.h"
+#include "platform/window/Controles.h"
 #include "platform/window/MsgBox.h"
 #include "registers/ErrorEjecucion.h"
 #include "script/AyudaMW.h"
@@ -28,12 +29,8 @@ constexpr int estiloError = vbCritical + vbSystemModal; // 4112
 constexpr int letraMinima = 6;                          // points
 constexpr int letraMaxima = 48;
 
-QString deUtf16(std::u16string_view texto) {
-    return QString::fromUtf16(texto.data(), static_cast<qsizetype>(texto.size()));
-}
-
 QString deRuta(const std::filesystem::path& ruta) {
-    return QString::fromStdString(ruta.string());
+    return deUtf8(ruta.string());
 }
 
 // Arms the timer with the new period. Lets events pass: of the editor nothing may be touched from here on.

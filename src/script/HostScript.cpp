@@ -1,5 +1,6 @@
 #include "script/HostScript.h"
 
+#include "platform/window/Controles.h"
 #include "platform/window/InputBox.h"
 #include "platform/window/MsgBox.h"
 #include "script/BarraScript.h"
@@ -10,20 +11,12 @@
 #include <cstdio>
 #include <utility>
 
-namespace {
-
-QString texto(std::u16string_view utf16) {
-    return QString::fromUtf16(utf16.data(), static_cast<qsizetype>(utf16.size()));
-}
-
-} // namespace
-
 int HostScript::messageBox(std::u16string_view text, int buttons, std::u16string_view title) {
     if (!sinPantalla_) {
         huboPersona_ = true;
-        return MsgBox(padre_, texto(text), buttons, texto(title));
+        return MsgBox(padre_, deUtf16(text), buttons, deUtf16(title));
     }
-    std::fprintf(stderr, "esclavo-modbus: %s: %s\n", qUtf8Printable(texto(title)), qUtf8Printable(texto(text)));
+    std::fprintf(stderr, "esclavo-modbus: %s: %s\n", qUtf8Printable(deUtf16(title)), qUtf8Printable(deUtf16(text)));
     return vbs::Host::messageBox(text, buttons, title);
 }
 
@@ -32,7 +25,7 @@ std::u16string HostScript::inputBox(std::u16string_view prompt, std::u16string_v
     if (sinPantalla_)
         return vbs::Host::inputBox(prompt, title, defaultText);
     huboPersona_ = true;
-    return InputBox(padre_, texto(prompt), texto(title), texto(defaultText)).toStdU16String();
+    return InputBox(padre_, deUtf16(prompt), deUtf16(title), deUtf16(defaultText)).toStdU16String();
 }
 
 // In the box that waits above the other windows, if there is one: they take no input then.

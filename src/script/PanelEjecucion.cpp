@@ -1,5 +1,6 @@
 #include "script/PanelEjecucion.h"
 
+#include "platform/window/Controles.h"
 #include "script/ConsolaScript.h"
 #include "script/ResumenValor.h"
 
@@ -18,10 +19,6 @@
 namespace {
 
 enum Columna { Nombre, Tipo, Valor, columnas };
-
-QString deUtf16(std::u16string_view texto) {
-    return QString::fromUtf16(texto.data(), static_cast<qsizetype>(texto.size()));
-}
 
 void poner(QTreeWidgetItem& fila, int columna, const QString& texto) {
     if (fila.text(columna) == texto)
@@ -45,11 +42,9 @@ PanelEjecucion::PanelEjecucion(EjecutorScript& ejecutor, QWidget* padre) : QWidg
 
 QWidget* PanelEjecucion::crearVariables() {
     auto* parte = new QWidget(this);
-    resumen_ = new QLabel(QStringLiteral("Variables globales"), parte);
-    resumen_->setObjectName(QStringLiteral("lblVariables"));
-    variables_ = new QTreeWidget(parte);
-    variables_->setObjectName(QStringLiteral("listaVariables"));
-    variables_->setAccessibleName(QStringLiteral("Variables globales del script, después de cada pasada"));
+    resumen_ = nombrado(new QLabel(QStringLiteral("Variables globales"), parte), "lblVariables");
+    variables_ = nombrado(new QTreeWidget(parte), "listaVariables",
+                          QStringLiteral("Variables globales del script, después de cada pasada"));
     variables_->setHeaderLabels({QStringLiteral("Nombre"), QStringLiteral("Tipo"), QStringLiteral("Valor")});
     variables_->setRootIsDecorated(false);
     variables_->setUniformRowHeights(true);
@@ -68,12 +63,9 @@ QWidget* PanelEjecucion::crearVariables() {
 QWidget* PanelEjecucion::crearConsola() {
     auto* parte = new QWidget(this);
     auto* rotulo = new QLabel(QStringLiteral("Consola (WScript.Echo)"), parte);
-    auto* borrar = new QPushButton(QStringLiteral("Borrar &consola"), parte);
-    borrar->setObjectName(QStringLiteral("btnBorrarConsola"));
+    auto* borrar = crearBoton(parte, "btnBorrarConsola", QStringLiteral("Borrar &consola"));
     connect(borrar, &QPushButton::clicked, this, &PanelEjecucion::borrarConsola);
-    consola_ = new QPlainTextEdit(parte);
-    consola_->setObjectName(QStringLiteral("txtConsola"));
-    consola_->setAccessibleName(QStringLiteral("Consola del script"));
+    consola_ = nombrado(new QPlainTextEdit(parte), "txtConsola", QStringLiteral("Consola del script"));
     consola_->setReadOnly(true);
     consola_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     consola_->setUndoRedoEnabled(false);

@@ -2,6 +2,7 @@
 
 #include "platform/vbscript/library/Builtins.h"
 #include "platform/vbscript/syntax/Lexer.h"
+#include "platform/window/Controles.h"
 #include "script/OperacionesMW.h"
 
 #include <QSet>
@@ -9,10 +10,6 @@
 #include <algorithm>
 
 namespace {
-
-QString deUtf16(std::u16string_view texto) {
-    return QString::fromUtf16(texto.data(), static_cast<qsizetype>(texto.size()));
-}
 
 QString argumentosDe(const vbs::Builtin& funcion) {
     if (funcion.most == vbs::anyNumber)
@@ -50,8 +47,7 @@ const QList<Sugerencia>& sugerenciasDeMW() {
         QList<Sugerencia> operaciones;
         for (const OperacionMW& operacion : operacionesMW()) {
             const std::string_view nombre = operacion.nombre();
-            operaciones.append({QString::fromUtf8(nombre.data(), static_cast<qsizetype>(nombre.size())),
-                                QString::fromUtf8(operacion.firma)});
+            operaciones.append({deUtf8(nombre), QString::fromUtf8(operacion.firma)});
         }
         std::sort(operaciones.begin(), operaciones.end());
         return operaciones;

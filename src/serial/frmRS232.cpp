@@ -1,12 +1,12 @@
 #include "serial/frmRS232.h"
 
 #include "platform/text/CodePage.h"
+#include "platform/window/Controles.h"
 #include "platform/window/VistaTexto.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPalette>
 #include <QPushButton>
 #include <QSplitter>
 #include <QTime>
@@ -18,20 +18,6 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr QRgb verde = 0xFF00FF00;
-constexpr QRgb rojo = 0xFFFF0000;
-
-QString deUtf8(std::string_view utf8) {
-    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
-}
-
-template <typename Control>
-Control* conNombre(Control* control, const QString& nombre, const QString& descripcion) {
-    control->setObjectName(nombre);
-    control->setAccessibleName(descripcion);
-    return control;
-}
-
 // A text box under its label.
 QWidget* conRotulo(VistaTexto* vista) {
     auto* panel = new QWidget;
@@ -42,21 +28,6 @@ QWidget* conRotulo(VistaTexto* vista) {
     columna->addWidget(rotulo);
     columna->addWidget(vista);
     return panel;
-}
-
-// Shown under the port's line while it has something to tell; can be selected and copied.
-QLabel* aviso(const QString& nombre, const QString& descripcion) {
-    auto* rotulo = conNombre(new QLabel, nombre, descripcion);
-    rotulo->setTextFormat(Qt::PlainText); // what a device sends is no markup
-    rotulo->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    rotulo->setWordWrap(true);
-    rotulo->hide();
-    return rotulo;
-}
-
-void avisar(QLabel& rotulo, const QString& texto) {
-    rotulo.setText(texto);
-    rotulo.setVisible(!texto.isEmpty());
 }
 
 QString conHora(const QString& texto) {
@@ -104,19 +75,17 @@ void frmRS232::crearControles() {
     setObjectName(QStringLiteral("frmRS232"));
     setWindowTitle(QStringLiteral("RS232"));
 
-    txtConfigRS232_ = conNombre(new QLineEdit, QStringLiteral("txtConfigRS232"), QStringLiteral("Configuración"));
+    txtConfigRS232_ = nombrado(new QLineEdit, "txtConfigRS232", QStringLiteral("Configuración"));
     txtConfigRS232_->setReadOnly(true);
-    lblEstado_ = conNombre(new QLabel, QStringLiteral("lblEstado"), QStringLiteral("Estado del puerto"));
+    lblEstado_ = nombrado(new QLabel, "lblEstado", QStringLiteral("Estado del puerto"));
     lblEstado_->setAlignment(Qt::AlignCenter);
     lblEstado_->setAutoFillBackground(true);
     lblEstado_->setMargin(fontMetrics().height() / 4);
     lblEstado_->setMinimumWidth(fontMetrics().horizontalAdvance(QStringLiteral("  CLOSE  ")));
-    auto* btnAbrir = new QPushButton(QStringLiteral("Abrir Puerto"));
-    conNombre(btnAbrir, QStringLiteral("BtnAbrirPuerto"), btnAbrir->text());
-    auto* btnOcultar = new QPushButton(QStringLiteral("Ocultar"));
-    conNombre(btnOcultar, QStringLiteral("BtnOcultar"), btnOcultar->text());
-    txtInputCom_ = conNombre(new VistaTexto, QStringLiteral("TxtInputCom"), QStringLiteral("Texto recibido"));
-    txtTramas_ = conNombre(new VistaTexto, QStringLiteral("txtTramas"), QStringLiteral("Tramas interpretadas"));
+    auto* btnAbrir = crearBoton(this, "BtnAbrirPuerto", QStringLiteral("Abrir Puerto"));
+    auto* btnOcultar = crearBoton(this, "BtnOcultar", QStringLiteral("Ocultar"));
+    txtInputCom_ = nombrado(new VistaTexto, "TxtInputCom", QStringLiteral("Texto recibido"));
+    txtTramas_ = nombrado(new VistaTexto, "txtTramas", QStringLiteral("Tramas interpretadas"));
 
     auto* rotulo = new QLabel(txtConfigRS232_->accessibleName() + u':');
     rotulo->setBuddy(txtConfigRS232_);
@@ -131,8 +100,8 @@ void frmRS232::crearControles() {
     textos->addWidget(conRotulo(txtInputCom_));
     textos->addWidget(conRotulo(txtTramas_));
     auto* columna = new QVBoxLayout(this);
-    lblCausaCierre_ = aviso(QStringLiteral("lblCausaCierre"), QStringLiteral("Por qué está cerrado el puerto"));
-    lblRechazo_ = aviso(QStringLiteral("lblRechazo"), QStringLiteral("Última lectura rechazada"));
+    lblCausaCierre_ = crearAviso(this, "lblCausaCierre", QStringLiteral("Por qué está cerrado el puerto"));
+    lblRechazo_ = crearAviso(this, "lblRechazo", QStringLiteral("Última lectura rechazada"));
     columna->addLayout(arriba);
     columna->addWidget(lblCausaCierre_);
     columna->addWidget(lblRechazo_);
@@ -204,10 +173,7 @@ void frmRS232::MSComm_OnComm() {
 
 void frmRS232::timerEstado_Timer() {
     const bool abierto = comm_.PortOpen();
-    QPalette colores = lblEstado_->palette();
-    colores.setColor(QPalette::Window, QColor::fromRgb(abierto ? verde : rojo));
-    colores.setColor(QPalette::WindowText, Qt::black);
-    lblEstado_->setPalette(colores);
+    ponerFondoDeEstado(*lblEstado_, abierto);
     lblEstado_->setText(abierto ? QStringLiteral("OPEN") : QStringLiteral("CLOSE"));
     if (abierto)
         causaCierre_.clear();

@@ -1,6 +1,7 @@
 #include "shell/ControlesPrincipal.h"
 
 #include "modbus/VistaMonitor.h"
+#include "platform/window/Controles.h"
 
 #include <QCheckBox>
 #include <QGridLayout>
@@ -18,36 +19,6 @@
 namespace {
 
 constexpr int entreGrupos = 10; // pixels
-
-template <typename Control>
-Control* nombrado(Control* control, const char* nombre) {
-    control->setObjectName(QLatin1String(nombre));
-    return control;
-}
-
-QLabel* titulo(QWidget* padre, const char* nombre, const QString& texto) {
-    auto* etiqueta = nombrado(new QLabel(texto, padre), nombre);
-    QFont negrita = etiqueta->font();
-    negrita.setBold(true);
-    etiqueta->setFont(negrita);
-    return etiqueta;
-}
-
-QPushButton* boton(QWidget* padre, const char* nombre, const QString& texto, const QString& ayuda) {
-    auto* control = nombrado(new QPushButton(texto, padre), nombre);
-    control->setAutoDefault(false);
-    control->setToolTip(ayuda);
-    return control;
-}
-
-QLabel* aviso(QWidget* padre, const char* nombre) {
-    auto* etiqueta = nombrado(new QLabel(padre), nombre);
-    etiqueta->setWordWrap(true);
-    etiqueta->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // a long word must not widen the window
-    etiqueta->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    etiqueta->hide();
-    return etiqueta;
-}
 
 } // namespace
 
@@ -71,12 +42,10 @@ ControlesPrincipal::ControlesPrincipal(QWidget& ventana, TextoMonitor& escritura
 
 QWidget* ControlesPrincipal::columnaIzquierda(QWidget* padre) {
     auto* columna = new QWidget(padre);
-    TabStrip1 = nombrado(new QTabBar(columna), "TabStrip1");
+    TabStrip1 = nombrado(new QTabBar(columna), "TabStrip1", QStringLiteral("Esclavos"));
     TabStrip1->setUsesScrollButtons(true);
     TabStrip1->setElideMode(Qt::ElideNone);
     TabStrip1->setExpanding(false);
-
-    TabStrip1->setAccessibleName(QStringLiteral("Esclavos"));
     paginas = nombrado(new QStackedWidget(columna), "paginas");
 
     auto* diseno = new QVBoxLayout(columna);
@@ -103,21 +72,20 @@ QWidget* ControlesPrincipal::columnaDerecha(QWidget* padre, TextoMonitor& escrit
 
 void ControlesPrincipal::grupoConexiones(QVBoxLayout& columna, QWidget* padre) {
     auto* cabecera = new QHBoxLayout;
-    cabecera->addWidget(titulo(padre, "Label3", QStringLiteral("Conexiones")));
+    cabecera->addWidget(crearTitulo(padre, "Label3", QStringLiteral("Conexiones")));
     cabecera->addStretch(1);
-    LblPuertoLocal = titulo(padre, "LblPuertoLocal", QStringLiteral("Puerto:"));
+    LblPuertoLocal = crearTitulo(padre, "LblPuertoLocal", QStringLiteral("Puerto:"));
     LblPuertoLocal->setMargin(2);
     LblPuertoLocal->setAccessibleDescription(QStringLiteral("Puerto TCP en el que escucha la estación"));
     cabecera->addWidget(LblPuertoLocal);
 
-    ListView1 = nombrado(new QTreeWidget(padre), "ListView1");
+    ListView1 = nombrado(new QTreeWidget(padre), "ListView1", QStringLiteral("Conexiones"));
     ListView1->setRootIsDecorated(false);
     ListView1->setUniformRowHeights(true);
     ListView1->setAllColumnsShowFocus(true);
-    ListView1->setAccessibleName(QStringLiteral("Conexiones"));
     ListView1->setColumnCount(0);
 
-    lblDDEAviso = aviso(padre, "lblDDEAviso");
+    lblDDEAviso = crearAviso(padre, "lblDDEAviso");
     columna.addLayout(cabecera);
     columna.addWidget(lblDDEAviso);
     columna.addWidget(ListView1, 2);
@@ -125,15 +93,14 @@ void ControlesPrincipal::grupoConexiones(QVBoxLayout& columna, QWidget* padre) {
 
 void ControlesPrincipal::grupoEscrituras(QVBoxLayout& columna, QWidget* padre, TextoMonitor& escrituras) {
     auto* cabecera = new QHBoxLayout;
-    auto* Label1 = titulo(padre, "Label1", QStringLiteral("Escrituras:"));
+    auto* Label1 = crearTitulo(padre, "Label1", QStringLiteral("Escrituras:"));
     cabecera->addWidget(Label1);
     cabecera->addStretch(1);
-    BtnBorrar = boton(padre, "BtnBorrar", QStringLiteral("Borrar Escrituras"),
-                      QStringLiteral("Vacía el monitor de escrituras"));
+    BtnBorrar = crearBoton(padre, "BtnBorrar", QStringLiteral("Borrar Escrituras"),
+                           QStringLiteral("Vacía el monitor de escrituras"));
     cabecera->addWidget(BtnBorrar);
 
-    txtEscrituras = nombrado(new VistaMonitor(escrituras, padre), "txtEscrituras");
-    txtEscrituras->setAccessibleName(QStringLiteral("Escrituras"));
+    txtEscrituras = nombrado(new VistaMonitor(escrituras, padre), "txtEscrituras", QStringLiteral("Escrituras"));
     Label1->setBuddy(txtEscrituras);
     columna.addLayout(cabecera);
     columna.addWidget(txtEscrituras, 3);
@@ -141,35 +108,35 @@ void ControlesPrincipal::grupoEscrituras(QVBoxLayout& columna, QWidget* padre, T
 
 void ControlesPrincipal::grupoScript(QVBoxLayout& columna, QWidget* padre) {
     auto* fila = new QHBoxLayout;
-    chScript = nombrado(new QCheckBox(QStringLiteral("Ejecutar"), padre), "chScript");
-    chScript->setToolTip(QStringLiteral("Ejecuta el script periódicamente: verde, sin errores; rojo, con error"));
+    chScript = crearCasilla(padre, "chScript", QStringLiteral("Ejecutar"),
+                            QStringLiteral("Ejecuta el script periódicamente: verde, sin errores; rojo, con error"));
     chScript->setAutoFillBackground(true);
     chScript->setBackgroundRole(QPalette::Window); // a button's own would be Button, and stay as it is
     BtnEdicionCodigo =
-        boton(padre, "BtnEdicionCodigo", QStringLiteral("Editar"), QStringLiteral("Abre el editor del script"));
+        crearBoton(padre, "BtnEdicionCodigo", QStringLiteral("Editar"), QStringLiteral("Abre el editor del script"));
     lblBaseDeTiempo = nombrado(new QLabel(QStringLiteral("Tiempo:"), padre), "lblBaseDeTiempo");
     fila->addWidget(chScript);
     fila->addWidget(BtnEdicionCodigo);
     fila->addWidget(lblBaseDeTiempo, 1);
-    columna.addWidget(titulo(padre, "Label2", QStringLiteral("Codigo Script")));
+    columna.addWidget(crearTitulo(padre, "Label2", QStringLiteral("Codigo Script")));
     columna.addLayout(fila);
 }
 
 void ControlesPrincipal::grupoBotones(QVBoxLayout& columna, QWidget* padre) {
-    ChRxTx = nombrado(new QCheckBox(QStringLiteral("Ver TX/RX"), padre), "ChRxTx");
-    ChRxTx->setToolTip(QStringLiteral("Anota en los monitores cada trama recibida y enviada"));
-    BtnBorrarTextosRXTX = boton(padre, "BtnBorrarTextosRXTX", QStringLiteral("Borrar Tx/Rx"),
-                                QStringLiteral("Vacía los monitores de tramas de todos los esclavos"));
-    Command2 = boton(padre, "Command2", QStringLiteral("Puentes"),
-                     QStringLiteral("Muestra el puente entre los puertos 500 y 501"));
+    ChRxTx = crearCasilla(padre, "ChRxTx", QStringLiteral("Ver TX/RX"),
+                          QStringLiteral("Anota en los monitores cada trama recibida y enviada"));
+    BtnBorrarTextosRXTX = crearBoton(padre, "BtnBorrarTextosRXTX", QStringLiteral("Borrar Tx/Rx"),
+                                     QStringLiteral("Vacía los monitores de tramas de todos los esclavos"));
+    Command2 = crearBoton(padre, "Command2", QStringLiteral("Puentes"),
+                          QStringLiteral("Muestra el puente entre los puertos 500 y 501"));
     btnVerFormularioRS232 =
-        boton(padre, "btnVerFormularioRS232", QStringLiteral("RS232"), QStringLiteral("Muestra el puerto serie"));
-    Command1 = boton(padre, "Command1", QStringLiteral("About"), QStringLiteral("Acerca de este programa"));
-    BtnOcultar = boton(padre, "BtnOcultar", QStringLiteral("Ocultar"),
-                       QStringLiteral("Oculta esta ventana; el esclavo sigue respondiendo"));
-    BtnCerrar = boton(padre, "BtnCerrar", QStringLiteral("Cerrar Esclavo"),
-                      QStringLiteral("Termina el programa y cierra todas las conexiones"));
-    Label4 = aviso(padre, "Label4");
+        crearBoton(padre, "btnVerFormularioRS232", QStringLiteral("RS232"), QStringLiteral("Muestra el puerto serie"));
+    Command1 = crearBoton(padre, "Command1", QStringLiteral("About"), QStringLiteral("Acerca de este programa"));
+    BtnOcultar = crearBoton(padre, "BtnOcultar", QStringLiteral("Ocultar"),
+                            QStringLiteral("Oculta esta ventana; el esclavo sigue respondiendo"));
+    BtnCerrar = crearBoton(padre, "BtnCerrar", QStringLiteral("Cerrar Esclavo"),
+                           QStringLiteral("Termina el programa y cierra todas las conexiones"));
+    Label4 = crearAviso(padre, "Label4");
 
     auto* rejilla = new QGridLayout;
     rejilla->addWidget(ChRxTx, 0, 0);
@@ -190,7 +157,7 @@ void ControlesPrincipal::agregarPagina(QWidget& pagina, int numero) {
     QWidget* anterior = TabStrip1;
     for (const char* nombre :
          {"MSFlexGrid", "ChRecibir", "ChResponder", "ChRecibirEscrituras", "ChResponderEscrituras", "txtTramas"}) {
-        auto* control = pagina.findChild<QWidget*>(QStringLiteral("%1(%2)").arg(QLatin1String(nombre)).arg(numero));
+        auto* control = pagina.findChild<QWidget*>(nombreDeElemento(nombre, numero));
         QWidget::setTabOrder(anterior, control);
         anterior = control;
     }

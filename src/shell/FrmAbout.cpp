@@ -1,5 +1,6 @@
 #include "shell/FrmAbout.h"
 
+#include "platform/window/Controles.h"
 #include "shell/AyudaContextual.h"
 
 #include <QHBoxLayout>
@@ -12,23 +13,18 @@ FrmAbout::FrmAbout(QWidget& principal) : QDialog(&principal) {
     setWindowTitle(QStringLiteral("Trelvano - About"));
     setWindowIcon(principal.windowIcon());
 
-    auto* imagen = new QLabel(this);
-    imagen->setObjectName(QStringLiteral("Image1"));
+    auto* imagen = nombrado(new QLabel(this), "Image1", QStringLiteral("Icono del programa"));
     imagen->setPixmap(principal.windowIcon().pixmap(QSize(64, 64), devicePixelRatioF()));
-    imagen->setAccessibleName(QStringLiteral("Icono del programa"));
 
-    auto* LblDesc = new QLabel(QStringLiteral("Estación esclava Modbus TCP"), this);
-    LblDesc->setObjectName(QStringLiteral("LblDesc"));
+    auto* LblDesc = nombrado(new QLabel(QStringLiteral("Estación esclava Modbus TCP"), this), "LblDesc");
     QFont grande = LblDesc->font();
     grande.setPointSizeF(grande.pointSizeF() * 1.3);
     LblDesc->setFont(grande);
 
-    auto* version = new QLabel(QStringLiteral("Pendra 3.1.9"), this);
-    version->setObjectName(QStringLiteral("Label_ControlDeVercion"));
+    auto* version = nombrado(new QLabel(QStringLiteral("Pendra 3.1.9"), this), "Label_ControlDeVercion");
     version->setTextInteractionFlags(Qt::TextSelectableByMouse);
 
-    auto* cerrar = new QPushButton(QStringLiteral("Cerrar"), this);
-    cerrar->setObjectName(QStringLiteral("BtnSalir"));
+    auto* cerrar = crearBoton(this, "BtnSalir", QStringLiteral("Cerrar"));
     connect(cerrar, &QPushButton::clicked, this, &QDialog::close);
 
     auto* textos = new QVBoxLayout;

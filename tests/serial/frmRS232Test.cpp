@@ -23,11 +23,11 @@
 
 namespace {
 
-using Ajustes = std::map<std::string, std::string, std::less<>>; // by stored key
+using Valores = std::map<std::string, std::string, std::less<>>; // by stored key
 
 // A station with a device on COM port 1 and the window of the serial link.
 struct Estacion {
-    explicit Estacion(const Ajustes& ajustes = {}) {
+    explicit Estacion(const Valores& ajustes = {}) {
         configuracion.valores = ajustes;
         ventana = std::make_unique<frmRS232>(par.carpeta(), configuracion, log, motor);
     }
@@ -76,7 +76,7 @@ private Q_SLOTS:
     }
 
     void missingPortIsLoggedOnceAndShownClosed() {
-        Estacion estacion(Ajustes{{"RS232_NomCOM", "3000"}});
+        Estacion estacion(Valores{{"RS232_NomCOM", "3000"}});
         QCOMPARE(estacion.log.lineas.size(), std::size_t{1});
         QCOMPARE(QByteArray::fromStdString(estacion.log.lineas[0]),
                  QByteArray("RS232>SetearConfig: Com:3000/9600,N,8,1>PortOpen>"
@@ -87,7 +87,7 @@ private Q_SLOTS:
     }
 
     void lettersAsPortNumberFailThatStepAloneAndTheNextOnesFollow() {
-        Estacion estacion(Ajustes{{"RS232_NomCOM", "COM3"}});
+        Estacion estacion(Valores{{"RS232_NomCOM", "COM3"}});
         QCOMPARE(estacion.log.lineas,
                  std::vector<std::string>{"RS232>SetearConfig: Com:COM3/9600,N,8,1>CommPort>No coinciden los tipos"});
         QCOMPARE(estacion.estado(), QStringLiteral("OPEN"));
@@ -95,7 +95,7 @@ private Q_SLOTS:
     }
 
     void badSettingsFailThatStepAloneAndTheFormerAreShown() {
-        Estacion estacion(Ajustes{{"RS232_Baudios", "999999999"}, {"RS232_Paridad", "E"}});
+        Estacion estacion(Valores{{"RS232_Baudios", "999999999"}, {"RS232_Paridad", "E"}});
         QCOMPARE(estacion.log.lineas,
                  std::vector<std::string>{"RS232>SetearConfig: Com:1/999999999,E,8,1>Settings>"
                                           "Valor de propiedad no válido: Settings = 999999999,E,8,1"});
@@ -104,7 +104,7 @@ private Q_SLOTS:
     }
 
     void eachFailingStepIsLoggedOnce() {
-        Estacion estacion(Ajustes{{"RS232_NomCOM", "-1"}, {"RS232_StopBit", "uno"}});
+        Estacion estacion(Valores{{"RS232_NomCOM", "-1"}, {"RS232_StopBit", "uno"}});
         QCOMPARE(estacion.log.lineas.size(), std::size_t{2});
     }
 
@@ -119,7 +119,7 @@ private Q_SLOTS:
     }
 
     void wrongEndCharacterIsLoggedAndTheWindowGoesOn() {
-        Estacion estacion(Ajustes{{"Caracter_Fin_TRAMA_1", "300"}, {"Caracter_Fin_TRAMA_2", "fin"}});
+        Estacion estacion(Valores{{"Caracter_Fin_TRAMA_1", "300"}, {"Caracter_Fin_TRAMA_2", "fin"}});
         QCOMPARE(estacion.log.lineas.size(), std::size_t{2});
         estacion.par.enviar("240517123\n\r");
         QTRY_COMPARE(estacion.motor.textos, std::vector<std::string>{asignaciones123});
@@ -268,7 +268,7 @@ private Q_SLOTS:
     }
 
     void validityThatIsNoNumberIsTold() {
-        Estacion estacion(Ajustes{{"RS232_Cant_Intervalos_Validez", "dos"}});
+        Estacion estacion(Valores{{"RS232_Cant_Intervalos_Validez", "dos"}});
         estacion.par.enviar("240517123\n\r");
         QTRY_VERIFY(estacion.aviso("lblRechazo").endsWith(QStringLiteral("»: No coinciden los tipos")));
         QCOMPARE(estacion.log.lineas.size(), std::size_t{1});
@@ -295,7 +295,7 @@ private Q_SLOTS:
     }
 
     void closedPortTellsWhy() {
-        Estacion estacion(Ajustes{{"RS232_NomCOM", "3000"}});
+        Estacion estacion(Valores{{"RS232_NomCOM", "3000"}});
         const QRegularExpression dicho(
             QStringLiteral("^\\d\\d:\\d\\d:\\d\\d No se puede abrir /dev/ttyS2999: no existe$"));
         QVERIFY(dicho.match(estacion.aviso("lblCausaCierre")).hasMatch());

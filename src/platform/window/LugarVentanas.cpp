@@ -78,9 +78,10 @@ void LugarVentanas::colocar(QWidget& ventana) const {
     const QRect lugar = guardado.value_or(ventana.geometry());
     const QScreen* const enSuLugar = guardado ? QGuiApplication::screenAt(lugar.center()) : nullptr;
     const QScreen* const pantalla = enSuLugar != nullptr ? enSuLugar : ventana.screen();
-    // The frame that the window manager adds is not known before the window is there; a title bar stands for it.
+    // The frame that the window manager adds is not known before the window is there; the style's stands for it.
     const int titulo = ventana.style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, &ventana);
-    const QRect disponible = pantalla->availableGeometry().adjusted(0, titulo, 0, 0);
+    const int borde = ventana.style()->pixelMetric(QStyle::PM_MdiSubWindowFrameWidth, nullptr, &ventana);
+    const QRect disponible = pantalla->availableGeometry().adjusted(borde, titulo, -borde, -borde);
     const QRect corregido = dentroDe(disponible, lugar);
     if (guardado)
         ventana.setGeometry(corregido);
