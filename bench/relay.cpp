@@ -127,7 +127,8 @@ void serveBridge(Ports ports, bool display) {
     Reactor reactor;
     EventosQt events;
     QWidget principal;
-    FrmConexionesPuentes window(principal, reactor, events, ports[0], ports[1]);
+    Puente bridge(reactor, events, ports[0], ports[1]);
+    FrmConexionesPuentes window(principal, bridge);
     QSocketNotifier notifier(reactor.descriptor(), QSocketNotifier::Read);
     QObject::connect(&notifier, &QSocketNotifier::activated, &notifier, [&] { reactor.turn(); });
     window.findChild<QCheckBox*>(QStringLiteral("chStop"))->setChecked(!display);

@@ -1,8 +1,7 @@
 #include "bridge/FrmConexionesPuentes.h"
 
-#include "platform/events/Eventos.h"
-#include "platform/text/Numbers.h"
 #include "platform/window/Contraste.h"
+#include "platform/window/Controles.h"
 #include "platform/window/VistaTexto.h"
 
 #include <QCheckBox>
@@ -26,15 +25,37 @@ constexpr int entreZonas = 10; // pixels between the parts of the window, which 
 QColor colorDe(ColorPuerto color) {
     switch (color) {
     case ColorPuerto::verde:
-        return {0, 128, 0};
+        return colores::verdeOscuro;
     case ColorPuerto::azul:
-        return {0, 0, 128};
+        return colores::azulOscuro;
     case ColorPuerto::amarillo:
-        return {255, 255, 0};
+        return colores::amarillo;
     case ColorPuerto::rojo:
         break;
     }
-    return {255, 0, 0};
+    return colores::rojo;
+}
+
+QString textoDe(ColorPuerto color) {
+    switch (color) {
+    case ColorPuerto::verde:
+        return QStringLiteral("Conectado");
+    case ColorPuerto::azul:
+        return QStringLiteral("Espera a un cliente");
+    case ColorPuerto::amarillo:
+        return QStringLiteral("Conectando");
+    case ColorPuerto::rojo:
+        break;
+    }
+    return QStringLiteral("Cerrado: se abre en un segundo");
+}
+
+std::string causaDe(const std::error_code& fallo) {
+    if (fallo == std::errc::address_in_use)
+        return "está ocupado por otro programa";
+    if (fallo == std::errc::permission_denied)
+        return "sin permiso para puertos menores que 1024";
+    return fallo.message();
 }
 
 QTreeWidgetItem* nodo(QTreeWidgetItem* padre, const QString& clave, const QString& texto) {
@@ -45,15 +66,13 @@ QTreeWidgetItem* nodo(QTreeWidgetItem* padre, const QString& clave, const QStrin
 
 } // namespace
 
-FrmConexionesPuentes::FrmConexionesPuentes(QWidget& principal, Reactor& reactor, Eventos& eventos, double puerto1,
-                                           double puerto2)
-    : QWidget(&principal, Qt::Window), puente_(reactor, *this, eventos, puerto1, puerto2) {
+FrmConexionesPuentes::FrmConexionesPuentes(QWidget& principal, Puente& puente)
+    : QWidget(&principal, Qt::Window), puente_(puente) {
     setObjectName(QStringLiteral("FrmConexionesPuentes"));
     setWindowTitle(QStringLiteral("Conexion Puente"));
     setWindowIcon(principal.windowIcon());
-    crearArbol();
     auto* divisor = new QSplitter(Qt::Horizontal, this);
-    divisor->addWidget(TreeView1_);
+    divisor->addWidget(crearPuertos());
     divisor->addWidget(crearMonitores());
     divisor->setStretchFactor(1, 1);
     divisor->setHandleWidth(entreZonas);
@@ -66,14 +85,27 @@ FrmConexionesPuentes::FrmConexionesPuentes(QWidget& principal, Reactor& reactor,
     timerVerificarEstado_.setObjectName(QStringLiteral("timerVerificarEstado"));
     connect(&timerVerificarEstado_, &QTimer::timeout, this, [this] { puente_.verificarEstado(); });
     timerVerificarEstado_.start(periodoVerificacion);
+    puente_.mostrarEn(this);
 }
 
-FrmConexionesPuentes::~FrmConexionesPuentes() = default;
+FrmConexionesPuentes::~FrmConexionesPuentes() {
+    puente_.mostrarEn(nullptr);
+}
+
+// The tree, and under it why a port is red.
+QWidget* FrmConexionesPuentes::crearPuertos() {
+    auto* columna = new QWidget(this);
+    crearArbol();
+    lblMotivos_ = crearAviso(columna, "lblMotivos", QStringLiteral("Por qué no se abre un puerto"));
+    auto* diseno = new QVBoxLayout(columna);
+    diseno->setContentsMargins(0, 0, 0, 0);
+    diseno->addWidget(TreeView1_, 1);
+    diseno->addWidget(lblMotivos_);
+    return columna;
+}
 
 void FrmConexionesPuentes::crearArbol() {
-    TreeView1_ = new QTreeWidget(this);
-    TreeView1_->setObjectName(QStringLiteral("TreeView1"));
-    TreeView1_->setAccessibleName(QStringLiteral("Conexiones y puertos"));
+    TreeView1_ = nombrado(new QTreeWidget(this), "TreeView1", QStringLiteral("Conexiones y puertos"));
     TreeView1_->header()->hide();
     auto* raiz = new QTreeWidgetItem(TreeView1_, {QStringLiteral("CONEXIONES")});
     raiz->setData(0, Qt::UserRole, QStringLiteral("N"));
@@ -85,14 +117,13 @@ void FrmConexionesPuentes::crearArbol() {
 
 QWidget* FrmConexionesPuentes::crearMonitores() {
     auto* divisor = new QSplitter(Qt::Vertical, this);
-    const std::array nombres{QStringLiteral("txtTramas(0)"), QStringLiteral("txtTramas2(0)")};
+    const std::array nombres{"txtTramas", "txtTramas2"};
     for (const Lado lado : {Lado::uno, Lado::dos}) {
         const auto i = static_cast<std::size_t>(lado);
         auto* grupo = new QWidget(divisor);
         auto* titulo = new QLabel(QStringLiteral("Recibido en el puerto %1").arg(puente_.puerto(lado)), grupo);
-        txtTramas_[i] = new VistaTexto(grupo, TextoBytes::CrLf::dosFines);
-        txtTramas_[i]->setObjectName(nombres[i]);
-        txtTramas_[i]->setAccessibleName(titulo->text());
+        txtTramas_[i] = nombrado(new VistaTexto(grupo, TextoBytes::CrLf::dosFines), nombreDeElemento(nombres[i], 0),
+                                 titulo->text());
         titulo->setBuddy(txtTramas_[i]);
         auto* diseno = new QVBoxLayout(grupo);
         diseno->setContentsMargins(0, 0, 0, 0);
@@ -109,31 +140,22 @@ QWidget* FrmConexionesPuentes::crearBotones() {
     auto* fila = new QWidget(this);
     auto* diseno = new QHBoxLayout(fila);
     diseno->setContentsMargins(0, 0, 0, 0);
-    const auto casilla = [&](const char* nombre, const QString& texto, const QString& ayuda) {
-        auto* control = new QCheckBox(texto, fila);
-        control->setObjectName(QLatin1String(nombre));
-        control->setToolTip(ayuda);
-        diseno->addWidget(control);
-        return control;
-    };
-    const auto boton = [&](const char* nombre, const QString& texto, const QString& ayuda) {
-        auto* control = new QPushButton(texto, fila);
-        control->setObjectName(QLatin1String(nombre));
-        control->setToolTip(ayuda);
-        diseno->addWidget(control);
-        return control;
-    };
-    chEcho_ =
-        casilla("chEcho", QStringLiteral("Echo"), QStringLiteral("Devuelve al cliente del lado 1 todo lo que envía"));
-    chModbus_ = casilla("chModbus", QStringLiteral("modbus"),
-                        QStringLiteral("Muestra los bytes en hexadecimal, un bloque por línea"));
-    chStop_ = casilla("chStop", QStringLiteral("stop"),
-                      QStringLiteral("Detiene los monitores; el puente sigue pasando datos"));
+    chEcho_ = crearCasilla(fila, "chEcho", QStringLiteral("Echo"),
+                           QStringLiteral("Devuelve al cliente del lado 1 todo lo que envía"));
+    chModbus_ = crearCasilla(fila, "chModbus", QStringLiteral("modbus"),
+                             QStringLiteral("Muestra los bytes en hexadecimal, un bloque por línea"));
+    chStop_ = crearCasilla(fila, "chStop", QStringLiteral("stop"),
+                           QStringLiteral("Detiene los monitores; el puente sigue pasando datos"));
+    auto* borrar = crearBoton(fila, "Command1", QStringLiteral("borrar"), QStringLiteral("Vacía los dos monitores"));
+    auto* ocultar =
+        crearBoton(fila, "Command2", QStringLiteral("ocultar"), QStringLiteral("Oculta esta ventana; el puente sigue"));
+    for (QWidget* const casilla : {chEcho_, chModbus_, chStop_})
+        diseno->addWidget(casilla);
     diseno->addStretch(1);
-    connect(boton("Command1", QStringLiteral("borrar"), QStringLiteral("Vacía los dos monitores")),
-            &QPushButton::clicked, this, &FrmConexionesPuentes::borrar);
-    connect(boton("Command2", QStringLiteral("ocultar"), QStringLiteral("Oculta esta ventana; el puente sigue")),
-            &QPushButton::clicked, this, &QWidget::hide);
+    diseno->addWidget(borrar);
+    diseno->addWidget(ocultar);
+    connect(borrar, &QPushButton::clicked, this, &FrmConexionesPuentes::borrar);
+    connect(ocultar, &QPushButton::clicked, this, &QWidget::hide);
     return fila;
 }
 
@@ -172,19 +194,34 @@ void FrmConexionesPuentes::colorear(Lado lado, ColorPuerto color) {
     nodosPuerto_[i]->setForeground(0, colorDe(color));
     const QColor fondo = fondoDeEstado(palette());
     nodosPuerto_[i]->setBackground(0, fondo.isValid() ? QBrush(fondo) : QBrush());
-    if (color == ColorPuerto::azul || color == ColorPuerto::verde)
+    if (color == ColorPuerto::azul || color == ColorPuerto::verde) {
         ultimoFallo_[i].clear();
+        mostrarMotivo(lado, QString());
+    }
+    nodosPuerto_[i]->setToolTip(0, motivos_[i].isEmpty() ? textoDe(color) : motivos_[i]);
 }
 
-// The operator sees the red node; whoever reads stderr learns why, once for each cause.
+// What the red node says by its colour, in words; whoever reads stderr learns it once for each cause.
 void FrmConexionesPuentes::puertoRechazado(Lado lado, const std::error_code& fallo) {
     const auto i = static_cast<std::size_t>(lado);
     if (ultimoFallo_[i] == fallo)
         return;
     ultimoFallo_[i] = fallo;
-    std::fprintf(stderr, "esclavo-modbus: puente: no se puede abrir el puerto %s: %s\n",
-                 text::writeNumber(puente_.puerto(lado)).c_str(),
-                 fallo == std::errc::address_in_use      ? "está ocupado por otro programa"
-                 : fallo == std::errc::permission_denied ? "sin permiso para puertos menores que 1024"
-                                                         : fallo.message().c_str());
+    const QString motivo = QStringLiteral("no se puede abrir el puerto %1: %2")
+                               .arg(puente_.puerto(lado))
+                               .arg(QString::fromStdString(causaDe(fallo)));
+    std::fprintf(stderr, "esclavo-modbus: puente: %s\n", qUtf8Printable(motivo));
+    mostrarMotivo(lado, motivo.at(0).toUpper() + motivo.mid(1));
+}
+
+void FrmConexionesPuentes::mostrarMotivo(Lado lado, const QString& motivo) {
+    const auto i = static_cast<std::size_t>(lado);
+    if (motivos_[i] == motivo)
+        return;
+    motivos_[i] = motivo;
+    if (!motivo.isEmpty())
+        nodosPuerto_[i]->setToolTip(0, motivo);
+    QStringList todos(motivos_.begin(), motivos_.end());
+    todos.removeAll(QString());
+    avisar(*lblMotivos_, todos.join(u'\n'));
 }

@@ -6,9 +6,8 @@ Puente::Extremo::Extremo(Reactor& reactor, WinsockEvents& eventos, double puerto
     socket.readWhileSending(true); // each direction flows by itself; contener() bounds what waits
 }
 
-Puente::Puente(Reactor& reactor, VentanaPuente& ventana, Eventos& eventos, double puerto1, double puerto2)
-    : ventana_(ventana), eventos_(eventos), lados_{Extremo(reactor, *this, puerto1), Extremo(reactor, *this, puerto2)} {
-}
+Puente::Puente(Reactor& reactor, Eventos& eventos, double puerto1, double puerto2)
+    : eventos_(eventos), lados_{Extremo(reactor, *this, puerto1), Extremo(reactor, *this, puerto2)} {}
 
 void Puente::verificarEstado() {
     verificarLado(Lado::uno);
@@ -20,13 +19,13 @@ void Puente::verificarLado(Lado lado) {
     const WinsockState leido = socket(lado).State();
     switch (leido) {
     case WinsockState::connected:
-        ventana_.colorear(lado, ColorPuerto::verde);
+        colorear(lado, ColorPuerto::verde);
         return;
     case WinsockState::listening:
-        ventana_.colorear(lado, ColorPuerto::azul);
+        colorear(lado, ColorPuerto::azul);
         return;
     case WinsockState::connecting:
-        ventana_.colorear(lado, ColorPuerto::amarillo);
+        colorear(lado, ColorPuerto::amarillo);
         return;
     default:
         break;
@@ -34,15 +33,21 @@ void Puente::verificarLado(Lado lado) {
     // Read again on purpose: a state that changes between the two readings is left for the next check.
     if (socket(lado).State() != leido)
         return;
-    ventana_.colorear(lado, ColorPuerto::rojo);
+    colorear(lado, ColorPuerto::rojo);
     ponerAEscuchar(lado);
+}
+
+void Puente::colorear(Lado lado, ColorPuerto color) {
+    if (ventana_ != nullptr)
+        ventana_->colorear(lado, color);
 }
 
 void Puente::ponerAEscuchar(Lado lado) {
     socket(lado).Close();
     socket(lado).LocalPort(static_cast<std::uint16_t>(puerto(lado)));
-    if (const std::error_code fallo = socket(lado).Listen())
-        ventana_.puertoRechazado(lado, fallo);
+    const std::error_code fallo = socket(lado).Listen();
+    if (fallo && ventana_ != nullptr)
+        ventana_->puertoRechazado(lado, fallo);
 }
 
 void Puente::onConnectionRequest(Winsock& socket, std::uint32_t requestId) {
@@ -52,7 +57,7 @@ void Puente::onConnectionRequest(Winsock& socket, std::uint32_t requestId) {
 
 void Puente::onDataArrival(Winsock& origen, std::span<const std::uint8_t> bloque) {
     const Lado lado = ladoDe(origen);
-    if (lado == Lado::uno && ventana_.echo()) {
+    if (lado == Lado::uno && conEcho()) {
         enviar(Lado::uno, bloque);
         socket(Lado::uno).flush(); // what it gathers would leave after the relayed block
     }
@@ -79,18 +84,20 @@ void Puente::onSendComplete(Winsock&) {
 void Puente::contener() {
     const bool lento1 = socket(Lado::uno).bytesPending() > maxPendiente;
     const bool lento2 = socket(Lado::dos).bytesPending() > maxPendiente;
-    socket(Lado::uno).pauseReading(lento2 || (lento1 && ventana_.echo()));
+    socket(Lado::uno).pauseReading(lento2 || (lento1 && conEcho()));
     socket(Lado::dos).pauseReading(lento1);
 }
 
 // Pending events run when the block is shown and not between its bytes: it becomes text only when the monitor is
 // painted, and so the texts of two blocks never interleave.
 void Puente::mostrarBloque(Lado lado, std::span<const std::uint8_t> bloque) {
-    const bool hexadecimal = ventana_.modbus();
+    if (ventana_ == nullptr)
+        return;
+    const bool hexadecimal = ventana_->modbus();
     if (hexadecimal && lado == Lado::uno)
         primerByteModbus_ = bloque.front();
-    if (ventana_.stop())
+    if (ventana_->stop())
         return;
-    ventana_.mostrar(lado, bloque, hexadecimal);
+    ventana_->mostrar(lado, bloque, hexadecimal);
     eventos_.dejarPasarEventos();
 }

@@ -46,9 +46,12 @@ public:
     // Bytes that may wait for a slow side before the one that feeds it is no longer read.
     static constexpr std::size_t maxPendiente = 256 * 1024;
 
-    // All borrowed. Nothing listens before the first verificarEstado().
-    Puente(Reactor& reactor, VentanaPuente& ventana, Eventos& eventos, double puerto1 = puertoLado1,
-           double puerto2 = puertoLado2);
+    // Both borrowed. Nothing listens before the first verificarEstado().
+    Puente(Reactor& reactor, Eventos& eventos, double puerto1 = puertoLado1, double puerto2 = puertoLado2);
+
+    // From here on the bridge shows itself in this window and asks it for the operator's switches; null: in none, with
+    // every switch off.
+    void mostrarEn(VentanaPuente* ventana) { ventana_ = ventana; }
 
     // The state check, run once a second: colours both nodes, and opens the port of a side that is neither listening
     // nor connected.
@@ -80,13 +83,15 @@ private:
     void onClose(Winsock& socket) override;
     void onSendComplete(Winsock& socket) override;
 
+    bool conEcho() const { return ventana_ != nullptr && ventana_->echo(); }
+    void colorear(Lado lado, ColorPuerto color);
     void verificarLado(Lado lado);
     void ponerAEscuchar(Lado lado);
     void enviar(Lado lado, std::span<const std::uint8_t> bloque);
     void contener();
     void mostrarBloque(Lado lado, std::span<const std::uint8_t> bloque);
 
-    VentanaPuente& ventana_;
+    VentanaPuente* ventana_ = nullptr; // borrowed
     Eventos& eventos_;
     std::array<Extremo, 2> lados_;
     double primerByteModbus_ = 0;

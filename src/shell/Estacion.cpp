@@ -1,7 +1,6 @@
 #include "shell/Estacion.h"
 
 #include "ajustes/Claves.h"
-#include "bridge/Puente.h"
 #include "platform/locale/SystemLocale.h"
 
 #include <cstdio>

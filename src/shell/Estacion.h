@@ -7,6 +7,7 @@
 //     FrmPrincipal principal(estacion);
 #pragma once
 
+#include "bridge/Puente.h"
 #include "modbus/Escucha.h"
 #include "modbus/Monitores.h"
 #include "modbus/Peticiones.h"
@@ -84,6 +85,7 @@ public:
     Monitores monitores;
     EventosQt eventos;
     Reactor reactor;
+    Puente puente{reactor, eventos};
 
 private:
     // EntornoEscucha

@@ -4,6 +4,7 @@
 #include "bridge/FrmConexionesPuentes.h"
 #include "modbus/VistaMonitor.h"
 #include "platform/window/Contraste.h"
+#include "platform/window/Controles.h"
 #include "platform/window/MsgBox.h"
 #include "registers/AccionesRegistros.h"
 #include "registers/FrmMW.h"
@@ -200,7 +201,7 @@ void FrmPrincipal::mostrarEstadisticas() {
 
 void FrmPrincipal::cargarPuentes() {
     if (!frmPuentes_)
-        frmPuentes_ = new FrmConexionesPuentes(*this, estacion_.reactor, estacion_.eventos);
+        frmPuentes_ = new FrmConexionesPuentes(*this, estacion_.puente);
 }
 
 void FrmPrincipal::mostrarPuentes() {
@@ -315,13 +316,12 @@ void FrmPrincipal::mostrarPuerto(const std::string& texto) {
 }
 
 void FrmPrincipal::mostrarEscuchando(bool escuchando) {
-    colorear(*controles_->LblPuertoLocal, escuchando ? QColor(0, 128, 0) : QColor(255, 0, 0));
+    colorear(*controles_->LblPuertoLocal, escuchando ? colores::verdeOscuro : colores::rojo);
 }
 
 void FrmPrincipal::mostrarAviso(const std::string& texto) {
-    controles_->lblDDEAviso->setText(QString::fromStdString(texto));
-    controles_->lblDDEAviso->setToolTip(QString::fromStdString(texto));
-    controles_->lblDDEAviso->setVisible(!texto.empty());
+    avisar(*controles_->lblDDEAviso, deUtf8(texto));
+    controles_->lblDDEAviso->setToolTip(deUtf8(texto));
 }
 
 void FrmPrincipal::agregarFila() {

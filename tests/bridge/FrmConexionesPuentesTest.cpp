@@ -5,6 +5,7 @@
 #include "platform/window/VistaTexto.h"
 
 #include <QCheckBox>
+#include <QLabel>
 #include <QPushButton>
 #include <QSocketNotifier>
 #include <QTest>
@@ -40,10 +41,10 @@ struct Puesto {
     }
     QColor color(int puerto) const { return nodo(puerto).foreground(0).color(); }
     QString texto(const char* monitor) const { return control<VistaTexto>(monitor).texto(); }
-    WinsockState estado(Lado lado) const { return ventana->puente().estado(lado); }
+    WinsockState estado(Lado lado) const { return puente.estado(lado); }
 
     std::unique_ptr<Peer> conectar(Lado lado) const {
-        auto cliente = std::make_unique<Peer>(static_cast<std::uint16_t>(ventana->puente().puerto(lado)));
+        auto cliente = std::make_unique<Peer>(static_cast<std::uint16_t>(puente.puerto(lado)));
         if (!QTest::qWaitFor([&] { return estado(lado) == WinsockState::connected; }))
             qWarning("the bridge did not accept");
         return cliente;
@@ -53,8 +54,8 @@ struct Puesto {
     QSocketNotifier avisador{reactor.descriptor(), QSocketNotifier::Read};
     EventosQt eventos;
     QWidget principal;
-    std::unique_ptr<FrmConexionesPuentes> ventana = std::make_unique<FrmConexionesPuentes>(
-        principal, reactor, eventos, static_cast<double>(puertoLibre()), static_cast<double>(puertoLibre()));
+    Puente puente{reactor, eventos, static_cast<double>(puertoLibre()), static_cast<double>(puertoLibre())};
+    std::unique_ptr<FrmConexionesPuentes> ventana = std::make_unique<FrmConexionesPuentes>(principal, puente);
 };
 
 QByteArray recibido(const Peer& cliente, int cuantos) {
@@ -75,13 +76,14 @@ private Q_SLOTS:
     void windowIsNotShownByLoadingIt() {
         Reactor reactor;
         EventosQt eventos;
+        Puente puente(reactor, eventos);
         QWidget principal;
-        const FrmConexionesPuentes ventana(principal, reactor, eventos);
+        const FrmConexionesPuentes ventana(principal, puente);
         QVERIFY(!ventana.isVisible());
         QCOMPARE(ventana.windowTitle(), QStringLiteral("Conexion Puente"));
         QCOMPARE(ventana.objectName(), QStringLiteral("FrmConexionesPuentes"));
-        QCOMPARE(ventana.puente().puerto(Lado::uno), 500.0);
-        QCOMPARE(ventana.puente().puerto(Lado::dos), 501.0);
+        QCOMPARE(puente.puerto(Lado::uno), 500.0);
+        QCOMPARE(puente.puerto(Lado::dos), 501.0);
     }
 
     void windowTakesTheIconOfTheMainWindow() {
@@ -91,15 +93,17 @@ private Q_SLOTS:
         QPixmap dibujo(16, 16);
         dibujo.fill(Qt::red);
         principal.setWindowIcon(dibujo);
-        const FrmConexionesPuentes ventana(principal, reactor, eventos);
+        Puente puente(reactor, eventos);
+        const FrmConexionesPuentes ventana(principal, puente);
         QCOMPARE(ventana.windowIcon().cacheKey(), principal.windowIcon().cacheKey());
     }
 
     void treeHoldsTheConnectionAndItsPortsExpanded() {
         Reactor reactor;
         EventosQt eventos;
+        Puente puente(reactor, eventos);
         QWidget principal;
-        const FrmConexionesPuentes ventana(principal, reactor, eventos);
+        const FrmConexionesPuentes ventana(principal, puente);
         const auto* arbol = ventana.findChild<QTreeWidget*>(QStringLiteral("TreeView1"));
         QCOMPARE(arbol->topLevelItemCount(), 1);
         const QTreeWidgetItem* raiz = arbol->topLevelItem(0);
@@ -252,24 +256,47 @@ private Q_SLOTS:
         QCOMPARE(p.estado(Lado::uno), WinsockState::connected);
     }
 
-    void refusedPortStaysRedWithoutAMessage() {
+    void refusedPortStaysRedWithoutAMessageAndSaysWhy() {
         Reactor reactor;
         WinsockEvents nadie;
         Winsock ocupante(reactor, nadie);
         QVERIFY(!ocupante.Listen());
         EventosQt eventos;
+        Puente puente(reactor, eventos, ocupante.LocalPort(), puertoLibre());
         QWidget principal;
-        const FrmConexionesPuentes ventana(principal, reactor, eventos, ocupante.LocalPort(), puertoLibre());
+        FrmConexionesPuentes ventana(principal, puente);
+        ventana.show();
         auto* reloj = ventana.findChild<QTimer*>(QStringLiteral("timerVerificarEstado"));
         for (int vez = 0; vez < 3; ++vez)
             Q_EMIT reloj->timeout({});
-        const auto* raiz = ventana.findChild<QTreeWidget*>()->topLevelItem(0);
-        QCOMPARE(raiz->child(0)->child(0)->foreground(0).color(), QColor(255, 0, 0));
+        const auto* puertos = ventana.findChild<QTreeWidget*>()->topLevelItem(0)->child(0);
+        const auto* motivos = ventana.findChild<QLabel*>(QStringLiteral("lblMotivos"));
+        const QString motivo =
+            QStringLiteral("No se puede abrir el puerto %1: está ocupado por otro programa").arg(ocupante.LocalPort());
+        QCOMPARE(puertos->child(0)->foreground(0).color(), QColor(255, 0, 0));
+        QCOMPARE(puertos->child(0)->toolTip(0), motivo);
+        QCOMPARE(puertos->child(1)->toolTip(0), QStringLiteral("Espera a un cliente"));
+        QVERIFY(motivos->isVisible());
+        QCOMPARE(motivos->text(), motivo);
         QVERIFY(QApplication::activeModalWidget() == nullptr);
         ocupante.Close();
         Q_EMIT reloj->timeout({});
         Q_EMIT reloj->timeout({});
-        QCOMPARE(raiz->child(0)->child(0)->foreground(0).color(), QColor(0, 0, 128));
+        QCOMPARE(puertos->child(0)->foreground(0).color(), QColor(0, 0, 128));
+        QCOMPARE(puertos->child(0)->toolTip(0), QStringLiteral("Espera a un cliente"));
+        QVERIFY(!motivos->isVisible());
+    }
+
+    void bridgeGoesOnWithoutItsWindow() {
+        Puesto p;
+        p.tic();
+        const auto c1 = p.conectar(Lado::uno);
+        const auto c2 = p.conectar(Lado::dos);
+        p.ventana.reset();
+        c1->send("sigue");
+        QCOMPARE(recibido(*c2, 5), QByteArray("sigue"));
+        p.puente.verificarEstado();
+        QCOMPARE(p.estado(Lado::uno), WinsockState::connected);
     }
 
     void spaceTogglesABoxAndTabWalksThroughTheControls() {

@@ -4,9 +4,8 @@
 
 TEST(Puente, fixedPortsAre500And501) {
     Reactor reactor;
-    VentanaFalsa ventana;
     EventosFalsos eventos;
-    const Puente puente(reactor, ventana, eventos);
+    const Puente puente(reactor, eventos);
     EXPECT_EQ(puente.puerto(Lado::uno), 500);
     EXPECT_EQ(puente.puerto(Lado::dos), 501);
 }
@@ -16,7 +15,8 @@ TEST(Puente, nothingListensBeforeTheFirstStateCheck) {
     VentanaFalsa ventana;
     const std::uint16_t puerto = puertoLibre();
     EventosFalsos eventos;
-    const Puente puente(reactor, ventana, eventos, puerto, puertoLibre());
+    Puente puente(reactor, eventos, puerto, puertoLibre());
+    puente.mostrarEn(&ventana);
     EXPECT_EQ(puente.estado(Lado::uno), WinsockState::closed);
     EXPECT_EQ(puente.estado(Lado::dos), WinsockState::closed);
     EXPECT_FALSE(Peer(puerto).connected());
@@ -252,7 +252,8 @@ TEST(Puente, takenPortStaysRedAndIsTriedAtEveryCheck) {
     ASSERT_FALSE(ocupante.Listen());
     VentanaFalsa ventana;
     EventosFalsos eventos;
-    Puente puente(reactor, ventana, eventos, ocupante.LocalPort(), puertoLibre());
+    Puente puente(reactor, eventos, ocupante.LocalPort(), puertoLibre());
+    puente.mostrarEn(&ventana);
     for (int vez = 0; vez < 3; ++vez)
         puente.verificarEstado();
     EXPECT_EQ(ventana.colores[0], std::vector(3, ColorPuerto::rojo));

@@ -47,7 +47,10 @@ struct Banco {
     static constexpr std::size_t dos = 1;
 
     // Ends up with both ports listening.
-    Banco() { puente.verificarEstado(); }
+    Banco() {
+        puente.mostrarEn(&ventana);
+        puente.verificarEstado();
+    }
 
     // A client that the bridge has accepted on that side.
     Peer conectar(Lado lado, int buferDeRecepcion = 0) {
@@ -75,5 +78,5 @@ struct Banco {
     Reactor reactor;
     VentanaFalsa ventana;
     EventosFalsos eventos;
-    Puente puente{reactor, ventana, eventos, static_cast<double>(puertoLibre()), static_cast<double>(puertoLibre())};
+    Puente puente{reactor, eventos, static_cast<double>(puertoLibre()), static_cast<double>(puertoLibre())};
 };
