@@ -132,6 +132,27 @@ private Q_SLOTS:
         QCOMPARE(estacion.estacion->esclavos.valores(1)[3], 7456.0); // shifted by the blank before it
     }
 
+    void validityIsReadFromTheFileForEveryReading() {
+        PrincipalDePrueba estacion("Caracter_Fin_TRAMA_1=9\r\nCaracter_Fin_TRAMA_2=32\r\n" + sinPasadasPropias);
+        const Dispositivo dispositivo(estacion.carpeta.ruta());
+        escribirArchivo(estacion.carpeta.ruta() / "codigoTrelvano.txt", "mw.escribir 1, 4, VALIDEZ\r\n");
+        QVERIFY(estacion.cargar());
+        QTest::mouseClick(&estacion.control<QPushButton>("btnVerFormularioRS232"), Qt::LeftButton);
+        auto* tramas = estacion.control<QWidget>("frmRS232").findChild<QPlainTextEdit*>(QStringLiteral("txtTramas"));
+        estacion.control<QCheckBox>("chScript").setChecked(true);
+        const auto validezDespuesDe = [&](const std::string& lectura) {
+            dispositivo.enviar(lectura + "\t ");
+            if (!QTest::qWaitFor([&] { return tramas->toPlainText().contains(QString::fromStdString(lectura)); }))
+                qWarning("no reading");
+            estacion.ventana->ejecutarScript();
+            return estacion.estacion->esclavos.valores(1)[4];
+        };
+        QCOMPARE(validezDespuesDe("240517123"), 2.0);
+        QCOMPARE(estacion.clave("RS232_Cant_Intervalos_Validez"), std::string("2"));
+        estacion.config.escribirConfiguracion(claves::validez, "7,5");
+        QCOMPARE(validezDespuesDe("240517456"), 7.5);
+    }
+
     // The reading comes while a script waits in its box: it is interpreted at once, and its error is not the script's.
     void readingInsideABoxIsInterpretedAtOnceAndItsErrorColoursNoPass() {
         PrincipalDePrueba estacion(sinPasadasPropias);

@@ -47,6 +47,31 @@ public:
     void pasada() const { ventana->ejecucion_timers(1); }
 };
 
+// Passes run when the test asks for them.
+const std::string sinPasadasPropias = "Ejecucion_Codigo_Milisegundos=3600000\r\n";
+
+// Does something once, as soon as the control of that name is being painted.
+class AlPintar : public QObject {
+public:
+    AlPintar(const char* nombre, std::function<void(QWidget&)> accion) : nombre_(nombre), accion_(std::move(accion)) {
+        qApp->installEventFilter(this);
+    }
+
+protected:
+    bool eventFilter(QObject* objeto, QEvent* evento) override {
+        if (evento->type() == QEvent::Paint && accion_ && objeto->objectName() == QLatin1String(nombre_))
+            QMetaObject::invokeMethod(
+                this,
+                [accion = std::exchange(accion_, nullptr), barra = qobject_cast<QWidget*>(objeto)] { accion(*barra); },
+                Qt::QueuedConnection);
+        return false;
+    }
+
+private:
+    const char* nombre_;
+    std::function<void(QWidget&)> accion_;
+};
+
 // Does something once, as soon as a box waits for an answer.
 class AlVerCaja {
 public:
@@ -404,6 +429,38 @@ private Q_SLOTS:
         e.script("mw.escribir 1, 0, 8");
         QTRY_COMPARE(e.color(), verde);
         QCOMPARE(e.registro(1, 0), 8.0);
+    }
+
+    // What a master asks meanwhile waits, so that it sees the pass as one step.
+    void scriptThatDoesNotEndShowsItsBarAndPararEndsThePassWithAnErrorOfItsOwn() {
+        EstacionConScript e(sinPasadasPropias);
+        e.script("mw.escribir 1, 0, 9\r\nOn Error Resume Next\r\nDo\r\nLoop");
+        QVERIFY(e.cargar());
+        const auto maestro = e.conectarMaestro();
+        e.chScript().setChecked(true);
+        QElapsedTimer reloj;
+        qint64 primera = -1;
+        QByteArray entretanto;
+        QString dicho;
+        const AlPintar vigia("BarraScript", [&](QWidget& barra) {
+            primera = reloj.elapsed();
+            maestro->send(PrincipalDePrueba::lectura(1).toStdString());
+            QTest::qSleep(20);
+            entretanto = QByteArray::fromStdString(maestro->receive());
+            dicho = barra.findChild<QLabel*>()->text();
+            QTest::mouseClick(barra.findChild<QPushButton*>(QStringLiteral("BtnPararScript")), Qt::LeftButton);
+        });
+        reloj.start();
+        e.pasada();
+        QVERIFY(primera >= 500);
+        QVERIFY(primera < 10000);
+        QCOMPARE(entretanto, QByteArray());
+        QVERIFY(dicho.startsWith(QStringLiteral("El script lleva ")));
+        QCOMPARE(e.color(), rojo);
+        QVERIFY(e.chScript().toolTip().contains(QStringLiteral("La secuencia de comandos se detuvo")));
+        QVERIFY(e.ventana->findChild<QWidget*>(QStringLiteral("BarraScript")) == nullptr);
+        QByteArray respuesta;
+        QTRY_COMPARE((respuesta += QByteArray::fromStdString(maestro->receive())).mid(9), QByteArray("\0\x9\0\0", 4));
     }
 
     void timeOutOfTheProgramIsFiftySeconds() { QCOMPARE(Arranque().limiteScript, std::chrono::milliseconds(50000)); }

@@ -335,6 +335,19 @@ private Q_SLOTS:
         QVERIFY(about->isVisible());
     }
 
+    void smallWindowsBearTheIconOfTheMainWindow() {
+        QPixmap dibujo(16, 16);
+        dibujo.fill(Qt::red);
+        ventana().setWindowIcon(dibujo);
+        marcar("ChRxTx");
+        clic("Command1");
+        auto* about = ventana().findChild<QWidget*>(QStringLiteral("FrmAbout"));
+        QCOMPARE(txrx()->windowIcon().cacheKey(), ventana().windowIcon().cacheKey());
+        QCOMPARE(about->windowIcon().cacheKey(), ventana().windowIcon().cacheKey());
+        const QImage imagen = about->findChild<QLabel*>(QStringLiteral("Image1"))->pixmap().toImage();
+        QCOMPARE(imagen.pixelColor(imagen.rect().center()), QColor(Qt::red));
+    }
+
     void puentesShowsTheBridgeThatWasLoadedHidden() {
         auto* puentes = ventana().findChild<QWidget*>(QStringLiteral("FrmConexionesPuentes"));
         QVERIFY(puentes != nullptr && !puentes->isVisible());
@@ -347,13 +360,14 @@ private Q_SLOTS:
     }
 
     void doubleClickOnACellOpensItForWritingWithTheHelpTopic() {
-        auto& grid = control<QTableView>("MSFlexGrid(1)");
+        control<QTabBar>("TabStrip1").setCurrentIndex(2);
+        auto& grid = control<QTableView>("MSFlexGrid(2)");
         const QPoint celda = grid.visualRect(grid.model()->index(2, 4)).center();
         QTest::mouseClick(grid.viewport(), Qt::LeftButton, {}, celda);
         QTest::mouseDClick(grid.viewport(), Qt::LeftButton, {}, celda);
         auto* mw = ventana().findChild<QWidget*>(QStringLiteral("FrmMW"));
         QVERIFY(mw != nullptr && mw->isVisible());
-        QCOMPARE(mw->findChild<QLineEdit*>(QStringLiteral("TxtPlc"))->text(), QStringLiteral("1"));
+        QCOMPARE(mw->findChild<QLineEdit*>(QStringLiteral("TxtPlc"))->text(), QStringLiteral("2"));
         QCOMPARE(mw->findChild<QLineEdit*>(QStringLiteral("TxtDireccion"))->text(), QStringLiteral("24"));
         QCOMPARE(mw->property("HelpContextID").toInt(), 420);
         for (const QWidget* uno : mw->findChildren<QWidget*>())

@@ -264,6 +264,59 @@ private Q_SLOTS:
         QCOMPARE(p.clave("ver"), std::string("1"));
     }
 
+    void endingTakesTheSerialWindowAlong_data() {
+        QTest::addColumn<bool>("conCierre");
+        QTest::newRow("Cerrar Esclavo") << false;
+        QTest::newRow("close box") << true;
+    }
+    void endingTakesTheSerialWindowAlong() {
+        QFETCH(bool, conCierre);
+        PrincipalDePrueba p;
+        QVERIFY(p.cargar());
+        clic(p, "btnVerFormularioRS232");
+        const auto& serie = p.control<QWidget>("frmRS232");
+        QVERIFY(serie.isVisible());
+        const qint64 ms = msHastaElFin([&] {
+            if (conCierre)
+                p.ventana->close();
+            else
+                clic(p, "BtnCerrar");
+        });
+        QVERIFY(ms >= 0);
+        QVERIFY(!serie.isVisible());
+        QVERIFY(!p.ventana->isVisible());
+    }
+
+    // The serial link's keys come when its window is made.
+    void startInAnEmptyFolderLeavesEveryKeyWithItsDefault() {
+        PrincipalDePrueba p;
+        std::filesystem::remove(p.config.rutaArchivo());
+        QVERIFY(p.cargar());
+        p.control<QCheckBox>("chScript").setChecked(true);
+        p.control<QCheckBox>("chScript").setChecked(false);
+        clic(p, "btnVerFormularioRS232");
+        for (const Clave* clave : claves::todas) {
+            if (clave->ajena || clave == &claves::periodoDelEditor || clave == &claves::validez)
+                continue; // of other programs; second to read; read with the first frame
+            QCOMPARE(p.clave(clave->nombre.data()), std::string(clave->porDefecto));
+        }
+        QVERIFY(!QString::fromStdString(contenidoDe(p.config.rutaArchivo())).contains(QLatin1String("RutaProyecto")));
+    }
+
+    void portInUseIsWrittenBackAsItsDecimalText() {
+        PrincipalDePrueba p;
+        p.escribirConfig("PUERTO_VALOR= \"" + std::to_string(p.puerto) + ",0\"\r\n");
+        QVERIFY(p.cargar());
+        QCOMPARE(p.clave("PUERTO_VALOR"), std::to_string(p.puerto));
+        std::filesystem::remove(p.config.rutaArchivo());
+        p.escribirConfig("ver=1\r\n");
+        const std::uint16_t otro = puertoLibre();
+        p.escribirConfig("PUERTO_VALOR=" + std::to_string(otro) + "e0\r\n");
+        p.tic();
+        QCOMPARE(p.clave("PUERTO_VALOR"), std::to_string(otro));
+        QCOMPARE(p.control<QLabel>("LblPuertoLocal").text(), QStringLiteral("Puerto: %1").arg(otro));
+    }
+
     void endingWhileAMessageBoxIsOpenClosesItToo() {
         PrincipalDePrueba p;
         QVERIFY(p.cargar());
