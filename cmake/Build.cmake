@@ -24,6 +24,13 @@ if(CCACHE)
   set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE})
 endif()
 
+# Test programs are many and run for seconds: quick to build is worth more than quick to run.
+set(esclavo_test_compile $<$<CONFIG:Release,RelWithDebInfo>:-O1>)
+find_program(MOLD mold)
+if(MOLD AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+  set(esclavo_test_link -fuse-ld=mold)
+endif()
+
 include(cmake/Hardening.cmake)
 
 add_library(project_options INTERFACE)
@@ -79,6 +86,8 @@ function(esclavo_test name)
   add_executable(${name} ${ARG_SOURCES})
   set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
   target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
+  target_compile_options(${name} PRIVATE ${esclavo_test_compile})
+  target_link_options(${name} PRIVATE ${esclavo_test_link})
   target_link_libraries(${name} PRIVATE project_options ${ARG_LINK})
   if(ARG_QT)
     set_target_properties(${name} PROPERTIES AUTOMOC ON)
