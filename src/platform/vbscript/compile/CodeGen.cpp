@@ -25,6 +25,7 @@ CodeGen::CodeGen(UnitScope& scope, const ProcedureDecl& decl, Procedure& procedu
 void CodeGen::addCaptured(LocalName name) {
     newLocal(name.symbol, true);
     m_locals[name.symbol].kind = name.kind;
+    m_locals[name.symbol].fixedArray = name.fixedArray;
     ++m_procedure.parameters;
     m_procedure.byValue.push_back(false);
 }

@@ -92,6 +92,7 @@ private:
         const Expr* literal;                // of constants
         std::uint32_t late = Globals::none; // the global that goes first, once it is defined
         LocalName::Kind kind = LocalName::Kind::Variable;
+        bool fixedArray = false; // of a captured name
     };
     using Label = std::vector<std::size_t>; // jumps that wait for their target
 

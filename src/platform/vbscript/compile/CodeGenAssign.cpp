@@ -60,15 +60,20 @@ void CodeGen::assignName(const Expr* target, const Expr* value, Store store) {
     }
 }
 
-// Whether the name was declared with bounds, here or, if it is a global, in the main text.
+// Whether the name was declared with bounds: here, in the main text if it is a global, or by a text that has run.
 bool CodeGen::isFixedArray(Symbol symbol) {
     const auto fixed = [symbol](const Variable& v) { return v.name == symbol && !v.sizes.empty(); };
-    const bool local = m_locals.contains(symbol);
-    if (!local && isMember(symbol)) {
+    const auto local = m_locals.find(symbol);
+    if (local == m_locals.end() && isMember(symbol)) {
         return std::any_of(m_owner->fields.begin(), m_owner->fields.end(), fixed);
     }
-    const std::vector<Variable>& variables = local ? m_decl.variables : m_scope.ast.main.variables;
-    return std::any_of(variables.begin(), variables.end(), fixed);
+    const bool isLocal = local != m_locals.end();
+    const std::vector<Variable>& variables = isLocal ? m_decl.variables : m_scope.ast.main.variables;
+    if (std::any_of(variables.begin(), variables.end(), fixed)) {
+        return true;
+    }
+    const std::uint32_t slot = isLocal ? Globals::none : m_scope.globals.find(symbol);
+    return isLocal ? local->second.fixedArray : slot != Globals::none && m_scope.globals.holdsFixedArray(slot);
 }
 
 // name(args) = value, object.name(args) = value, or something deeper

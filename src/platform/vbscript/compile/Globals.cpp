@@ -1,5 +1,6 @@
 #include "platform/vbscript/compile/Globals.h"
 
+#include "platform/vbscript/value/Array.h"
 #include "platform/vbscript/value/Errors.h"
 
 #include <utility>
@@ -53,6 +54,10 @@ void Globals::release(std::uint32_t slot) noexcept {
     m_slots[info.symbol] = none;
     m_values[slot] = Value(Type::Undefined, 0);
     info.nextFree = std::exchange(m_free, slot);
+}
+
+bool Globals::holdsFixedArray(std::uint32_t slot) const noexcept {
+    return m_values[slot].isArray() && m_values[slot].array()->fixed();
 }
 
 void Globals::define(std::uint32_t slot, GlobalKind kind, Value value, bool predefined) {

@@ -44,6 +44,7 @@ public:
     Declared declared(std::uint32_t slot) const noexcept { return m_info[slot].declared; }
     void define(std::uint32_t slot, GlobalKind kind, Value value, bool predefined = false);
 
+    bool holdsFixedArray(std::uint32_t slot) const noexcept;
     Value& operator[](std::uint32_t slot) noexcept { return m_values[slot]; }
     Value* values() noexcept { return m_values; }
     std::size_t size() const noexcept { return m_info.size(); }

@@ -47,6 +47,7 @@ struct LocalName {
     enum class Kind : std::uint8_t { Variable, Late, Constant, Callable };
     Symbol symbol = noSymbol;
     Kind kind = Kind::Variable;
+    bool fixedArray = false; // a variable that holds one by now
 };
 
 struct Procedure : Callable {

@@ -149,6 +149,9 @@ Value Vm::runLocalText(std::u16string_view text, bool expression) {
             variables.push_back(&entry.value);
         }
     }
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        names[i].fixedArray = variables[i]->isArray() && variables[i]->array()->fixed();
+    }
     const LocalScope scope{names, frame.procedure->owner};
     std::vector<Symbol> created;
     Unit* unit = expression ? m_compiler.compileExpression(text, scope) : m_compiler.compileLocal(text, scope, created);
