@@ -11,28 +11,45 @@
 #include "platform/vbscript/run/VmShort.h"
 #include "platform/vbscript/value/Library.h"
 
+#include <bit>
+#include <cstring>
+
 namespace vbs {
 
-// The compiler cannot tell how often the loop reads its program counter and the instruction, so it is told the
-// registers.
-#if defined(__GNUC__) && !defined(__clang__) && defined(__x86_64__)
-#define IN_REGISTER(declaration, name) register declaration asm(name)
+// The table of labels stays in a register: it is no constant that the compiler could make anew at every jump.
+#if defined(__GNUC__)
+#define KEEP(variable) asm("" : "+r"(variable))
 #else
-#define IN_REGISTER(declaration, name) declaration
+#define KEEP(variable) static_cast<void>(variable)
 #endif
 
 namespace {
 
 // The value that an operand names. The index stands two bits up in an operand, so its distance in bytes is four times
-// that.
-inline Value& valueAt(Value* const* places, unsigned o) noexcept {
-    return *reinterpret_cast<Value*>(reinterpret_cast<char*>(places[o & 3]) +
-                                     std::size_t{o & 0xfffcU} * (sizeof(Value) / 4));
+// that; what the low two bits add by it is taken off the start of each place beforehand.
+inline Value& valueAt(char* const* places, unsigned o) noexcept {
+    return *reinterpret_cast<Value*>(places[o & 3] + std::size_t{o} * (sizeof(Value) / 4));
+}
+inline char* startOf(Place place, const Value* first) noexcept {
+    return reinterpret_cast<char*>(const_cast<Value*>(first)) - static_cast<std::size_t>(place) * (sizeof(Value) / 4);
 }
 
 // The same for an operand that is known to be a register of the frame.
 inline Value& registerAt(Value* base, unsigned o) noexcept {
     return *reinterpret_cast<Value*>(reinterpret_cast<char*>(base) + std::size_t{o} * (sizeof(Value) / 4));
+}
+
+// The part of an instruction that starts at a bit, which is one of a byte. Where the lowest byte comes first in memory
+// one load gets it: shorter than to hold the instruction and to cut the part out.
+template <class Part>
+inline Part partAt(const Instruction* instruction, unsigned bit) noexcept {
+    if constexpr (std::endian::native == std::endian::little) {
+        Part part;
+        std::memcpy(&part, reinterpret_cast<const char*>(instruction) + bit / 8, sizeof part);
+        return part;
+    } else {
+        return static_cast<Part>(*instruction >> bit);
+    }
 }
 
 } // namespace
@@ -52,41 +69,52 @@ void Vm::dispatch(std::size_t floor) {
     };
 
     Frame* frame = &top();
-    IN_REGISTER(const Instruction* pc, "rbx") = frame->pc;
-    IN_REGISTER(Instruction i, "r15") = 0;
+    const Instruction* pc = frame->pc - 1;
+    const void* const* table = labels;
+    KEEP(table);
     const Builtin* const intrinsics = m_library.builtins.data();
     Value* base = frame->base;
-    Value* places[4] = {base, m_globals.values(), const_cast<Value*>(frame->procedure->constants.data()),
-                        frame->fields};
+    char* places[4] = {startOf(Place::Frame, base), startOf(Place::Global, m_globals.values()),
+                       startOf(Place::Constant, frame->procedure->constants.data()),
+                       startOf(Place::Field, frame->fields)};
 
 // No object with a destructor may be alive here: a computed jump does not run it.
-#define NEXT                                                                                                           \
-    i = *pc++;                                                                                                         \
-    goto* labels[i & 0xff]
-#define A static_cast<Operand>(i >> 8)
-#define B static_cast<Operand>(i >> 24)
-#define C static_cast<Operand>(i >> 40)
-#define X static_cast<unsigned>(i >> 56)
-#define J (static_cast<std::int64_t>(i) >> 40)
+#define NEXT goto* table[partAt<std::uint8_t>(++pc, 0)]
+// The instruction at work and its parts.
+#define I *pc
+#define A partAt<Operand>(pc, 8)
+#define B partAt<Operand>(pc, 24)
+#define C partAt<Operand>(pc, 40)
+#define X                                                                                                              \
+    unsigned {                                                                                                         \
+        partAt<std::uint8_t>(pc, 56)                                                                                   \
+    }
+#define J                                                                                                              \
+    std::int64_t {                                                                                                     \
+        partAt<std::int32_t>(pc, 32) >> 8                                                                              \
+    }
 #define R(o) valueAt(places, o)
 #define L(o) registerAt(base, o)
 // The number of a small form, and the jump of one that jumps.
-#define SMALL static_cast<std::int8_t>(i >> 56)
-#define SMALL_BESIDE_JUMP static_cast<std::int8_t>(i >> 40)
-#define SHORT_JUMP (static_cast<std::int64_t>(i) >> 48)
+#define SMALL partAt<std::int8_t>(pc, 56)
+#define SMALL_BESIDE_JUMP partAt<std::int8_t>(pc, 40)
+#define SHORT_JUMP                                                                                                     \
+    std::int64_t {                                                                                                     \
+        partAt<std::int16_t>(pc, 48)                                                                                   \
+    }
 #define TEMPORARY(o) (((o)&3) == 0 && ((o) >> 2) >= frame->procedure->firstTemporary)
 // An instruction is done with a text or with an object that has other owners: it goes from a temporary.
 #define USED_UP(o)                                                                                                     \
     if (TEMPORARY(o)) {                                                                                                \
         R(o).clear();                                                                                                  \
     }
-#define SAVE frame->pc = pc
+#define SAVE frame->pc = pc + 1
 #define ENTER                                                                                                          \
-    pc = frame->pc;                                                                                                    \
+    pc = frame->pc - 1;                                                                                                \
     base = frame->base;                                                                                                \
-    places[0] = base;                                                                                                  \
-    places[2] = const_cast<Value*>(frame->procedure->constants.data());                                                \
-    places[3] = frame->fields
+    places[0] = startOf(Place::Frame, base);                                                                           \
+    places[2] = startOf(Place::Constant, frame->procedure->constants.data());                                          \
+    places[3] = startOf(Place::Field, frame->fields)
 #define LOAD                                                                                                           \
     BURY;                                                                                                              \
     frame = &m_frames[m_depth - 1];                                                                                    \
@@ -184,7 +212,7 @@ labelClear:
         if ((isReference(x) || isReference(y)) && lookThrough<road>(a, x, y)) {                                        \
             NEXT;                                                                                                      \
         }                                                                                                              \
-        SLOW(binary(i));                                                                                               \
+        SLOW(binary(I));                                                                                               \
     }
 #define BINARY_FORMS(name, road)                                                                                       \
     BINARY(label##name, road, R(A), R(B), R(C))                                                                        \
@@ -198,7 +226,7 @@ labelClear:
         if (isReference(L(B)) && lookThrough<road>(L(A), L(B), SMALL)) {                                               \
             NEXT;                                                                                                      \
         }                                                                                                              \
-        SLOW(binary(i));                                                                                               \
+        SLOW(binary(I));                                                                                               \
     }
 
 // The same where the result goes back into the first operand.
@@ -210,7 +238,7 @@ labelClear:
         if (isReference(L(A)) && lookThrough<arithmeticSmall<Opcode::name>>(L(A), L(A), SMALL)) {                      \
             NEXT;                                                                                                      \
         }                                                                                                              \
-        SLOW(binary(i));                                                                                               \
+        SLOW(binary(I));                                                                                               \
     }
 
     BINARY_FORMS(Add, arithmetic<Opcode::Add>)
@@ -232,12 +260,12 @@ labelClear:
     BINARY_SELF(Subtract, arithmeticSelf<Opcode::Subtract>)
 
 labelConcatenate:
-    SLOW(concatenateInto(i));
+    SLOW(concatenateInto(I));
 
 labelPower:
 labelEqv:
 labelImp:
-    SLOW(binary(i));
+    SLOW(binary(I));
 
 labelIs : {
     const Value& b = R(B).deref();
@@ -250,7 +278,7 @@ labelIs : {
         BURY;
         NEXT;
     }
-    SLOW(binary(i));
+    SLOW(binary(I));
 }
 
 #define COMPARE(label, op, a, b, c)                                                                                    \
@@ -270,7 +298,7 @@ labelIs : {
         if ((isReference(x) || isReference(y)) && lookThrough<relation<op>>(a, x, y)) {                                \
             NEXT;                                                                                                      \
         }                                                                                                              \
-        SLOW(binary(i));                                                                                               \
+        SLOW(binary(I));                                                                                               \
     }
 #define COMPARE_FORMS(name)                                                                                            \
     COMPARE(label##name, Opcode::name, R(A), R(B), R(C))                                                               \
@@ -292,7 +320,7 @@ labelNegate : {
         putDouble(R(A), -b.d);
         NEXT;
     }
-    SLOW(unary(i));
+    SLOW(unary(I));
 }
 
 labelNot : {
@@ -301,14 +329,14 @@ labelNot : {
         put(R(A), Type::Boolean, ~b.n);
         NEXT;
     }
-    SLOW(unary(i));
+    SLOW(unary(I));
 }
 
 labelJoin:
-    SLOW(join(i, false));
+    SLOW(join(I, false));
 
 labelAppend:
-    SLOW(join(i, true));
+    SLOW(join(I, true));
 
 labelJump:
     pc += J;
@@ -507,7 +535,7 @@ labelForPrepare : {
     FOR_NEXT(labelForNextLocal, L(A), L(B))
 
 labelEachPrepare:
-    SLOW(eachPrepare(i));
+    SLOW(eachPrepare(I));
 
 labelEachNext : {
     SAVE;
@@ -524,60 +552,64 @@ labelEachNext : {
         if (element(a, b, c, static_cast<Store>(X >> 6))) [[likely]] {                                                 \
             NEXT;                                                                                                      \
         }                                                                                                              \
-        SLOW(index(i));                                                                                                \
+        SLOW(index(I));                                                                                                \
     }
     ELEMENT(labelIndex, R(A), R(B), R(C))
     ELEMENT(labelIndexLocal, L(A), L(B), L(C))
 
 #define ELEMENT_2(label, a, b, c, d)                                                                                   \
     label : {                                                                                                          \
-        const auto second = static_cast<Operand>(*pc++);                                                               \
+        const auto second = static_cast<Operand>(pc[1]);                                                               \
         if (element2(a, b, c, d)) [[likely]] {                                                                         \
+            ++pc;                                                                                                      \
             NEXT;                                                                                                      \
         }                                                                                                              \
-        SLOW(index2(i, second));                                                                                       \
+        ++pc;                                                                                                          \
+        SLOW(index2(pc[-1], second));                                                                                  \
     }
     ELEMENT_2(labelIndex2, R(A), R(B), R(C), R(second))
     ELEMENT_2(labelIndex2Local, L(A), L(B), L(C), L(second))
 
 labelIndexN:
-    SLOW(indexN(i));
+    SLOW(indexN(I));
 
 #define STORE_ELEMENT(label, a, b, c)                                                                                  \
     label : {                                                                                                          \
         if ((X >> 6) == static_cast<unsigned>(Store::Let) && storeElement(a, b, c)) [[likely]] {                       \
             NEXT;                                                                                                      \
         }                                                                                                              \
-        SLOW(storeIndex(i));                                                                                           \
+        SLOW(storeIndex(I));                                                                                           \
     }
     STORE_ELEMENT(labelSetIndex, R(A), R(B), R(C))
     STORE_ELEMENT(labelSetIndexLocal, L(A), L(B), L(C))
 
 #define STORE_ELEMENT_2(label, a, b, c, d)                                                                             \
     label : {                                                                                                          \
-        const auto from = static_cast<Operand>(*pc++);                                                                 \
+        const auto from = static_cast<Operand>(pc[1]);                                                                 \
         if ((X >> 6) == static_cast<unsigned>(Store::Let) && storeElement2(a, b, c, d)) [[likely]] {                   \
+            ++pc;                                                                                                      \
             NEXT;                                                                                                      \
         }                                                                                                              \
-        SLOW(storeIndex2(i, from));                                                                                    \
+        ++pc;                                                                                                          \
+        SLOW(storeIndex2(pc[-1], from));                                                                               \
     }
     STORE_ELEMENT_2(labelSetIndex2, R(A), R(B), R(C), R(from))
     STORE_ELEMENT_2(labelSetIndex2Local, L(A), L(B), L(C), L(from))
 
 labelSetIndexN:
-    SLOW(storeIndexN(i));
+    SLOW(storeIndexN(I));
 
 labelSetDeep : {
-    const auto shape = static_cast<std::size_t>(*pc++);
-    SLOW(storeDeep(i, shape));
+    ++pc;
+    SLOW(storeDeep(pc[-1], static_cast<std::size_t>(*pc)));
 }
 
 labelWide : {
     const auto count = static_cast<std::size_t>(J);
-    i = *pc++;
-    const Operand first = hasSecondWord(static_cast<Opcode>(i & 0xff)) ? static_cast<Operand>(*pc++) : Operand{0};
+    const Instruction call = *++pc;
+    const Operand first = hasSecondWord(static_cast<Opcode>(call & 0xff)) ? static_cast<Operand>(*++pc) : Operand{0};
     SAVE;
-    callWide(i, first, count);
+    callWide(call, first, count);
     LOAD;
     NEXT;
 }
@@ -595,7 +627,7 @@ labelCall : {
         ENTER;
         NEXT;
     }
-    callOther(i, X & 63);
+    callOther(I, X & 63);
     LOAD;
     NEXT;
 }
@@ -614,7 +646,7 @@ labelCallIntrinsic1 : {
     if (isPlain(argument)) [[likely]] {
         SLOW(runIntrinsic(intrinsics[C], argument, R(A), static_cast<Store>(X >> 6)));
     }
-    SLOW(callIntrinsic1(i));
+    SLOW(callIntrinsic1(I));
 }
 
 labelCallIntrinsic:
@@ -644,7 +676,7 @@ labelCallIntrinsic:
             }                                                                                                          \
         }                                                                                                              \
         SAVE;                                                                                                          \
-        getMember(i);                                                                                                  \
+        getMember(I);                                                                                                  \
         LOAD;                                                                                                          \
         NEXT;                                                                                                          \
     }
@@ -652,8 +684,8 @@ labelCallIntrinsic:
     GET_MEMBER(labelGetMemberLocal, L(A), L(B))
 
 labelCallMember : {
-    const auto first = static_cast<Operand>(*pc++);
-    SAVE;
+    const auto first = static_cast<Operand>(pc[1]);
+    frame->pc = pc + 2;
     if (--m_budget < 0) [[unlikely]] {
         pollSlow();
     }
@@ -670,16 +702,18 @@ labelCallMember : {
         }
         if (target->role == Object::Role::Native && store != Store::Set) {
             if (ranShort(site, *target, {&R(first), X & 63}, R(A), store)) {
+                ++pc;
                 NEXT;
             }
             if ((B & 3) != static_cast<unsigned>(Place::Frame) && !target->takesReferences) {
                 runNative(*target, site.member, {&R(first), X & 63}, R(A), store);
                 BURY;
+                ++pc;
                 NEXT;
             }
         }
     }
-    callMember(i, first, X & 63);
+    callMember(I, first, X & 63);
     LOAD;
     NEXT;
 }
@@ -704,7 +738,7 @@ labelCallMember : {
             }                                                                                                          \
         }                                                                                                              \
         SAVE;                                                                                                          \
-        setMember(i);                                                                                                  \
+        setMember(I);                                                                                                  \
         LOAD;                                                                                                          \
         NEXT;                                                                                                          \
     }
@@ -713,13 +747,13 @@ labelCallMember : {
 
 labelSetMemberN:
     SAVE;
-    setMemberN(i);
+    setMemberN(I);
     LOAD;
     NEXT;
 
 labelGetName:
     SAVE;
-    getName(i);
+    getName(I);
     LOAD;
     NEXT;
 
@@ -731,34 +765,34 @@ labelCheckDefined:
     NEXT;
 
 labelFindName:
-    SLOW(findName(i));
+    SLOW(findName(I));
 
 labelNew:
-    SLOW(makeNew(i));
+    SLOW(makeNew(I));
 
 labelNewNamed:
-    SLOW(makeNamed(i));
+    SLOW(makeNamed(I));
 
 labelMe:
-    SLOW(makeMe(i));
+    SLOW(makeMe(I));
 
 labelReDim:
-    SLOW(redim(i, false));
+    SLOW(redim(I, false));
 
 labelReDimPreserve:
-    SLOW(redim(i, true));
+    SLOW(redim(I, true));
 
 labelErase:
     SLOW(erase(A));
 
 labelMakeArray:
-    SLOW(makeArray(i));
+    SLOW(makeArray(I));
 
 labelExecute:
-    SLOW(executeText(i));
+    SLOW(executeText(I));
 
 labelGetRef:
-    SLOW(getRef(i));
+    SLOW(getRef(I));
 
 labelOnError:
     SLOW(onError(A != 0));
@@ -769,7 +803,7 @@ labelClearError:
 
 labelRaise:
     SAVE;
-    raiseCompiled(i);
+    raiseCompiled(I);
 
 labelReturn : {
     const Procedure& procedure = *frame->procedure;
