@@ -32,7 +32,7 @@ Value* mapStack(std::size_t registers) {
 Vm::Vm(Host& theHost, const Library& library)
     : Context(theHost), m_library(library), m_compiler(m_symbols, m_globals, library),
       m_stack(mapStack(stackSize + stackSlack)), m_stackEnd(m_stack + stackSize),
-      m_frames(std::make_unique<Frame[]>(maxFrames)) {
+      m_frames(std::make_unique_for_overwrite<Frame[]>(maxFrames)) {
     defineBuiltins();
 }
 

@@ -252,7 +252,11 @@ private:
     std::list<Refused> m_refused;
 
     std::list<Unit*> m_recent; // most recently used first
-    std::unordered_map<std::u16string_view, std::list<Unit*>::iterator> m_cache;
+    struct SameText {
+        bool operator()(std::u16string_view a, std::u16string_view b) const noexcept { return sameUnits(a, b); }
+    };
+    std::unordered_map<std::u16string_view, std::list<Unit*>::iterator, std::hash<std::u16string_view>, SameText>
+        m_cache;
     bool m_cacheStale = false;
     std::uint32_t m_pass = 0; // counts the texts that the host runs; what they run in turn belongs to them
     std::unordered_set<Symbol> m_assumedLocal;

@@ -3,7 +3,7 @@
 
 // One indirect jump an instruction, each with a prediction of its own: these two passes would merge them.
 #if defined(__GNUC__) && !defined(__clang__)
-#pragma GCC optimize("no-gcse", "no-crossjumping")
+#pragma GCC optimize("no-gcse", "no-crossjumping", "no-tree-pre")
 #endif
 
 #include "platform/vbscript/run/Instance.h"
@@ -133,12 +133,19 @@ void Vm::dispatch(std::size_t floor) {
     {                                                                                                                  \
         const std::int64_t jump = by;                                                                                  \
         pc += jump;                                                                                                    \
-        if (jump < 0 && --m_budget < 0) [[unlikely]] {                                                                 \
+        if (jump < 0 && m_budget-- <= 0) [[unlikely]] {                                                                \
             SAVE;                                                                                                      \
             pollSlow();                                                                                                \
         }                                                                                                              \
     }
 #define TAKE_JUMP GO(J)
+// The same where the jump is sure to lead back.
+#define GO_BACK(by)                                                                                                    \
+    pc += by;                                                                                                          \
+    if (m_budget-- <= 0) [[unlikely]] {                                                                                \
+        SAVE;                                                                                                          \
+        pollSlow();                                                                                                    \
+    }
 
     NEXT;
 
@@ -511,7 +518,7 @@ labelForPrepare : {
             BURY;                                                                                                      \
         }                                                                                                              \
         if (runs) [[likely]] {                                                                                         \
-            TAKE_JUMP                                                                                                  \
+            GO_BACK(J)                                                                                                 \
         }                                                                                                              \
         NEXT;                                                                                                          \
     }
@@ -527,7 +534,7 @@ labelForPrepare : {
             BURY;                                                                                                      \
         }                                                                                                              \
         if (runs) [[likely]] {                                                                                         \
-            TAKE_JUMP                                                                                                  \
+            GO_BACK(J)                                                                                                 \
         }                                                                                                              \
         NEXT;                                                                                                          \
     }
@@ -617,7 +624,7 @@ labelWide : {
 labelCall : {
     const Value& callee = R(C);
     SAVE;
-    if (--m_budget < 0) [[unlikely]] {
+    if (m_budget-- <= 0) [[unlikely]] {
         pollSlow();
     }
     if (callee.type == Type::Procedure &&
@@ -634,7 +641,7 @@ labelCall : {
 
 labelCallSelf:
     SAVE;
-    if (--m_budget < 0) [[unlikely]] {
+    if (m_budget-- <= 0) [[unlikely]] {
         pollSlow();
     }
     frame = pushFrame(frame->procedure->selfCalls[C], &R(B), X & 63, frame->me, &R(A), static_cast<Store>(X >> 6));
@@ -686,7 +693,7 @@ labelCallIntrinsic:
 labelCallMember : {
     const auto first = static_cast<Operand>(pc[1]);
     frame->pc = pc + 2;
-    if (--m_budget < 0) [[unlikely]] {
+    if (m_budget-- <= 0) [[unlikely]] {
         pollSlow();
     }
     const Value& object = R(B).deref();

@@ -215,7 +215,7 @@ bool Vm::comparison(Opcode op, Operand a, Operand b) {
     if (x.isString() && y.isString()) {
         const bool equality = op == Opcode::Equal || op == Opcode::NotEqual;
         if (equality) {
-            result = (x.counted == y.counted || x.text() == y.text()) == (op == Opcode::Equal);
+            result = (x.counted == y.counted || sameUnits(x.text(), y.text())) == (op == Opcode::Equal);
         } else {
             const int order = x.text().compare(y.text());
             result = holds(op, order < 0 ? Ordering::Less : order > 0 ? Ordering::Greater : Ordering::Equal);

@@ -71,12 +71,16 @@ inline void putBoolean(Value& to, bool b) noexcept {
     put(to, Type::Boolean, b ? -1 : 0);
 }
 
+// The type of the sum of whole numbers, at least `type`: Long if 16 bits do not hold it. Without a branch, because
+// numbers go to and fro across the border.
+inline Type wholeType(std::uint64_t type, std::int64_t n) noexcept {
+    return static_cast<Type>(type | static_cast<std::uint64_t>(n != static_cast<std::int16_t>(n)));
+}
+
 // The result of whole arithmetic: `type` is Long if an operand was.
 inline void putWhole(Value& to, std::uint64_t type, std::int64_t n) noexcept {
-    if (n == static_cast<std::int16_t>(n)) [[likely]] {
-        put(to, static_cast<Type>(type), n);
-    } else if (n == static_cast<std::int32_t>(n)) {
-        put(to, Type::Long, n);
+    if (n == static_cast<std::int32_t>(n)) [[likely]] {
+        put(to, wholeType(type, n), n);
     } else {
         putDouble(to, static_cast<double>(n));
     }
@@ -201,10 +205,11 @@ template <Opcode op>
 [[gnu::always_inline]] inline bool arithmeticSelf(Value& v, std::int8_t c) noexcept {
     if (v.isWhole()) [[likely]] {
         const std::int64_t n = computed<op>(v.n, std::int64_t{c});
-        if (n == static_cast<std::int16_t>(n)) [[likely]] {
+        if (n == static_cast<std::int32_t>(n)) [[likely]] {
+            v.type = wholeType(static_cast<std::uint64_t>(v.type), n);
             v.n = n;
         } else {
-            putWhole(v, static_cast<std::uint64_t>(v.type), n);
+            putDouble(v, static_cast<double>(n));
         }
         return true;
     }
@@ -267,7 +272,7 @@ inline bool textsHold(const Value& a, const Value& b) noexcept {
     const std::u16string_view x = a.text();
     const std::u16string_view y = b.text();
     if constexpr (op == Opcode::Equal || op == Opcode::NotEqual) {
-        return (a.counted == b.counted || x == y) == (op == Opcode::Equal);
+        return (a.counted == b.counted || sameUnits(x, y)) == (op == Opcode::Equal);
     } else {
         return related<op>(x.size() == 1 && y.size() == 1 ? int{x[0]} - int{y[0]} : x.compare(y), 0);
     }
@@ -368,7 +373,8 @@ template <bool (*road)(Value&, const Value&, std::int8_t) noexcept>
 [[gnu::always_inline]] inline bool countedByOne(Value& variable, const Value& limit) noexcept {
     if (bothWhole(variable, limit) && variable.n < limit.n) [[likely]] {
         const std::int64_t n = ++variable.n;
-        variable.type = static_cast<Type>(static_cast<std::uint64_t>(variable.type) | (n > INT16_MAX ? 1 : 0));
+        variable.type =
+            static_cast<Type>(static_cast<std::uint64_t>(variable.type) | static_cast<std::uint64_t>(n > INT16_MAX));
         return true;
     }
     return false;

@@ -18,12 +18,15 @@ Unit* Vm::unitOf(std::u16string_view text) {
     if (m_cacheStale) {
         forgetCache(nullptr);
     }
+    if (!m_recent.empty() && sameUnits(m_recent.front()->text, text)) { // a pass over an unchanged text
+        return m_recent.front();
+    }
     if (const auto found = m_cache.find(text); found != m_cache.end()) {
         m_recent.splice(m_recent.begin(), m_recent, found->second);
         return m_recent.front();
     }
     for (const Refused& refused : m_refused) {
-        if (refused.text == text) {
+        if (sameUnits(refused.text, text)) {
             throw CompileError(refused.error);
         }
     }

@@ -24,14 +24,6 @@ std::uint32_t folded(std::uint64_t h) noexcept {
     return static_cast<std::uint32_t>(h ^ (h >> 32));
 }
 
-constexpr std::size_t unitsPerWord = sizeof(std::uint64_t) / sizeof(char16_t);
-
-std::uint64_t wordAt(const char16_t* units) noexcept {
-    std::uint64_t word = 0;
-    std::memcpy(&word, units, sizeof word);
-    return word;
-}
-
 // Eight bytes at a time; the last eight may overlap those before them. Fewer than four units make one word.
 std::uint64_t hashOfText(std::u16string_view text) noexcept {
     const std::size_t size = text.size();
@@ -55,22 +47,6 @@ std::uint64_t hashIgnoringCase(std::u16string_view text) noexcept {
         h = mixed(h, toLower(c));
     }
     return h;
-}
-
-bool sameUnits(std::u16string_view a, std::u16string_view b) noexcept {
-    const std::size_t size = a.size();
-    if (size != b.size()) {
-        return false;
-    }
-    if (size < unitsPerWord) {
-        return std::equal(a.begin(), a.end(), b.begin());
-    }
-    for (std::size_t i = 0; i + unitsPerWord < size; i += unitsPerWord) {
-        if (wordAt(a.data() + i) != wordAt(b.data() + i)) {
-            return false;
-        }
-    }
-    return wordAt(a.data() + size - unitsPerWord) == wordAt(b.data() + size - unitsPerWord);
 }
 
 bool isNumber(const Value& v) noexcept {

@@ -8,6 +8,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <span>
 #include <string>
 #include <string_view>
@@ -31,6 +32,40 @@ struct StringBlock : Counted {
     static StringBlock* allocate(std::size_t capacity); // length 0, one reference; raises error 7
     static void destroy(StringBlock* block) noexcept;
 };
+
+inline constexpr std::size_t unitsPerWord = sizeof(std::uint64_t) / sizeof(char16_t);
+
+inline std::uint64_t wordAt(const char16_t* units) noexcept {
+    std::uint64_t word = 0;
+    std::memcpy(&word, units, sizeof word);
+    return word;
+}
+
+// Whether two texts are the same, code unit by code unit. The standard library's comparison goes one unit at a time.
+// Here four make a word, the last word may overlap the one before it, and what is long goes to memcmp.
+inline bool sameUnits(std::u16string_view a, std::u16string_view b) noexcept {
+    const std::size_t size = a.size();
+    if (size != b.size()) {
+        return false;
+    }
+    if (size < unitsPerWord) {
+        for (std::size_t i = 0; i < size; ++i) {
+            if (a[i] != b[i]) {
+                return false;
+            }
+        }
+        return true;
+    }
+    if (size > 8 * unitsPerWord) {
+        return std::memcmp(a.data(), b.data(), size * sizeof(char16_t)) == 0;
+    }
+    for (std::size_t i = 0; i + unitsPerWord < size; i += unitsPerWord) {
+        if (wordAt(a.data() + i) != wordAt(b.data() + i)) {
+            return false;
+        }
+    }
+    return wordAt(a.data() + size - unitsPerWord) == wordAt(b.data() + size - unitsPerWord);
+}
 
 class String {
 public:
@@ -65,7 +100,7 @@ public:
     void append(std::u16string_view tail); // `tail` may be a part of this text
     void truncate(std::size_t length);     // to at most its present length
 
-    bool operator==(const String& other) const noexcept { return view() == other.view(); }
+    bool operator==(const String& other) const noexcept { return sameUnits(view(), other.view()); }
 
     // A text is also a row of bytes, two a code unit, the lower one first. One made by ChrB or cut by LeftB may have an
     // odd number: the last byte is then no part of the text, but stays with it until the text is changed, and joining
