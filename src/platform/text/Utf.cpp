@@ -1,7 +1,9 @@
 #include "platform/text/Utf.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
+#include <cstring>
 
 namespace text {
 
@@ -34,6 +36,22 @@ void append(std::u16string& units, char32_t code) {
         units.push_back(static_cast<char16_t>(0xD800 + ((code - 0x10000) >> 10)));
         units.push_back(static_cast<char16_t>(0xDC00 + ((code - 0x10000) & 0x3FF)));
     }
+}
+
+// How many bytes at the front are ASCII, looked at eight at a time.
+std::size_t asciiAtFront(std::string_view bytes) noexcept {
+    constexpr std::uint64_t highBits = 0x8080808080808080;
+    std::size_t count = 0;
+    for (std::uint64_t word = 0; count + sizeof word <= bytes.size(); count += sizeof word) {
+        std::memcpy(&word, bytes.data() + count, sizeof word);
+        if ((word & highBits) != 0) {
+            break;
+        }
+    }
+    while (count < bytes.size() && static_cast<std::uint8_t>(bytes[count]) < 0x80) {
+        ++count;
+    }
+    return count;
 }
 
 bool isHighSurrogate(char32_t code) noexcept {
@@ -71,7 +89,7 @@ Utf8Character firstCharacter(std::string_view bytes) noexcept {
 }
 
 bool isUtf8(std::string_view bytes) noexcept {
-    while (!bytes.empty()) {
+    for (bytes.remove_prefix(asciiAtFront(bytes)); !bytes.empty(); bytes.remove_prefix(asciiAtFront(bytes))) {
         const Utf8Character character = firstCharacter(bytes);
         if (character.length == 0) {
             return false;
@@ -84,12 +102,19 @@ bool isUtf8(std::string_view bytes) noexcept {
 std::u16string toUtf16(std::string_view utf8) {
     std::u16string units;
     units.reserve(utf8.size());
-    while (!utf8.empty()) {
+    while (true) {
+        const std::string_view ascii = utf8.substr(0, asciiAtFront(utf8));
+        units.resize(units.size() + ascii.size());
+        std::transform(ascii.begin(), ascii.end(), units.end() - static_cast<std::ptrdiff_t>(ascii.size()),
+                       [](char c) { return static_cast<char16_t>(c); });
+        utf8.remove_prefix(ascii.size());
+        if (utf8.empty()) {
+            return units;
+        }
         const Utf8Character character = firstCharacter(utf8);
         append(units, character.length > 0 ? character.code : replacement);
         utf8.remove_prefix(character.length > 0 ? character.length : 1);
     }
-    return units;
 }
 
 std::string toUtf8(std::u16string_view utf16) {

@@ -1,26 +1,48 @@
 #include "platform/vbscript/syntax/Ast.h"
 
 #include <algorithm>
+#include <array>
 #include <utility>
 
 namespace vbs {
 
 namespace {
 
-std::u16string lowered(std::u16string_view name) {
-    std::u16string low(name);
-    std::transform(low.begin(), low.end(), low.begin(), toLower);
-    return low;
-}
+// A name in small letters, in place if it is not a very long one.
+class Lowered {
+public:
+    explicit Lowered(std::u16string_view name) {
+        char16_t* low = m_short.data();
+        if (name.size() > m_short.size()) {
+            m_long.resize(name.size());
+            low = m_long.data();
+        }
+        std::transform(name.begin(), name.end(), low, toLower);
+        m_view = {low, name.size()};
+    }
+    Lowered(const Lowered&) = delete;
+    Lowered& operator=(const Lowered&) = delete;
+    std::u16string_view view() const noexcept { return m_view; }
+
+private:
+    std::array<char16_t, 64> m_short;
+    std::u16string m_long;
+    std::u16string_view m_view;
+};
 
 } // namespace
 
 Symbol SymbolTable::intern(std::u16string_view name) {
-    if (m_free == noSymbol) {
-        m_info.emplace_back();
-        m_info.back().nextFree = std::exchange(m_free, static_cast<Symbol>(m_info.size() - 1));
+    const Lowered low(name);
+    auto entry = m_index.find(low.view());
+    const bool added = entry == m_index.end();
+    if (added) {
+        if (m_free == noSymbol) {
+            m_info.emplace_back();
+            m_info.back().nextFree = std::exchange(m_free, static_cast<Symbol>(m_info.size() - 1));
+        }
+        entry = m_index.emplace(low.view(), m_free).first;
     }
-    const auto [entry, added] = m_index.try_emplace(lowered(name), m_free);
     Info& info = m_info[entry->second];
     if (added) {
         m_free = info.nextFree;
@@ -37,7 +59,7 @@ Symbol SymbolTable::intern(std::u16string_view name) {
 }
 
 Symbol SymbolTable::find(std::u16string_view name) const {
-    const auto found = m_index.find(lowered(name));
+    const auto found = m_index.find(Lowered(name).view());
     return found != m_index.end() ? found->second : noSymbol;
 }
 
@@ -57,7 +79,7 @@ void SymbolTable::release(Symbol s) noexcept {
 
 Expr* Ast::expr(Expr::Kind kind, Position at) {
     charge(sizeof(Expr));
-    Expr& e = m_exprs.emplace_back();
+    Expr& e = m_exprs.add();
     e.kind = kind;
     e.at = at;
     return &e;
@@ -65,7 +87,7 @@ Expr* Ast::expr(Expr::Kind kind, Position at) {
 
 Stmt* Ast::stmt(Stmt::Kind kind, Position at) {
     charge(sizeof(Stmt));
-    Stmt& s = m_stmts.emplace_back();
+    Stmt& s = m_stmts.add();
     s.kind = kind;
     s.at = at;
     return &s;

@@ -5,6 +5,7 @@
 #include "platform/vbscript/value/Memory.h"
 #include "platform/vbscript/value/Value.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <deque>
 #include <memory>
@@ -47,7 +48,19 @@ private:
         Symbol nextFree = noSymbol;
     };
 
-    std::unordered_map<std::u16string, Symbol> m_index;
+    // Not noexcept, so that the table remembers the hashes.
+    struct Hash : std::hash<std::u16string_view> {
+        using is_transparent = void;
+        std::size_t operator()(std::u16string_view name) const {
+            return std::hash<std::u16string_view>::operator()(name);
+        }
+    };
+    struct Same {
+        using is_transparent = void;
+        bool operator()(std::u16string_view a, std::u16string_view b) const noexcept { return sameUnits(a, b); }
+    };
+
+    std::unordered_map<std::u16string, Symbol, Hash, Same> m_index; // by the name in small letters
     std::vector<Info> m_info;
     Symbol m_free = noSymbol;
     std::vector<Symbol>* m_notes = nullptr;
@@ -236,6 +249,22 @@ struct ClassDecl {
     bool hasDefault = false;
 };
 
+// Nodes that stay where they are, side by side: few rows for a short text, long ones for a long text.
+template <class Node>
+class Nodes {
+public:
+    Node& add() {
+        if (m_rows.empty() || m_rows.back().size() == m_rows.back().capacity()) {
+            const std::size_t length = m_rows.empty() ? 4 : std::min<std::size_t>(2 * m_rows.back().size(), 512);
+            m_rows.emplace_back().reserve(length);
+        }
+        return m_rows.back().emplace_back();
+    }
+
+private:
+    std::vector<std::vector<Node>> m_rows; // none grows beyond what is reserved
+};
+
 // One parsed text.
 struct Ast {
     Ast() = default;
@@ -261,8 +290,8 @@ private:
     }
 
     std::size_t m_charged = 0;
-    std::deque<Expr> m_exprs;
-    std::deque<Stmt> m_stmts;
+    Nodes<Expr> m_exprs;
+    Nodes<Stmt> m_stmts;
     std::deque<ProcedureDecl> m_procedures;
     std::deque<ClassDecl> m_classes;
 };

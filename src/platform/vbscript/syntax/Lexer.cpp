@@ -11,7 +11,7 @@ namespace {
 constexpr std::size_t longestName = 255;
 
 bool isBlank(char16_t c) noexcept {
-    return c == u' ' || c == u'\t' || c == u'\v' || c == u'\f' || c == 0xA0 || c == 0xFEFF;
+    return c <= u' ' ? c == u' ' || c == u'\t' || c == u'\v' || c == u'\f' : c == 0xA0 || c == 0xFEFF;
 }
 
 bool isLineEnd(char16_t c) noexcept {
@@ -21,8 +21,8 @@ bool isLineEnd(char16_t c) noexcept {
 } // namespace
 
 bool isNameStart(char16_t c) noexcept {
-    return (c >= u'a' && c <= u'z') || (c >= u'A' && c <= u'Z') || (c >= 0x80 && toLower(c) != toUpper(c)) ||
-           c == 0xAA || c == 0xBA || c == 0xDF;
+    return c < 0x80 ? (c | 0x20U) >= u'a' && (c | 0x20U) <= u'z'
+                    : toLower(c) != toUpper(c) || c == 0xAA || c == 0xBA || c == 0xDF;
 }
 
 bool isNamePart(char16_t c) noexcept {

@@ -39,8 +39,17 @@ void Lexer::scanDecimal(Token& token) {
         }
     }
     const std::u16string_view written = m_text.substr(start, m_position - start);
-    const double number = text::readPlainNumber(std::string(written.begin(), written.end()));
     token.kind = Token::Kind::Number;
+    constexpr std::size_t shortNumber = 9; // digits that any Long has room for
+    if (whole && written.size() <= shortNumber) {
+        std::int64_t n = 0;
+        for (const char16_t digit : written) {
+            n = n * 10 + (digit - u'0');
+        }
+        token.value = Value::ofWhole(n);
+        return;
+    }
+    const double number = text::readPlainNumber(std::string(written.begin(), written.end()));
     token.value =
         whole && number <= 2147483647.0 ? Value::ofWhole(static_cast<std::int64_t>(number)) : Value::ofDouble(number);
     if (std::isinf(number)) {

@@ -86,6 +86,22 @@ constexpr auto folded = [] {
     return names;
 }();
 
+// The words with each first letter, and how long they are: what most names are refused by.
+struct Initial {
+    std::size_t first = 0;
+    std::size_t count = 0;
+    std::uint32_t lengths = 0; // a bit each
+};
+constexpr auto initials = [] {
+    std::array<Initial, 26> letters{};
+    for (std::size_t i = 0; i < folded.size(); ++i) {
+        Initial& letter = letters[static_cast<std::size_t>(folded[i][0] - u'a')];
+        letter.first = letter.count++ == 0 ? i : letter.first;
+        letter.lengths |= 1U << words[i].name.size();
+    }
+    return letters;
+}();
+
 } // namespace
 
 std::span<const WordEntry> reservedWords() noexcept {
@@ -93,13 +109,22 @@ std::span<const WordEntry> reservedWords() noexcept {
 }
 
 Word wordOf(std::u16string_view name) noexcept {
-    if (name.size() > longestWord) {
+    if (name.empty() || name.size() > longestWord) {
+        return Word::None;
+    }
+    const char16_t letter = toLower(name[0]);
+    if (letter < u'a' || letter > u'z') {
+        return Word::None;
+    }
+    const Initial& initial = initials[static_cast<std::size_t>(letter - u'a')];
+    if ((initial.lengths >> name.size() & 1U) == 0) {
         return Word::None;
     }
     Folded low{};
     std::transform(name.begin(), name.end(), low.begin(), toLower);
-    const auto* found = std::lower_bound(folded.begin(), folded.end(), low);
-    return found != folded.end() && *found == low ? words[found - folded.begin()].word : Word::None;
+    const auto* const end = folded.begin() + initial.first + initial.count;
+    const auto* found = std::find(folded.begin() + initial.first, end, low);
+    return found != end ? words[found - folded.begin()].word : Word::None;
 }
 
 } // namespace vbs
