@@ -49,11 +49,46 @@ void ScriptControl::globals(const std::function<void(std::u16string_view, const 
 }
 
 bool ScriptControl::addCode(std::string_view utf8) {
-    return addCode(std::u16string_view(text::toUtf16(utf8)));
+    return guarded([&] { return run(text::toUtf16(utf8)); });
+}
+
+bool ScriptControl::addCode(std::u16string_view text) {
+    return guarded([&] { return run(text); });
 }
 
 bool ScriptControl::check(std::string_view utf8) {
-    return check(std::u16string_view(text::toUtf16(utf8)));
+    return guarded([&] { return compile(text::toUtf16(utf8)); });
+}
+
+bool ScriptControl::check(std::u16string_view text) {
+    return guarded([&] { return compile(text); });
+}
+
+// Memory may run out while a failure is being described as well; nothing of that reaches the host.
+template <class Work>
+bool ScriptControl::guarded(Work work) {
+    try {
+        return work();
+    } catch (const ScriptError&) { // a text has found no room
+        return failForMemory();
+    } catch (const std::bad_alloc&) {
+        return failForMemory();
+    }
+}
+
+// What must do where not even the text of an error finds room.
+bool ScriptControl::failForMemory() noexcept {
+    m_failure.number = static_cast<std::int32_t>(ErrorNumber::OutOfMemory);
+    m_failure.description.clear();
+    m_failure.source.clear();
+    m_failure.lineText.clear();
+    m_failure.line = m_failure.column = 0;
+    try {
+        m_failure.description = errorText(m_failure.number).view();
+    } catch (...) { // the number must do
+        m_failure.description.clear();
+    }
+    return false;
 }
 
 // Starts from nothing: a text that ran inside this one (a host object let it in) may have left its own failure.
@@ -76,7 +111,7 @@ bool ScriptControl::fail(std::int32_t number, std::u16string_view text, std::uin
     return false;
 }
 
-bool ScriptControl::addCode(std::u16string_view text) {
+bool ScriptControl::run(std::u16string_view text) {
     m_failure = {};
     if (m_vm->idle()) {
         m_vm->stopRequested = 0; // meant for an earlier text that had ended by then
@@ -94,11 +129,11 @@ bool ScriptControl::addCode(std::u16string_view text) {
         described.source = failure.source.view();
         return fail(failure.number, text, failure.line, failure.column, std::move(described));
     } catch (const std::bad_alloc&) {
-        return fail(static_cast<std::int32_t>(ErrorNumber::OutOfMemory), text, 0, 0);
+        return failForMemory();
     }
 }
 
-bool ScriptControl::check(std::u16string_view text) {
+bool ScriptControl::compile(std::u16string_view text) {
     m_failure = {};
     const MemoryCeiling ceiling(m_ceiling);
     try {
@@ -109,7 +144,7 @@ bool ScriptControl::check(std::u16string_view text) {
     } catch (const ScriptError& failure) {
         return fail(failure.number, text, 0, 0);
     } catch (const std::bad_alloc&) {
-        return fail(static_cast<std::int32_t>(ErrorNumber::OutOfMemory), text, 0, 0);
+        return failForMemory();
     }
 }
 

@@ -83,6 +83,11 @@ private:
     struct Added;
     bool fail(std::int32_t number, std::u16string_view text, std::uint32_t line, std::uint32_t column,
               ScriptFailure described = {});
+    bool failForMemory() noexcept;
+    bool run(std::u16string_view text);
+    bool compile(std::u16string_view text);
+    template <class Work>
+    bool guarded(Work work);
 
     Host& m_host;
     std::unique_ptr<Vm> m_vm;
