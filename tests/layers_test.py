@@ -142,6 +142,8 @@ def violations(tree):
                 found.append(f"{name}: \"{header}\" is not a file of src")
             if not included:
                 continue
+            if tree.room(file) is None and tree.room(included) not in (None, len(ROOMS) - 1):
+                found.append(f"{name}: {header} is inside the engine; its face is what stands in {ENGINE} itself")
             if not may_include(tree.folder(included), tree.folder(file)):
                 found.append(f"{name}: {tree.folder(file)} may not know {header}")
             elif None not in (tree.room(file), tree.room(included)) and tree.room(included) > tree.room(file):
@@ -219,6 +221,11 @@ class Rules(unittest.TestCase):
                     platform__vbscript__syntax__P_dot_h='#include "platform/vbscript/run/V.h"')
         self.expect("stands right of it", platform__vbscript__S_dot_h="",
                     platform__vbscript__run__V_dot_h='#include "platform/vbscript/S.h"')
+
+    def test_the_engine_is_known_by_its_face_alone(self):
+        rooms = {"platform__vbscript__value__V_dot_h": "", "platform__vbscript__S_dot_h": ""}
+        self.assertEqual(self.found(**rooms, bridge__B_dot_cpp='#include "platform/vbscript/S.h"'), [])
+        self.expect("inside the engine", **rooms, bridge__B_dot_cpp='#include "platform/vbscript/value/V.h"')
 
     def test_rooms_of_the_engine_link_only_what_stands_left_of_them(self):
         self.assertEqual(self.found(

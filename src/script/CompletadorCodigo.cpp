@@ -1,7 +1,6 @@
 #include "script/CompletadorCodigo.h"
 
-#include "platform/vbscript/syntax/Lexer.h"
-#include "platform/vbscript/value/String.h"
+#include "platform/vbscript/Language.h"
 #include "script/ResaltadoVBScript.h"
 #include "script/Vocabulario.h"
 

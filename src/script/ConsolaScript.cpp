@@ -1,8 +1,7 @@
 #include "script/ConsolaScript.h"
 
-#include "platform/vbscript/syntax/Lexer.h"
-#include "platform/vbscript/value/Context.h"
-#include "platform/vbscript/value/Convert.h"
+#include "platform/vbscript/Language.h"
+#include "platform/vbscript/Object.h"
 #include "script/ResumenValor.h"
 
 #include <algorithm>

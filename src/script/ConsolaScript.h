@@ -5,7 +5,7 @@
 // Echo never waits and never fails: what has no text is told by its type. The oldest lines give way to new ones.
 #pragma once
 
-#include "platform/vbscript/value/Object.h"
+#include "platform/vbscript/Object.h"
 
 #include <cstddef>
 #include <cstdint>

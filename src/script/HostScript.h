@@ -2,7 +2,7 @@
 // of the user's country.
 #pragma once
 
-#include "platform/vbscript/value/Host.h"
+#include "platform/vbscript/Host.h"
 #include "script/LocaleQt.h"
 
 #include <QPointer>

@@ -1,7 +1,7 @@
 // The host of esclavo-script: boxes that talk on the terminal, and the facts of the user's country.
 #pragma once
 
-#include "platform/vbscript/value/Host.h"
+#include "platform/vbscript/Host.h"
 #include "script/LocaleQt.h"
 
 #include <iosfwd>

@@ -1,6 +1,6 @@
 #include "script/LocaleQt.h"
 
-#include "platform/vbscript/value/LocaleNames.h"
+#include "platform/vbscript/Host.h"
 
 #include <QLocale>
 #include <QRegularExpression>

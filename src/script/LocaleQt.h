@@ -1,7 +1,7 @@
 // The facts of a country for the script engine, from the window system's own data.
 #pragma once
 
-#include "platform/vbscript/value/Locale.h"
+#include "platform/vbscript/Host.h"
 
 #include <map>
 

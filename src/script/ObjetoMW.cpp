@@ -1,6 +1,6 @@
 #include "script/ObjetoMW.h"
 
-#include "platform/vbscript/value/Convert.h"
+#include "platform/vbscript/Object.h"
 #include "registers/ErrorEjecucion.h"
 #include "registers/Esclavos.h"
 #include "registers/Palabra.h"

@@ -7,7 +7,7 @@
 // script errors with their numbers.
 #pragma once
 
-#include "platform/vbscript/value/Object.h"
+#include "platform/vbscript/Object.h"
 
 #include <functional>
 

@@ -1,6 +1,6 @@
 #include "script/ParejasCodigo.h"
 
-#include "platform/vbscript/syntax/Lexer.h"
+#include "platform/vbscript/Language.h"
 
 #include <algorithm>
 

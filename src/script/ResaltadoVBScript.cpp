@@ -1,8 +1,6 @@
 #include "script/ResaltadoVBScript.h"
 
-#include "platform/vbscript/library/Builtins.h"
-#include "platform/vbscript/syntax/Lexer.h"
-#include "platform/vbscript/value/String.h"
+#include "platform/vbscript/Language.h"
 
 #include <QTextDocument>
 

@@ -1,9 +1,7 @@
 #include "script/ResumenValor.h"
 
-#include "platform/vbscript/library/Builtins.h"
-#include "platform/vbscript/library/Dictionary.h"
-#include "platform/vbscript/value/Array.h"
-#include "platform/vbscript/value/Convert.h"
+#include "platform/vbscript/Language.h"
+#include "platform/vbscript/Object.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
 // A script value in a few words, for people: its type and what is in it. Runs nothing of the script.
 #pragma once
 
-#include "platform/vbscript/value/Context.h"
+#include "platform/vbscript/Object.h"
 
 #include <cstddef>
 #include <string>

@@ -1,6 +1,6 @@
 #include "script/TeclasSangria.h"
 
-#include "platform/vbscript/syntax/Lexer.h"
+#include "platform/vbscript/Language.h"
 #include "script/Sangria.h"
 
 #include <QKeyEvent>

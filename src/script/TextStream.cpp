@@ -1,8 +1,7 @@
 #include "script/TextStream.h"
 
 #include "platform/text/Utf.h"
-#include "platform/vbscript/value/Convert.h"
-#include "platform/vbscript/value/Errors.h"
+#include "platform/vbscript/Object.h"
 
 #include <istream>
 #include <iterator>

@@ -2,7 +2,7 @@
 // outside, UTF-16 in the script.
 #pragma once
 
-#include "platform/vbscript/value/Object.h"
+#include "platform/vbscript/Object.h"
 
 #include <iosfwd>
 #include <optional>

@@ -1,7 +1,6 @@
 #include "script/Vocabulario.h"
 
-#include "platform/vbscript/library/Builtins.h"
-#include "platform/vbscript/syntax/Lexer.h"
+#include "platform/vbscript/Language.h"
 #include "platform/window/Controles.h"
 #include "script/OperacionesMW.h"
 

@@ -1,8 +1,7 @@
 #include "script/WScript.h"
 
 #include "platform/text/Utf.h"
-#include "platform/vbscript/value/Context.h"
-#include "platform/vbscript/value/Convert.h"
+#include "platform/vbscript/Object.h"
 
 #include <chrono>
 #include <filesystem>

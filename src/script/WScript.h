@@ -2,7 +2,7 @@
 // standard streams.
 #pragma once
 
-#include "platform/vbscript/value/Object.h"
+#include "platform/vbscript/Object.h"
 #include "script/TextStream.h"
 
 #include <iosfwd>

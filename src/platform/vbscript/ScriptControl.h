@@ -8,8 +8,8 @@
 // defined. Adding the same text again runs it without compiling it again. One engine belongs to one thread.
 #pragma once
 
-#include "platform/vbscript/value/Host.h"
-#include "platform/vbscript/value/Object.h"
+#include "platform/vbscript/Host.h"
+#include "platform/vbscript/Object.h"
 
 #include <chrono>
 #include <cstddef>
