@@ -38,7 +38,7 @@ void watch(const Descriptor& loop, int descriptor) {
     epoll_ctl(loop.number(), EPOLL_CTL_ADD, descriptor, &event);
 }
 
-/// Reads one arrival and answers it; false when the connection has ended.
+// Reads one arrival and answers it; false when the connection has ended.
 bool answer(int connection) {
     static std::array<std::uint8_t, 65536> request;
     static std::array<std::uint8_t, headerSize + 252> reply; // the registers stay 0

@@ -100,7 +100,7 @@ void Masters::takeAnswer(Master& master) {
     master.waiting = false;
 }
 
-/// Takes what comes within that time, and returns how many answers it was.
+// Takes what comes within that time, and returns how many answers it was.
 std::size_t Masters::takeAnswers(int milliseconds) {
     std::array<epoll_event, 256> events;
     const int ready = epoll_wait(epoll_.number(), events.data(), static_cast<int>(events.size()), milliseconds);

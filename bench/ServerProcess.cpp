@@ -25,7 +25,7 @@ void runOnProcessor(std::size_t number) {
     sched_setaffinity(0, sizeof set, &set); // where it is not allowed, the figures are only less steady
 }
 
-/// What every server process does first.
+// What every server process does first.
 void becomeServer() {
     prctl(PR_SET_PDEATHSIG, SIGKILL);
     runOnProcessor(0);

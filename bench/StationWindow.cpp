@@ -30,7 +30,7 @@ std::int64_t residentBytes() {
     return resident * sysconf(_SC_PAGESIZE);
 }
 
-/// Stands for a click or a key: an event that another thread posts, and that notes how long it waited.
+// Stands for a click or a key: an event that another thread posts, and that notes how long it waited.
 class Probe final : public QObject {
 public:
     explicit Probe(QPlainTextEdit* monitor) : monitor_(monitor) {}

@@ -68,7 +68,7 @@ void ask(const Descriptor& epoll, std::size_t index, Master& master) {
     epoll_ctl(epoll.number(), EPOLL_CTL_MOD, master.connection.number(), &event);
 }
 
-/// Returns whether the answer is whole now.
+// Returns whether the answer is whole now.
 bool takeAnswer(const Descriptor& epoll, Master& master) {
     std::array<std::uint8_t, answerSize> answer;
     const ssize_t count = recv(master.connection.number(), answer.data(), answer.size() - master.received, 0);
@@ -81,7 +81,7 @@ bool takeAnswer(const Descriptor& epoll, Master& master) {
     return true;
 }
 
-/// One storm; the 99th percentile of the waits in milliseconds.
+// One storm; the 99th percentile of the waits in milliseconds.
 double storm(const ServerProcess& server) {
     const Descriptor epoll(epoll_create1(EPOLL_CLOEXEC));
     std::vector<Master> masters(mastersCount);
@@ -106,7 +106,7 @@ double storm(const ServerProcess& server) {
     return waits[static_cast<std::size_t>(rank)];
 }
 
-/// The server has seen all masters leave: it uses no more processor time.
+// The server has seen all masters leave: it uses no more processor time.
 void waitUntilIdle(const ServerProcess& server) {
     auto before = server.processorTime();
     for (;;) {

@@ -18,7 +18,7 @@ using namespace std::chrono_literals;
 
 namespace {
 
-/// This process and the station hold a descriptor for every master.
+// This process and the station hold a descriptor for every master.
 bool allowDescriptors(rlim_t wanted) {
     rlimit limit{};
     getrlimit(RLIMIT_NOFILE, &limit);

@@ -39,8 +39,8 @@ constexpr std::size_t largeBlock = 65536;
 constexpr std::size_t smallBlock = 64;
 constexpr int roundTrips = 2000;
 
-/// Relays run on the first processor, the clients on the last: where the scheduler happens to put them would otherwise
-/// change a round trip threefold.
+// Relays run on the first processor, the clients on the last: where the scheduler happens to put them would otherwise
+// change a round trip threefold.
 void runOnProcessor(long number) {
     cpu_set_t set;
     CPU_ZERO(&set);
@@ -99,7 +99,7 @@ void receiveAll(int connection, std::vector<char>& buffer, std::size_t size) {
     }
 }
 
-/// The reference: the least that copying between two sockets takes.
+// The reference: the least that copying between two sockets takes.
 void serveBareLoop(Ports ports) {
     const std::array listeners{listenOn(ports[0]), listenOn(ports[1])};
     const std::array sides{accept(listeners[0], nullptr, nullptr), accept(listeners[1], nullptr, nullptr)};
@@ -117,7 +117,7 @@ void serveBareLoop(Ports ports) {
             }
 }
 
-/// The bridge window in its event loop, as the station runs it.
+// The bridge window in its event loop, as the station runs it.
 void serveBridge(Ports ports, bool display) {
     setenv("QT_QPA_PLATFORM", "offscreen", 1);
     int argc = 1;
@@ -136,7 +136,7 @@ void serveBridge(Ports ports, bool display) {
     QApplication::exec();
 }
 
-/// A relay in a process of its own, and a client on each side.
+// A relay in a process of its own, and a client on each side.
 class Relay {
 public:
     explicit Relay(const std::function<void(Ports)>& serve) : ports_{freePort(), freePort()}, process_(fork()) {
@@ -157,7 +157,7 @@ public:
     Relay(const Relay&) = delete;
     Relay& operator=(const Relay&) = delete;
 
-    /// Seconds that `size` bytes take from side 1 to side 2 in large blocks.
+    // Seconds that `size` bytes take from side 1 to side 2 in large blocks.
     double transfer(std::size_t size) {
         const auto began = Clock::now();
         std::thread sender([&] {
@@ -173,7 +173,7 @@ public:
         return std::chrono::duration<double>(Clock::now() - began).count();
     }
 
-    /// Median seconds of a round trip of a small block, there and back.
+    // Median seconds of a round trip of a small block, there and back.
     double roundTrip() {
         std::vector<double> times;
         std::vector<char> block(smallBlock, 'x');

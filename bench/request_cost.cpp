@@ -18,12 +18,12 @@ using namespace std::chrono_literals;
 
 namespace {
 
-/// A server, the masters that load it, and what its requests have cost.
+// A server, the masters that load it, and what its requests have cost.
 class Side {
 public:
     Side(const ServerProcess& server, std::size_t masters) : server_(server), masters_(server.port(), masters) {}
 
-    /// Runs one slice; returns nanoseconds of the server's processor time a request.
+    // Runs one slice; returns nanoseconds of the server's processor time a request.
     double slice() {
         const auto before = server_.processorTime();
         const std::size_t requests = masters_.run(50ms);

@@ -28,7 +28,7 @@ constexpr std::uint8_t shownUnit = 1; // its page is in front: what a script wri
 constexpr std::uint8_t hiddenUnit = 5;
 constexpr std::uint8_t firstRegister = 100; // of those that the script works on: each grows by one in every pass
 
-/// 100 blocks of ten statements, two of which call the store.
+// 100 blocks of ten statements, two of which call the store.
 std::string scriptText(int unit) {
     std::ostringstream text;
     for (int address = firstRegister; address < firstRegister + 100; ++address) {
@@ -62,7 +62,7 @@ struct Slice {
     double wall;      // time passed, ns
 };
 
-/// One server and its masters; held outside its own slices.
+// One server and its masters; held outside its own slices.
 class Side {
 public:
     explicit Side(const ServerProcess& server) : server_(server), masters_(server.port(), masterCount) { slice(); }
@@ -115,7 +115,7 @@ struct Figures {
     }
 };
 
-/// A station whose script runs every 10 ms.
+// A station whose script runs every 10 ms.
 class ScriptedStation {
 public:
     ScriptedStation(const std::filesystem::path& program, std::uint8_t unit)
@@ -124,7 +124,7 @@ public:
 
     const ServerProcess& server() const { return server_; }
 
-    /// Passes in a second while `work` goes on, and the processor time of each if they are all that it does.
+    // Passes in a second while `work` goes on, and the processor time of each if they are all that it does.
     template <typename Work>
     void countPasses(const char* name, Work work) const {
         const auto began = Clock::now();

@@ -93,7 +93,7 @@ int connectTo(std::uint16_t port) {
     return connection;
 }
 
-/// Reads the last registers of every slave, which makes its page and lets its table grow to 65,536 registers.
+// Reads the last registers of every slave, which makes its page and lets its table grow to 65,536 registers.
 void fullTables() {
     StationReport& report = stationReport();
     const ServerProcess station(serveStation);
@@ -116,7 +116,7 @@ void fullTables() {
                 static_cast<double>(report.residentBytes - before) / bare, seconds);
 }
 
-/// Starts a program without a screen; the caller waits for it.
+// Starts a program without a screen; the caller waits for it.
 pid_t launch(const fs::path& program) {
     const pid_t process = fork();
     if (process == 0) {
@@ -147,7 +147,7 @@ double secondsToListening(const fs::path& program, std::uint16_t port) {
     return seconds;
 }
 
-/// Both are started alike, in turn.
+// Both are started alike, in turn.
 void start(const fs::path& program, const fs::path& bareWindow) {
     const fs::path folder = fs::temp_directory_path() / ("station-start-" + std::to_string(getpid()));
     fs::create_directory(folder);

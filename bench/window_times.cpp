@@ -27,7 +27,7 @@ double median(std::vector<double> values) {
     return values[values.size() / 2];
 }
 
-/// Waits for the first paint of a window of that class name.
+// Waits for the first paint of a window of that class name.
 class FirstPaint final : public QObject {
 public:
     explicit FirstPaint(const char* window) : window_(window) { qApp->installEventFilter(this); }
@@ -49,7 +49,7 @@ void waitFor(const FirstPaint& paint) {
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
 }
 
-/// The station up to its first paint; with `dialogs` it then opens FrmMW and prints the milliseconds each time took.
+// The station up to its first paint; with `dialogs` it then opens FrmMW and prints the milliseconds each time took.
 int station(int argc, char** argv, bool dialogs) {
     QApplication application(argc, argv);
     const auto folder = std::filesystem::temp_directory_path() / ("window-times-" + std::to_string(getpid()));

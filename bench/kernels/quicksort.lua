@@ -20,10 +20,10 @@ local function quicksort(a, lo, hi)
   if i < hi then quicksort(a, i, hi) end
 end
 local values = {}
-local seed = 42
+local last = 42
 for n = 0, 299999 do
-  seed = (seed * 421 + 1663) % 7875
-  values[n] = seed * 100 + n % 100
+  last = (last * 421 + 1663) % 7875
+  values[n] = last * 100 + n % 100
 end
 quicksort(values, 0, 299999)
 for n = 1, 299999 do

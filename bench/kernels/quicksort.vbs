@@ -21,11 +21,11 @@ Sub QuickSort(a, lo, hi)
   If lo < j Then QuickSort a, lo, j
   If i < hi Then QuickSort a, i, hi
 End Sub
-Dim values(299999), n, seed
-seed = 42
+Dim values(299999), n, last
+last = 42
 For n = 0 To 299999
-  seed = (seed * 421 + 1663) Mod 7875
-  values(n) = seed * 100 + n Mod 100
+  last = (last * 421 + 1663) Mod 7875
+  values(n) = last * 100 + n Mod 100
 Next
 QuickSort values, 0, 299999
 For n = 1 To 299999

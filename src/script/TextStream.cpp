@@ -53,8 +53,8 @@ std::span<const InputStream::Member> InputStream::members() {
 }
 
 int InputStream::peek() {
-    m_out.flush();
-    return m_in.peek();
+    out_.flush();
+    return in_.peek();
 }
 
 void InputStream::requireMore() {
@@ -70,29 +70,29 @@ void InputStream::requireMore() {
 vbs::Value InputStream::read(vbs::Context& context, vbs::Access /*access*/, vbs::Arguments arguments) {
     const std::int32_t count = countOf(context, arguments[0]);
     requireMore();
-    const auto continues = [this] { return (static_cast<unsigned>(m_in.peek()) & 0xC0U) == 0x80; };
+    const auto continues = [this] { return (static_cast<unsigned>(in_.peek()) & 0xC0U) == 0x80; };
     std::string bytes;
-    for (std::int32_t i = 0; i < count && m_in.peek() != endOfInput; ++i) {
+    for (std::int32_t i = 0; i < count && in_.peek() != endOfInput; ++i) {
         do {
-            bytes.push_back(static_cast<char>(m_in.get()));
-        } while (m_in.peek() != endOfInput && continues());
+            bytes.push_back(static_cast<char>(in_.get()));
+        } while (in_.peek() != endOfInput && continues());
     }
     return textValue(bytes);
 }
 
 vbs::Value InputStream::readLine(vbs::Context& /*context*/, vbs::Access /*access*/, vbs::Arguments /*arguments*/) {
     requireMore();
-    return textValue(nextLine(m_in).value_or(""));
+    return textValue(nextLine(in_).value_or(""));
 }
 
 vbs::Value InputStream::readAll(vbs::Context& /*context*/, vbs::Access /*access*/, vbs::Arguments /*arguments*/) {
     requireMore();
-    return textValue(std::string(std::istreambuf_iterator<char>(m_in), {}));
+    return textValue(std::string(std::istreambuf_iterator<char>(in_), {}));
 }
 
 vbs::Value InputStream::skipLine(vbs::Context& /*context*/, vbs::Access /*access*/, vbs::Arguments /*arguments*/) {
     requireMore();
-    nextLine(m_in);
+    nextLine(in_);
     return {};
 }
 
@@ -115,19 +115,19 @@ std::span<const OutputStream::Member> OutputStream::members() {
 }
 
 vbs::Value OutputStream::write(vbs::Context& context, vbs::Access /*access*/, vbs::Arguments arguments) {
-    m_out << utf8Of(context, arguments[0]);
+    out_ << utf8Of(context, arguments[0]);
     return {};
 }
 
 vbs::Value OutputStream::writeLine(vbs::Context& context, vbs::Access /*access*/, vbs::Arguments arguments) {
-    m_out << (arguments.empty() ? std::string() : utf8Of(context, arguments[0])) << '\n';
+    out_ << (arguments.empty() ? std::string() : utf8Of(context, arguments[0])) << '\n';
     return {};
 }
 
 vbs::Value OutputStream::writeBlankLines(vbs::Context& context, vbs::Access /*access*/, vbs::Arguments arguments) {
     for (std::int32_t left = countOf(context, arguments[0]); left > 0; --left) {
         context.spend(10);
-        m_out << '\n';
+        out_ << '\n';
     }
     return {};
 }

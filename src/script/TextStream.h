@@ -16,7 +16,7 @@ std::optional<std::string> nextLine(std::istream& in);
 class InputStream final : public vbs::NativeObject<InputStream> {
 public:
     // Borrowed. `out` is flushed before anything is read, so that a question stands on the screen first.
-    InputStream(std::istream& in, std::ostream& out) : m_in(in), m_out(out) {}
+    InputStream(std::istream& in, std::ostream& out) : in_(in), out_(out) {}
 
     static std::span<const Member> members();
     std::u16string_view typeName() const override { return u"TextStream"; }
@@ -31,14 +31,14 @@ private:
     int peek();
     void requireMore();
 
-    std::istream& m_in;
-    std::ostream& m_out;
+    std::istream& in_;
+    std::ostream& out_;
 };
 
 // Write(text), WriteLine([text]), WriteBlankLines(n).
 class OutputStream final : public vbs::NativeObject<OutputStream> {
 public:
-    explicit OutputStream(std::ostream& out) : m_out(out) {} // borrowed
+    explicit OutputStream(std::ostream& out) : out_(out) {} // borrowed
 
     static std::span<const Member> members();
     std::u16string_view typeName() const override { return u"TextStream"; }
@@ -48,5 +48,5 @@ private:
     vbs::Value writeLine(vbs::Context& context, vbs::Access access, vbs::Arguments arguments);
     vbs::Value writeBlankLines(vbs::Context& context, vbs::Access access, vbs::Arguments arguments);
 
-    std::ostream& m_out;
+    std::ostream& out_;
 };

@@ -13,7 +13,7 @@ namespace {
 // WScript.Arguments: Item (the default), Count, Length, and For Each.
 class ScriptArguments final : public vbs::NativeObject<ScriptArguments> {
 public:
-    explicit ScriptArguments(std::vector<std::string> items) : m_items(std::move(items)) {}
+    explicit ScriptArguments(std::vector<std::string> items) : items_(std::move(items)) {}
     static std::span<const Member> members() {
         static constexpr Member table[] = {
             {u"Item", &ScriptArguments::item, vbs::readOnly, 1, 1},
@@ -27,43 +27,43 @@ public:
     std::unique_ptr<vbs::Enumerator> enumerate(vbs::Context& /*context*/) override {
         class Items final : public vbs::Enumerator {
         public:
-            explicit Items(std::vector<std::string> items) : m_items(std::move(items)) {}
+            explicit Items(std::vector<std::string> items) : items_(std::move(items)) {}
             bool next(vbs::Context& /*context*/, vbs::Value& element) override {
-                if (m_next == m_items.size()) {
+                if (next_ == items_.size()) {
                     return false;
                 }
-                element = vbs::Value::ofString(std::u16string_view(text::toUtf16(m_items[m_next++])));
+                element = vbs::Value::ofString(std::u16string_view(text::toUtf16(items_[next_++])));
                 return true;
             }
 
         private:
-            std::vector<std::string> m_items;
-            std::size_t m_next = 0;
+            std::vector<std::string> items_;
+            std::size_t next_ = 0;
         };
-        return std::make_unique<Items>(m_items);
+        return std::make_unique<Items>(items_);
     }
 
 private:
     vbs::Value item(vbs::Context& context, vbs::Access /*access*/, vbs::Arguments arguments) {
         const auto index = vbs::toLong(context, arguments[0]);
-        if (index < 0 || static_cast<std::size_t>(index) >= m_items.size()) {
+        if (index < 0 || static_cast<std::size_t>(index) >= items_.size()) {
             vbs::raise(vbs::ErrorNumber::OutOfRange);
         }
-        return vbs::Value::ofString(std::u16string_view(text::toUtf16(m_items[static_cast<std::size_t>(index)])));
+        return vbs::Value::ofString(std::u16string_view(text::toUtf16(items_[static_cast<std::size_t>(index)])));
     }
     vbs::Value count(vbs::Context& /*context*/, vbs::Access /*access*/, vbs::Arguments /*arguments*/) {
-        return vbs::Value::ofLong(static_cast<std::int32_t>(m_items.size()));
+        return vbs::Value::ofLong(static_cast<std::int32_t>(items_.size()));
     }
 
-    std::vector<std::string> m_items;
+    std::vector<std::string> items_;
 };
 
 } // namespace
 
 WScript::WScript(std::istream& in, std::ostream& out, std::ostream& errors, std::vector<std::string> arguments)
-    : m_out(out), m_standardInput(vbs::makeObject<InputStream>(in, out)),
-      m_standardOutput(vbs::makeObject<OutputStream>(out)), m_standardError(vbs::makeObject<OutputStream>(errors)),
-      m_arguments(std::move(arguments)) {}
+    : out_(out), standardInput_(vbs::makeObject<InputStream>(in, out)),
+      standardOutput_(vbs::makeObject<OutputStream>(out)), standardError_(vbs::makeObject<OutputStream>(errors)),
+      arguments_(std::move(arguments)) {}
 
 std::span<const WScript::Member> WScript::members() {
     static constexpr Member table[] = {
@@ -89,19 +89,19 @@ vbs::Value WScript::echo(vbs::Context& context, vbs::Access /*access*/, vbs::Arg
         line += i > 0 ? " " : "";
         line += value.isNull() ? "null" : vbs::toUtf8(vbs::toString(context, value).view());
     }
-    m_out << line << '\n';
+    out_ << line << '\n';
     return {};
 }
 
 vbs::Value WScript::quit(vbs::Context& context, vbs::Access /*access*/, vbs::Arguments arguments) {
-    m_exitCode = arguments.empty() ? 0 : vbs::toLong(context, arguments[0]);
-    m_quit = true;
+    exitCode_ = arguments.empty() ? 0 : vbs::toLong(context, arguments[0]);
+    quit_ = true;
     context.interrupt();
     return {};
 }
 
 vbs::Value WScript::scriptArguments(vbs::Context& context, vbs::Access access, vbs::Arguments arguments) {
-    const auto list = vbs::makeObject<ScriptArguments>(m_arguments);
+    const auto list = vbs::makeObject<ScriptArguments>(arguments_);
     return arguments.empty() ? list.value() : list->invoke(context, vbs::Object::defaultMember, access, arguments);
 }
 
@@ -110,32 +110,31 @@ vbs::Value WScript::sleep(vbs::Context& context, vbs::Access /*access*/, vbs::Ar
     if (milliseconds < 0) {
         vbs::raise(vbs::ErrorNumber::InvalidCall);
     }
-    m_out.flush();
+    out_.flush();
     std::this_thread::sleep_for(std::chrono::milliseconds(milliseconds));
     return {};
 }
 
 vbs::Value WScript::scriptName(vbs::Context& /*context*/, vbs::Access /*access*/, vbs::Arguments /*arguments*/) {
-    return vbs::Value::ofString(
-        std::u16string_view(text::toUtf16(std::filesystem::path(m_script).filename().string())));
+    return vbs::Value::ofString(std::u16string_view(text::toUtf16(std::filesystem::path(script_).filename().string())));
 }
 
 vbs::Value WScript::scriptFullName(vbs::Context& /*context*/, vbs::Access /*access*/, vbs::Arguments /*arguments*/) {
     std::error_code failed;
-    const std::filesystem::path full = std::filesystem::absolute(m_script, failed);
-    const bool file = m_script != "-" && !failed;
-    return vbs::Value::ofString(std::u16string_view(text::toUtf16(file ? full.lexically_normal().string() : m_script)));
+    const std::filesystem::path full = std::filesystem::absolute(script_, failed);
+    const bool file = script_ != "-" && !failed;
+    return vbs::Value::ofString(std::u16string_view(text::toUtf16(file ? full.lexically_normal().string() : script_)));
 }
 
 vbs::Value WScript::standardInput(vbs::Context& /*context*/, vbs::Access /*access*/, vbs::Arguments /*arguments*/) {
-    return m_standardInput.value();
+    return standardInput_.value();
 }
 
 vbs::Value WScript::standardOutput(vbs::Context& /*context*/, vbs::Access /*access*/, vbs::Arguments /*arguments*/) {
-    return m_standardOutput.value();
+    return standardOutput_.value();
 }
 
 vbs::Value WScript::standardError(vbs::Context& /*context*/, vbs::Access /*access*/, vbs::Arguments /*arguments*/) {
-    m_out.flush(); // what was said before comes before
-    return m_standardError.value();
+    out_.flush(); // what was said before comes before
+    return standardError_.value();
 }

@@ -19,11 +19,11 @@ public:
     std::u16string_view typeName() const override { return u"Object"; }
 
     // The file that runs from now on, as it was given; "-" for standard input.
-    void setScript(const std::string& file) { m_script = file; }
+    void setScript(const std::string& file) { script_ = file; }
 
     // Whether the script asked to end, and with which exit code.
-    bool hasQuit() const noexcept { return m_quit; }
-    int exitCode() const noexcept { return m_exitCode; }
+    bool hasQuit() const noexcept { return quit_; }
+    int exitCode() const noexcept { return exitCode_; }
 
 private:
     vbs::Value echo(vbs::Context& context, vbs::Access access, vbs::Arguments arguments);
@@ -36,12 +36,12 @@ private:
     vbs::Value standardOutput(vbs::Context& context, vbs::Access access, vbs::Arguments arguments);
     vbs::Value standardError(vbs::Context& context, vbs::Access access, vbs::Arguments arguments);
 
-    std::ostream& m_out;
-    vbs::Ref<InputStream> m_standardInput;
-    vbs::Ref<OutputStream> m_standardOutput;
-    vbs::Ref<OutputStream> m_standardError;
-    std::vector<std::string> m_arguments;
-    std::string m_script;
-    bool m_quit = false;
-    int m_exitCode = 0;
+    std::ostream& out_;
+    vbs::Ref<InputStream> standardInput_;
+    vbs::Ref<OutputStream> standardOutput_;
+    vbs::Ref<OutputStream> standardError_;
+    std::vector<std::string> arguments_;
+    std::string script_;
+    bool quit_ = false;
+    int exitCode_ = 0;
 };

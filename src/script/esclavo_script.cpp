@@ -126,7 +126,7 @@ void report(const std::string& file, const vbs::ScriptFailure& failure) {
 class Runner {
 public:
     Runner(vbs::ScriptControl& control, WScript& wscript, const Options& options)
-        : m_control(control), m_wscript(wscript), m_options(options) {}
+        : control_(control), wscript_(wscript), options_(options) {}
 
     // Runs one file; false after an error.
     bool run(const std::string& file) {
@@ -136,11 +136,11 @@ public:
             return false;
         }
         const std::u16string script = text::toUtf16(text::decoded(*bytes));
-        m_wscript.setScript(file);
-        if ((m_options.checkOnly || m_options.times) && !compile(file, script)) {
+        wscript_.setScript(file);
+        if ((options_.checkOnly || options_.times) && !compile(file, script)) {
             return false;
         }
-        return m_options.checkOnly || runPasses(file, script);
+        return options_.checkOnly || runPasses(file, script);
     }
 
 private:
@@ -153,12 +153,12 @@ private:
 
     bool compile(const std::string& file, std::u16string_view script) {
         const auto start = Clock::now();
-        const bool good = m_control.check(script);
+        const bool good = control_.check(script);
         const auto took = Clock::now() - start;
         if (!good) {
-            report(file, m_control.error());
+            report(file, control_.error());
         }
-        if (m_options.times) {
+        if (options_.times) {
             std::cerr << file << ": compilación: " << milliseconds(took) << '\n';
         }
         return good;
@@ -169,15 +169,15 @@ private:
         Clock::duration first{};
         long done = 0;
         bool good = true;
-        while (good && done < m_options.passes && !m_wscript.hasQuit()) {
-            good = m_control.addCode(script) || m_wscript.hasQuit();
+        while (good && done < options_.passes && !wscript_.hasQuit()) {
+            good = control_.addCode(script) || wscript_.hasQuit();
             first = done++ == 0 ? Clock::now() - start : first;
         }
         const auto all = Clock::now() - start;
         if (!good) {
-            report(file, m_control.error());
+            report(file, control_.error());
         }
-        if (m_options.times) {
+        if (options_.times) {
             std::cout.flush();
             std::cerr << file << ": pasadas: " << done << " en " << milliseconds(all) << ", la primera (compila) en "
                       << milliseconds(first);
@@ -189,9 +189,9 @@ private:
         return good;
     }
 
-    vbs::ScriptControl& m_control;
-    WScript& m_wscript;
-    const Options& m_options;
+    vbs::ScriptControl& control_;
+    WScript& wscript_;
+    const Options& options_;
 };
 
 int runAll(const Options& options) {

@@ -1,7 +1,7 @@
 // The controls of the main window and their places; no behaviour.
 //
 // Left the tab strip over the page in front, right a column of groups; the splitter between them gives the pages all
-// growth. Every control bears its documented name.
+// growth. Every control bears the name that tests and assistive tools find it by.
 #pragma once
 
 class QCheckBox;

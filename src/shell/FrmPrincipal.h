@@ -33,8 +33,8 @@ public:
     explicit FrmPrincipal(Estacion& estacion);
     ~FrmPrincipal() override;
 
-    // The load step: brings everything up in the documented order. False when the program is to end at once: it was
-    // told to meanwhile, or a previous instance is running (which then has been asked to show itself).
+    // The load step: brings everything up in the order that cargar() shows. False when the program is to end at once:
+    // it was told to meanwhile, or a previous instance is running (which then has been asked to show itself).
     bool cargar();
 
     // Ends the program as "Cerrar Esclavo" does: unloads the windows, then leaves every event loop, that of an open

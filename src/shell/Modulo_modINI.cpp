@@ -5,7 +5,7 @@
 
 std::string sGetINI(const std::filesystem::path& archivo, std::string_view seccion, std::string_view clave,
                     std::string_view porDefecto) {
-    constexpr std::size_t tamanoPedido = 255; // one less than the classic buffer of 256
+    constexpr std::size_t tamanoPedido = 255; // so that values are cut to 254 characters
     return text::utf8FromAnsi(GetPrivateProfileStringA(text::ansiFromUtf8(seccion), text::ansiFromUtf8(clave),
                                                        text::ansiFromUtf8(porDefecto), tamanoPedido, archivo));
 }

@@ -1,5 +1,5 @@
 // Random arrivals, mostly of well-formed frames: several in one arrival, with odd lengths, cut short, damaged, or junk.
-// The same seed gives the same arrivals on every machine.
+// The same start value gives the same arrivals on every machine.
 #pragma once
 
 #include <cstdint>

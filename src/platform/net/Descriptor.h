@@ -3,7 +3,7 @@
 #include <unistd.h>
 #include <utility>
 
-/// Owns one file descriptor of the operating system and closes it. Empty when it holds -1.
+// Owns one file descriptor of the operating system and closes it. Empty when it holds -1.
 class Descriptor {
 public:
     Descriptor() = default;

@@ -18,7 +18,7 @@ void setOption(const Descriptor& socket, int level, int option, int value) {
     setsockopt(socket.number(), level, option, &value, sizeof value);
 }
 
-/// Set on the listener, since accepted sockets inherit them and so cost no further system call.
+// Set on the listener, since accepted sockets inherit them and so cost no further system call.
 void setListenerOptions(const Descriptor& socket) {
     setOption(socket, SOL_SOCKET, SO_REUSEADDR, 1);
     setOption(socket, IPPROTO_TCP, TCP_NODELAY, 1);
@@ -28,7 +28,7 @@ void setListenerOptions(const Descriptor& socket) {
     setOption(socket, IPPROTO_TCP, TCP_KEEPCNT, 6);
 }
 
-/// An IPv4 peer of an IPv6 listener bears its address in the last four bytes.
+// An IPv4 peer of an IPv6 listener bears its address in the last four bytes.
 std::string addressText(const sockaddr_storage& peer) {
     std::array<char, INET6_ADDRSTRLEN> text{};
     if (peer.ss_family == AF_INET) {
@@ -76,7 +76,7 @@ std::error_code bindTo(const Descriptor& socket, const Address& local) {
     return {};
 }
 
-/// The call may succeed later on the same connection.
+// The call may succeed later on the same connection.
 bool isPassing(int error) {
     return error == EAGAIN || error == EINTR || error == ENOBUFS || error == ENOMEM;
 }
@@ -135,7 +135,7 @@ std::error_code Winsock::openListener() {
     return reactor_.alive(watch_) ? std::error_code() : lastError();
 }
 
-/// One IPv6 socket takes both kinds of peers; where the system knows no IPv6, or has no address of it, IPv4 alone.
+// One IPv6 socket takes both kinds of peers; where the system knows no IPv6, or has no address of it, IPv4 alone.
 std::error_code Winsock::bindToPort() {
     descriptor_ = Descriptor(socket(AF_INET6, SOCK_STREAM | SOCK_NONBLOCK | SOCK_CLOEXEC, 0));
     if (descriptor_) {
@@ -189,7 +189,7 @@ void Winsock::flush() {
     watchWhatIsWanted();
 }
 
-/// One send; returns how many bytes the kernel took and notes when it has no more room.
+// One send; returns how many bytes the kernel took and notes when it has no more room.
 std::size_t Winsock::sendNow(std::span<const std::uint8_t> data) {
     const ssize_t count = send(descriptor_.number(), data.data(), data.size(), MSG_NOSIGNAL);
     if (count < 0 && !isPassing(errno)) {
@@ -262,7 +262,7 @@ void Winsock::takeRequests() {
     }
 }
 
-/// Returns whether the listener still listens.
+// Returns whether the listener still listens.
 bool Winsock::reportRequest(Descriptor connection, std::string address) {
     Reactor& reactor = reactor_;
     const Reactor::Watch self = watch_;
@@ -305,7 +305,7 @@ void Winsock::reportArrival(std::span<const std::uint8_t> data) {
     flush();
 }
 
-/// Leaves the close event to a later turn: the caller of SendData is told by its result.
+// Leaves the close event to a later turn: the caller of SendData is told by its result.
 void Winsock::breakConnection() {
     state_ = WinsockState::error;
     queue_.clear();

@@ -28,8 +28,9 @@ std::optional<std::string> leerValor(std::string_view texto, std::string_view se
 // one gives back the very same text.
 std::string conValor(std::string_view texto, std::string_view seccion, std::string_view clave, std::string_view valor);
 
-// The value of a key cut to `tamano` - 1 characters (`tamano` counts the closing zero of the classic interface); a
-// file, section or key that is missing or cannot be read gives `porDefecto` without its trailing blanks, cut alike.
+// The value of a key cut to `tamano` - 1 characters (`tamano` counts the closing zero that such a buffer of characters
+// needs); a file, section or key that is missing or cannot be read gives `porDefecto` without its trailing blanks, cut
+// alike.
 std::string GetPrivateProfileStringA(std::string_view seccion, std::string_view clave, std::string_view porDefecto,
                                      std::size_t tamano, const std::filesystem::path& archivo);
 

@@ -21,7 +21,8 @@
 #include <string>
 #include <string_view>
 
-// A property that could not be set or read; the numbers are those of the classic control, what() is Spanish UTF-8.
+// A property that could not be set or read; the numbers are those that scripts know serial faults by, what() is
+// Spanish UTF-8.
 class ErrorMSComm : public std::runtime_error {
 public:
     static constexpr int valorNoValido = 380;

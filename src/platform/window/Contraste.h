@@ -1,4 +1,4 @@
-// Keeps the documented colours of states, and the frames of check boxes, legible on dark desktops.
+// Keeps the colours of states, and the frames of check boxes, legible on dark desktops.
 #pragma once
 
 #include <QColor>

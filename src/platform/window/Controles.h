@@ -47,7 +47,7 @@ QLabel* crearTitulo(QWidget* padre, const char* nombre, const QString& texto); /
 QLabel* crearAviso(QWidget* padre, const char* nombre, const QString& nombreAccesible = {});
 void avisar(QLabel& aviso, const QString& texto); // empty: nothing to say
 
-// ---- colours of state, as they are documented
+// ---- colours of state: those that operators know from their other stations, the same in every window
 
 namespace colores {
 constexpr QColor verde{0, 255, 0}; // behind a text: good, open

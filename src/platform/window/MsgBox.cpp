@@ -73,7 +73,7 @@ Botones preparar(QMessageBox& caja, int estilo) {
     const std::size_t porDefecto = static_cast<std::size_t>(estilo & mascaraPorDefecto) >> 8U;
     Botones codigos;
     for (std::size_t i = 0; i < botones.size(); ++i) {
-        // The same role for all keeps the order in which they are documented.
+        // The same role for all keeps the order in which botonesDe() names them.
         QPushButton* const boton = caja.addButton(textoDeBoton(botones[i]), QMessageBox::ActionRole);
         codigos[boton] = botones[i];
         if (i == 0 || i == porDefecto)

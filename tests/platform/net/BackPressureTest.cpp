@@ -11,7 +11,7 @@ namespace {
 
 constexpr int smallBuffer = 4096;
 
-/// A byte for each position of a stream, so that a lost, doubled or moved block shows.
+// A byte for each position of a stream, so that a lost, doubled or moved block shows.
 std::uint8_t patternAt(std::size_t position) {
     return static_cast<std::uint8_t>((position * 2654435761U) >> 13U);
 }
@@ -30,7 +30,7 @@ bool followsPattern(const std::string& data, std::size_t from) {
 
 const std::string block(60'000, 'b');
 
-/// Sends blocks until the kernel takes no more; returns how many bytes were given.
+// Sends blocks until the kernel takes no more; returns how many bytes were given.
 std::size_t fill(Winsock& socket) {
     std::size_t given = 0;
     while (socket.bytesPending() == 0 && socket.SendData(bytesOf(block)))

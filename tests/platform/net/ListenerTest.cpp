@@ -18,7 +18,7 @@ using WinsockState::listening;
 
 namespace {
 
-/// Lowers the limit of open descriptors to what is open now and some more, for the life of the object.
+// Lowers the limit of open descriptors to what is open now and some more, for the life of the object.
 class DescriptorLimit {
 public:
     explicit DescriptorLimit(rlim_t more) {
@@ -68,7 +68,7 @@ TEST(Listener, aTakenPortIsRefusedWithItsCause) {
     EXPECT_EQ(second.State(), listening);
 }
 
-/// Whether this machine has an IPv6 loopback.
+// Whether this machine has an IPv6 loopback.
 bool hasIPv6() {
     const Descriptor probe(socket(AF_INET6, SOCK_STREAM | SOCK_CLOEXEC, 0));
     sockaddr_in6 address{};

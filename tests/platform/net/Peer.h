@@ -13,29 +13,29 @@
 #include <string_view>
 #include <vector>
 
-/// The other side of a connection: a plain client socket on the loopback that the test drives by hand.
+// The other side of a connection: a plain client socket on the loopback that the test drives by hand.
 class Peer {
 public:
-    /// Connects to 127.0.0.1; connected() tells whether it worked. A `receiveBuffer` (bytes) makes a peer that the
-    /// kernel fills quickly.
+    // Connects to 127.0.0.1; connected() tells whether it worked. A `receiveBuffer` (bytes) makes a peer that the
+    // kernel fills quickly.
     explicit Peer(std::uint16_t port, int receiveBuffer = 0);
 
-    /// Connects to ::1 instead.
+    // Connects to ::1 instead.
     static Peer overIPv6(std::uint16_t port);
 
     bool connected() const { return connected_; }
-    /// Its own port.
+    // Its own port.
     std::uint16_t localPort() const;
-    /// Sends all of it, blocking.
+    // Sends all of it, blocking.
     void send(std::string_view data) const;
-    /// Sends what the kernel takes now; returns how much.
+    // Sends what the kernel takes now; returns how much.
     std::size_t sendSome(std::span<const std::uint8_t> data) const;
-    /// What has arrived so far, at most `limit` bytes; empty when nothing has.
+    // What has arrived so far, at most `limit` bytes; empty when nothing has.
     std::string receive(std::size_t limit = 65536) const;
-    /// Whether the connection was closed or reset by the other side.
+    // Whether the connection was closed or reset by the other side.
     bool ended() const;
     void halfClose() const;
-    /// Closes with a reset instead of an orderly end.
+    // Closes with a reset instead of an orderly end.
     void reset();
     void close() { descriptor_.reset(); }
 
@@ -46,10 +46,10 @@ private:
     bool connected_ = false;
 };
 
-/// Turns the reactor as an event loop would until the condition holds; false when it does not within ten seconds.
+// Turns the reactor as an event loop would until the condition holds; false when it does not within ten seconds.
 bool runUntil(Reactor& reactor, const std::function<bool()>& condition);
 
-/// Whether the reactor would wake its event loop now.
+// Whether the reactor would wake its event loop now.
 inline bool wouldWake(const Reactor& reactor) {
     pollfd watched{reactor.descriptor(), POLLIN, 0};
     return poll(&watched, 1, 0) > 0;
@@ -63,7 +63,7 @@ inline std::string textOf(std::span<const std::uint8_t> data) {
     return {data.begin(), data.end()};
 }
 
-/// Records what sockets report, and runs what the test wants to happen during an event.
+// Records what sockets report, and runs what the test wants to happen during an event.
 struct Recorder : WinsockEvents {
     void onConnectionRequest(Winsock& socket, std::uint32_t requestId) override;
     void onDataArrival(Winsock& socket, std::span<const std::uint8_t> data) override;
@@ -72,7 +72,7 @@ struct Recorder : WinsockEvents {
 
     std::vector<std::uint32_t> requests;
     std::vector<std::string> arrivals;
-    std::vector<WinsockState> closes; ///< the state at each close event
+    std::vector<WinsockState> closes; // the state at each close event
     int sendsCompleted = 0;
     std::function<void(Winsock&, std::uint32_t)> request;
     std::function<void(Winsock&, std::span<const std::uint8_t>)> arrival;
@@ -80,10 +80,10 @@ struct Recorder : WinsockEvents {
     std::function<void(Winsock&)> sendComplete;
 };
 
-/// A reactor, a listener on a free port and one socket that accepts the next request that finds it closed.
+// A reactor, a listener on a free port and one socket that accepts the next request that finds it closed.
 struct Station {
     Station();
-    /// A peer connected to `connection`.
+    // A peer connected to `connection`.
     Peer connect(int receiveBuffer = 0);
 
     Reactor reactor;

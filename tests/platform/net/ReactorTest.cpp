@@ -11,7 +11,7 @@ using namespace std::chrono_literals;
 
 namespace {
 
-/// A descriptor that stays ready, and counts how often it is served.
+// A descriptor that stays ready, and counts how often it is served.
 class AlwaysReady final : public Reactor::Handler {
 public:
     explicit AlwaysReady(Reactor& reactor) : reactor_(reactor), descriptor_(eventfd(1, EFD_NONBLOCK | EFD_CLOEXEC)) {

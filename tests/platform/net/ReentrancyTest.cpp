@@ -8,7 +8,7 @@ using enum WinsockState;
 
 namespace {
 
-/// A station with several accepted connections, each with its peer.
+// A station with several accepted connections, each with its peer.
 struct Crowd : Station {
     explicit Crowd(std::size_t count) {
         events.request = [this](Winsock&, std::uint32_t requestId) {

@@ -1,4 +1,4 @@
-' The same negative Rnd before the same seed gives the same numbers again.
+' The same negative Rnd before the same start value gives the same numbers again.
 Rnd -1
 Randomize 42
 a = Rnd : b = Rnd

@@ -1,4 +1,4 @@
-// Rnd and Randomize: the documented 24-bit linear congruential sequence.
+// Rnd and Randomize: a 24-bit linear congruential sequence, the same numbers everywhere after the same start value.
 #include "platform/vbscript/library/BuiltinArguments.h"
 #include "platform/vbscript/value/Dates.h"
 

@@ -47,7 +47,7 @@ public:
         return made;
     }
 
-    // State of Rnd: the 24 bits of the documented linear congruential sequence.
+    // State of Rnd: the 24 bits of its linear congruential sequence.
     std::uint32_t random = 0x50000;
 
     // Value of an object's default member without arguments. Raises 91 for Nothing, 438 where there is none.

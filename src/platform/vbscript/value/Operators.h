@@ -1,7 +1,7 @@
 // The operators of the language on values of any type (Arithmetic.cpp, Concatenation.cpp, Logic.cpp, Comparison.cpp).
-// Results take the documented types: Integer widens to Long and
-// Double on overflow, Null is contagious, Empty is "", in arithmetic the Integer 0, in logic the Long 0. The machine
-// handles the common whole and Double cases itself and calls these for the rest.
+// Result types: Integer widens to Long and Double on overflow, Null is contagious, Empty is "", in arithmetic the
+// Integer 0, in logic the Long 0. The machine handles the common whole and Double cases itself and calls these for the
+// rest.
 #pragma once
 
 #include "platform/vbscript/value/Context.h"

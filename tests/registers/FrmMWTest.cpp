@@ -1,6 +1,7 @@
+#include "registers/FrmMW.h"
+
 #include "CajaDeMensaje.h"
 #include "registers/Esclavos.h"
-#include "registers/FrmMW.h"
 #include "registers/Palabra.h"
 
 #include <QCheckBox>
@@ -381,4 +382,4 @@ private Q_SLOTS:
 };
 
 QTEST_MAIN(TestFrmMW)
-#include "FrmMW_test.moc"
+#include "FrmMWTest.moc"

@@ -154,11 +154,11 @@ TEST(HandlerBesideModel, nothingTellsThemApartOver220000Arrivals) {
         for (int k = 0; k < llegadasPorSesion; ++k) {
             pareja.turno();
             pareja.comparar();
-            ASSERT_FALSE(HasFailure()) << "seed " << semilla << ", session " << sesion << ", arrival " << k << ": "
-                                       << testing::PrintToString(pareja.ultimaLlegada());
+            ASSERT_FALSE(HasFailure()) << "start value " << semilla << ", session " << sesion << ", arrival " << k
+                                       << ": " << testing::PrintToString(pareja.ultimaLlegada());
         }
         pareja.compararTodo();
-        ASSERT_FALSE(HasFailure()) << "seed " << semilla << ", after session " << sesion;
+        ASSERT_FALSE(HasFailure()) << "start value " << semilla << ", after session " << sesion;
     }
 }
 

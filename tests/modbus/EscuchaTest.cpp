@@ -1,5 +1,6 @@
-#include "EventosFalsos.h"
 #include "modbus/Escucha.h"
+
+#include "EventosFalsos.h"
 #include "tests/platform/net/Peer.h"
 
 #include <gmock/gmock.h>

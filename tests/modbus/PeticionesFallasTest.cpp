@@ -240,7 +240,7 @@ TEST_F(Handler, shortArrivalsOfAnythingEnd) {
             b = static_cast<std::uint8_t>(azar() % 4 == 0 ? azar() : azar() % 8);
         conexion.enviadas.clear();
         atender(llegada);
-        ASSERT_LE(conexion.enviadas.size(), llegada.size() / 6 + 1) << "seed " << semilla << " turn " << vuelta;
+        ASSERT_LE(conexion.enviadas.size(), llegada.size() / 6 + 1) << "start value " << semilla << " turn " << vuelta;
     }
 }
 

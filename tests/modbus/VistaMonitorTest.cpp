@@ -1,5 +1,6 @@
-#include "modbus/Monitores.h"
 #include "modbus/VistaMonitor.h"
+
+#include "modbus/Monitores.h"
 
 #include <QClipboard>
 #include <QElapsedTimer>
@@ -229,4 +230,4 @@ private Q_SLOTS:
 };
 
 QTEST_MAIN(TestVistaMonitor)
-#include "VistaMonitor_test.moc"
+#include "VistaMonitorTest.moc"

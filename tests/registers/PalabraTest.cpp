@@ -1,7 +1,8 @@
 // Conversions between numbers, words, signs and bits, and numbers as text.
+#include "registers/Palabra.h"
+
 #include "errores.h"
 #include "registers/ErrorEjecucion.h"
-#include "registers/Palabra.h"
 
 #include <cmath>
 #include <gtest/gtest.h>

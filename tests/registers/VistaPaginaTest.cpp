@@ -1,5 +1,6 @@
-#include "platform/grid/MSFlexGrid.h"
 #include "registers/VistaPagina.h"
+
+#include "platform/grid/MSFlexGrid.h"
 
 #include <QCheckBox>
 #include <QElapsedTimer>
@@ -279,4 +280,4 @@ private Q_SLOTS:
 };
 
 QTEST_MAIN(TestVistaPagina)
-#include "VistaPagina_test.moc"
+#include "VistaPaginaTest.moc"
