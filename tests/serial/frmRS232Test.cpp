@@ -2,6 +2,7 @@
 #include "serial/frmRS232.h"
 
 #include "EntornoFalso.h"
+#include "EventosPendientes.h"
 #include "TiempoDeProcesador.h"
 #include "platform/serial/ParSerie.h"
 #include "platform/window/VistaTexto.h"
@@ -309,7 +310,7 @@ private Q_SLOTS:
         Estacion estacion;
         estacion.par.desconectar();
         QTRY_COMPARE(estacion.estado(), QStringLiteral("CLOSE"));
-        QTest::qWait(50); // nothing more is to happen
+        correrLoPendiente();
         QCOMPARE(estacion.log.lineas.size(), std::size_t{1});
         QVERIFY(estacion.log.lineas[0].ends_with("el dispositivo ha desaparecido"));
         QVERIFY(estacion.aviso("lblCausaCierre").endsWith(QStringLiteral("el dispositivo ha desaparecido")));

@@ -1,6 +1,7 @@
 // Script automation in the main window: check box, period, timer, colours, passes, endless loops.
 
 #include "CajaDeMensaje.h"
+#include "EventosPendientes.h"
 #include "PrincipalDePrueba.h"
 
 #include <QCheckBox>
@@ -284,7 +285,7 @@ private Q_SLOTS:
         e.pasada();
         QCOMPARE(e.color(), rojo);
         QCOMPARE(e.registro(1, 0), 5.0);
-        QTest::qWait(20); // a message would be answered by then
+        correrLoPendiente();
         QCOMPARE(caja.vistas, 0);
     }
 
@@ -346,8 +347,9 @@ private Q_SLOTS:
         QTRY_COMPARE(e.registro(1, 1), 1.0);
         QCOMPARE(e.registro(1, 0), 1.0);
         QVERIFY(!e.timer()->isActive());
-        QTest::qWait(50); // several periods
-        QCOMPARE(e.registro(1, 0), 1.0);
+        QVERIFY(!e.control<QTimer>("timerAplazada").isActive());
+        correrLoPendiente();
+        QCOMPARE(e.registro(1, 1), 1.0);
     }
 
     void passesDoNotPileUpOverAMessageBoxAndTheStationGoesOnServing() {
@@ -356,16 +358,21 @@ private Q_SLOTS:
         QVERIFY(e.cargar());
         QByteArray mientras;
         QStringList botones;
+        double enLaCaja = 0;
         const AlVerCaja atender([&](QWidget& caja) {
             const auto maestro = e.conectarMaestro();
             mientras = PrincipalDePrueba::pedir(*maestro, PrincipalDePrueba::lectura(1), 13).mid(9);
             for (const auto* boton : caja.findChildren<QPushButton*>())
                 botones += boton->text();
-            QTest::qWait(30); // several periods
+            for (int periodo = 0; periodo < 3; ++periodo)
+                Q_EMIT e.timer()->timeout({});
+            correrLoPendiente();
+            enLaCaja = e.registro(1, 0);
             QTest::keyClick(&caja, Qt::Key_Return);
         });
         QTRY_VERIFY(e.registro(1, 1) >= 2);
         QCOMPARE(mientras, QByteArray("\0\1\0\0", 4));
+        QCOMPARE(enLaCaja, 1.0);
         QCOMPARE(botones.size(), 2);
     }
 
@@ -374,7 +381,8 @@ private Q_SLOTS:
         EstacionConScript e("Codigo_Ejecutar=1\r\nEjecucion_Codigo_Milisegundos=10\r\n");
         e.script("mw.escribir 1, 0, 7\r\nMsgBox \"a\"");
         QVERIFY(e.cargar());
-        QTest::qSleep(15); // the timer is due
+        while (e.timer()->remainingTime() > 0) {
+        }
         const auto primero = e.conectarMaestro();
         int servidos = 0;
         const AlVerCaja atender([&](QWidget& caja) {
@@ -445,7 +453,6 @@ private Q_SLOTS:
         const AlPintar vigia("BarraScript", [&](QWidget& barra) {
             primera = reloj.elapsed();
             maestro->send(PrincipalDePrueba::lectura(1).toStdString());
-            QTest::qSleep(20);
             entretanto = QByteArray::fromStdString(maestro->receive());
             dicho = barra.findChild<QLabel*>()->text();
             QTest::mouseClick(barra.findChild<QPushButton*>(QStringLiteral("BtnPararScript")), Qt::LeftButton);

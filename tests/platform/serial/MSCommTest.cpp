@@ -1,5 +1,6 @@
 #include "platform/serial/MSComm.h"
 
+#include "EventosPendientes.h"
 #include "ParSerie.h"
 
 #include <QDeadlineTimer>
@@ -256,7 +257,8 @@ private Q_SLOTS:
         std::string recibido;
         connect(&comm, &MSComm::OnComm, &comm, [&] { recibido = comm.Input(); });
         par.enviar("123");
-        QTest::qWait(20); // nothing is to happen
+        QTRY_VERIFY(par.leido());
+        correrLoPendiente();
         QVERIFY(recibido.empty());
         par.enviar("4");
         QTRY_COMPARE(recibido, std::string("1234"));
@@ -268,7 +270,8 @@ private Q_SLOTS:
         comm.setPortOpen(true);
         QSignalSpy llegada(&comm, &MSComm::OnComm);
         par.enviar("x");
-        QTest::qWait(20); // nothing is to happen
+        QTRY_VERIFY(par.leido());
+        correrLoPendiente();
         QCOMPARE(llegada.count(), 0);
     }
 
@@ -350,7 +353,7 @@ private Q_SLOTS:
         QSignalSpy perdido(&comm, &MSComm::perdido);
         comm.setPortOpen(false);
         par.desconectar();
-        QTest::qWait(20); // nothing is to happen
+        correrLoPendiente();
         QCOMPARE(perdido.count(), 0);
     }
 };

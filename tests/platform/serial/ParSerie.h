@@ -7,9 +7,11 @@
 #include <QString>
 #include <QTemporaryDir>
 
+#include <fcntl.h>
 #include <pty.h>
 #include <stdexcept>
 #include <string_view>
+#include <sys/ioctl.h>
 #include <termios.h>
 #include <unistd.h>
 
@@ -33,6 +35,15 @@ public:
                 throw std::runtime_error("the pseudo-terminal takes nothing");
             bytes.remove_prefix(static_cast<std::size_t>(escritos));
         }
+    }
+
+    // Whether what the device has sent is out of the driver's buffer.
+    bool leido() const {
+        const int esclavo = ::open(dispositivo_.toLocal8Bit().constData(), O_RDONLY | O_NOCTTY | O_NONBLOCK);
+        int esperan = -1;
+        const bool sabido = ::ioctl(esclavo, FIONREAD, &esperan) == 0;
+        ::close(esclavo);
+        return sabido && esperan == 0;
     }
 
     // Pulls the cable.
