@@ -9,6 +9,7 @@
 #include "platform/vbscript/run/Instance.h"
 #include "platform/vbscript/run/Vm.h"
 #include "platform/vbscript/run/VmShort.h"
+#include "platform/vbscript/run/VmShortArrays.h"
 #include "platform/vbscript/value/Library.h"
 
 #include <bit>

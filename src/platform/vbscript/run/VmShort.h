@@ -1,11 +1,11 @@
-// The short roads of the dispatch loop: what an operator, a comparison or an element does with the commonest types.
-// Each answers whether it has done the work; if not, nothing has changed and the long road (VmOperators.cpp,
-// VmArrays.cpp) takes over. Operands may be references to variables only where it says so.
+// The short roads of the dispatch loop: what an operator, a comparison or a loop does with the commonest types (those
+// of elements: VmShortArrays.h). Each answers whether it has done the work; if not, nothing has changed and the long
+// road (VmOperators.cpp) takes over. Operands may be references to variables only where it says so.
 #pragma once
 
 #include "platform/vbscript/compile/Bytecode.h"
 #include "platform/vbscript/run/VmFrames.h"
-#include "platform/vbscript/value/Array.h"
+#include "platform/vbscript/value/Value.h"
 
 #include <cfloat>
 #include <cmath>
@@ -14,6 +14,16 @@ namespace vbs {
 
 inline bool bothWhole(const Value& a, const Value& b) noexcept {
     return (static_cast<std::uint64_t>(a.type) | static_cast<std::uint64_t>(b.type)) <= 1;
+}
+
+// A test that comes out one way as often as the other: what follows stays in line on both sides. (A side that counts as
+// unlikely goes far away, which costs two jumps.)
+inline bool evenly(bool test) noexcept {
+#if defined(__GNUC__)
+    return __builtin_expect_with_probability(static_cast<long>(test), 1, 0.5) != 0;
+#else
+    return test;
+#endif
 }
 
 inline bool isReal(const Value& v) noexcept {
@@ -98,7 +108,7 @@ inline Number computed(Number b, Number c) noexcept {
 
 template <Opcode op>
 [[gnu::always_inline]] inline bool arithmetic(Value& to, const Value& b, const Value& c) noexcept {
-    if (bothWhole(b, c)) [[likely]] {
+    if (evenly(bothWhole(b, c))) {
         putWhole(to, widerType(b, c), computed<op>(b.n, c.n));
         return true;
     }
@@ -109,6 +119,9 @@ template <Opcode op>
 }
 
 [[gnu::always_inline]] inline bool quotient(Value& to, const Value& b, const Value& c) noexcept {
+    if (b.type == Type::Double && c.type == Type::Double) [[likely]] {
+        return c.d != 0.0 && putFinite(to, b.d / c.d);
+    }
     if (isReal(b) && isReal(c)) {
         const double divisor = real(c);
         return divisor != 0.0 && putFinite(to, real(b) / divisor);
@@ -165,7 +178,7 @@ inline bool related(Number b, Number c) noexcept {
 // Two numbers compared.
 template <Opcode op>
 [[gnu::always_inline]] inline bool compared(bool& holds, const Value& b, const Value& c) noexcept {
-    if (bothWhole(b, c)) [[likely]] {
+    if (evenly(bothWhole(b, c))) {
         holds = related<op>(b.n, c.n);
         return true;
     }
@@ -292,80 +305,6 @@ template <bool (*road)(bool&, const Value&, const Value&) noexcept>
 template <bool (*road)(Value&, const Value&, std::int8_t) noexcept>
 [[gnu::noinline]] bool lookThrough(Value& to, const Value& b, std::int8_t c) noexcept {
     return road(to, b.deref(), c);
-}
-
-// The element of an array of one dimension; base and index may be references.
-[[gnu::always_inline]] inline bool element(Value& to, const Value& from, const Value& index, Store store) noexcept {
-    const Value& base = from.deref();
-    const Value& at = index.deref();
-    if (base.type == Type::Array && at.isWhole()) [[likely]] {
-        const ArrayBlock& array = *base.array();
-        if (array.dimensions() == 1 && static_cast<std::uint64_t>(at.n) < array.count()) [[likely]] {
-            const Value& found = array.elements()[at.n];
-            if (!found.isCounted()) [[likely]] {
-                put(to, found.type, found.n);
-                return true;
-            }
-            if (goesAsItIs(found.type, store) && dropsQuietly(to)) {
-                to = Value(found);
-                return true;
-            }
-        }
-    }
-    return false;
-}
-
-[[gnu::always_inline]] inline bool element2(Value& to, const Value& from, const Value& first,
-                                            const Value& second) noexcept {
-    const Value& base = from.deref();
-    const Value& c = first.deref();
-    const Value& d = second.deref();
-    if (base.type == Type::Array && bothWhole(c, d)) [[likely]] {
-        const ArrayBlock& array = *base.array();
-        if (array.dimensions() == 2 && static_cast<std::uint64_t>(c.n) < static_cast<std::uint64_t>(array.size(0)) &&
-            static_cast<std::uint64_t>(d.n) < static_cast<std::uint64_t>(array.size(1))) [[likely]] {
-            const Value& found = array.elements()[c.n + d.n * array.size(0)];
-            if (!found.isCounted()) [[likely]] {
-                put(to, found.type, found.n);
-                return true;
-            }
-        }
-    }
-    return false;
-}
-
-// A number into an element of an array that nobody else shares.
-[[gnu::always_inline]] inline bool storeElement(Value& into, const Value& index, const Value& from) noexcept {
-    Value& base = into.deref();
-    const Value& at = index.deref();
-    const Value& value = from.deref();
-    if (base.type == Type::Array && at.isWhole() && isPlain(value)) [[likely]] {
-        ArrayBlock& array = *base.array();
-        if (array.references == 1 && array.dimensions() == 1 && static_cast<std::uint64_t>(at.n) < array.count())
-            [[likely]] {
-            put(array.elements()[at.n], value.type, value.n);
-            return true;
-        }
-    }
-    return false;
-}
-
-[[gnu::always_inline]] inline bool storeElement2(Value& into, const Value& first, const Value& second,
-                                                 const Value& from) noexcept {
-    Value& base = into.deref();
-    const Value& b = first.deref();
-    const Value& c = second.deref();
-    const Value& value = from.deref();
-    if (base.type == Type::Array && bothWhole(b, c) && isPlain(value)) [[likely]] {
-        ArrayBlock& array = *base.array();
-        if (array.references == 1 && array.dimensions() == 2 &&
-            static_cast<std::uint64_t>(b.n) < static_cast<std::uint64_t>(array.size(0)) &&
-            static_cast<std::uint64_t>(c.n) < static_cast<std::uint64_t>(array.size(1))) [[likely]] {
-            put(array.elements()[b.n + c.n * array.size(0)], value.type, value.n);
-            return true;
-        }
-    }
-    return false;
 }
 
 // The counter of a For loop without a Step goes on; false, and nothing has changed, if the loop ends or an operand is
