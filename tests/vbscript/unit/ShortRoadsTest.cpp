@@ -139,6 +139,18 @@ std::vector<Value> operands() {
     return all;
 }
 
+// Those that the others meet: a third of the borders, and everything that is no number.
+std::vector<Value> partners() {
+    const std::vector<Value> all = operands();
+    std::vector<Value> some;
+    for (std::size_t i = 0; i < all.size(); ++i) {
+        if (i % 3 == 0 || all[i].type > Type::Double) {
+            some.push_back(all[i]);
+        }
+    }
+    return some;
+}
+
 class ShortRoads : public ::testing::Test {
 protected:
     ShortRoads() { control.addObject(u"bench", Ref<Object>(bench.get())); }
@@ -166,12 +178,13 @@ std::string filledIn(std::string text, const std::string& sign, const std::strin
 
 TEST_F(ShortRoads, everyOperatorGivesTheSameFromEveryPlace) {
     const std::vector<Value> all = operands();
+    const std::vector<Value> others = partners();
     for (const Operation& operation : operations()) {
         bench->name = operation.sign;
         bench->operation = operation.function;
         const std::string values = filledIn(valuesOfEveryPlace, operation.sign);
         for (const Value& x : all) {
-            for (const Value& y : all) {
+            for (const Value& y : others) {
                 bench->x = x;
                 bench->y = y;
                 bench->notes = 0;
@@ -184,6 +197,7 @@ TEST_F(ShortRoads, everyOperatorGivesTheSameFromEveryPlace) {
 
 TEST_F(ShortRoads, everyConditionHoldsOrNotFromEveryPlace) {
     const std::vector<Value> all = operands();
+    const std::vector<Value> others = partners();
     for (const Operation& operation : operations()) {
         if (!operation.isComparison && std::string(operation.sign) != "And") {
             continue;
@@ -192,7 +206,7 @@ TEST_F(ShortRoads, everyConditionHoldsOrNotFromEveryPlace) {
         bench->operation = operation.function;
         const std::string conditions = filledIn(conditionsOfEveryPlace, operation.sign);
         for (const Value& x : all) {
-            for (const Value& y : all) {
+            for (const Value& y : others) {
                 bench->x = x;
                 bench->y = y;
                 bench->notes = 0;
