@@ -52,7 +52,7 @@ QString textoDe(ColorPuerto color) {
 
 std::string causaDe(const std::error_code& fallo) {
     if (fallo == std::errc::address_in_use)
-        return "está ocupado por otro programa";
+        return "ya está ocupado por otro programa o por el puerto de la estación";
     if (fallo == std::errc::permission_denied)
         return "sin permiso para puertos menores que 1024";
     return fallo.message();

@@ -276,7 +276,9 @@ private Q_SLOTS:
         const auto* puertos = ventana.findChild<QTreeWidget*>()->topLevelItem(0)->child(0);
         const auto* motivos = ventana.findChild<QLabel*>(QStringLiteral("lblMotivos"));
         const QString motivo =
-            QStringLiteral("No se puede abrir el puerto %1: está ocupado por otro programa").arg(ocupante.LocalPort());
+            QStringLiteral(
+                "No se puede abrir el puerto %1: ya está ocupado por otro programa o por el puerto de la estación")
+                .arg(ocupante.LocalPort());
         QCOMPARE(puertos->child(0)->foreground(0).color(), QColor(255, 0, 0));
         QCOMPARE(puertos->child(0)->toolTip(0), motivo);
         QCOMPARE(puertos->child(1)->toolTip(0), QStringLiteral("Espera a un cliente"));
