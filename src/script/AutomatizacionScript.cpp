@@ -54,6 +54,10 @@ FrmEdicionCodigo& AutomatizacionScript::editor() {
     return *editor_;
 }
 
+int AutomatizacionScript::lineaDe(const vbs::ScriptFailure& fallo) const {
+    return editor_ ? editor_->lineaDe(fallo) : static_cast<int>(fallo.line);
+}
+
 void AutomatizacionScript::iniciar() {
     ScriptControl1_.addObject(u"mw", vbs::Ref<vbs::Object>(mw_.get()));
     const std::string ejecutar = ajustes_.leerConfiguracion(claves::ejecutar);
@@ -130,7 +134,7 @@ void AutomatizacionScript::contarPasada() {
     const QString texto =
         fallo_.number != 0
             ? textoDeFallo(QStringLiteral("Con error a las ") + horaDelFallo_.toString(QStringLiteral("HH:mm:ss")),
-                           fallo_, static_cast<int>(fallo_.line))
+                           fallo_, lineaDe(fallo_))
             : QStringLiteral("Sin errores. Pasadas: %1; la última duró %2")
                   .arg(QString::number(pasadas.cuantas), textoDeDuracion(pasadas.ultima));
     ventana_.chScript.setToolTip(texto);

@@ -67,6 +67,10 @@ public:
     // The editor, made when there is none and not yet shown. It goes away when it is closed.
     FrmEdicionCodigo& editor();
 
+    // The line, from 1, that the operator is told for that failure: as the open editor numbers them, which may have
+    // empty lines at the head of the text that are not run.
+    int lineaDe(const vbs::ScriptFailure& fallo) const;
+
     const Pasadas& pasadas() const { return ejecutor_.pasadas(); }
 
     vbs::ScriptControl& ScriptControl1() { return ScriptControl1_; }

@@ -49,6 +49,7 @@ ColoresCodigo::ColoresCodigo(const QPalette& paleta) {
     lineaActual = mezcla(fondo, tinta, 0.07);
     lineaError = mezcla(fondo, QColor(255, 0, 0), 0.18);
     pareja = mezcla(fondo, tinta, 0.1);
+    hallazgo = QColor(255, 190, 0, 90);
     margen = mezcla(fondo, tinta, 0.05);
     // The darkest background that each of them meets on a light theme, the lightest on a dark one.
     palabra = legible(lineaError, 220);

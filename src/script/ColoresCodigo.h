@@ -20,6 +20,7 @@ struct ColoresCodigo {
     QColor lineaActual; // background
     QColor lineaError;  // background of the line where the running script failed
     QColor pareja;      // background of words and brackets that belong together
+    QColor hallazgo;    // veil over what was found
     QColor margen;      // background of the line numbers
     QColor numeroLinea;
 };

@@ -1,7 +1,8 @@
 // The controls of the script editor's window, their places and keys.
 #include "platform/window/Controles.h"
-#include "script/BarraBusqueda.h"
+#include "platform/window/PaginaManual.h"
 #include "script/BarraEjecucion.h"
+#include "script/BusquedaCodigo.h"
 #include "script/EditorCodigo.h"
 #include "script/FrmEdicionCodigo.h"
 #include "script/PanelEjecucion.h"
@@ -15,9 +16,10 @@
 #include <QVBoxLayout>
 
 void FrmEdicionCodigo::crearControles() {
+    ponerPaginaManual(*this, "editor.md");
     barra_ = new BarraEjecucion(ejecutor_, chScript_, this);
     txtCodigo_ = nombrado(new EditorCodigo(this), "txtCodigo", QStringLiteral("Código del script"));
-    busqueda_ = new BarraBusqueda(*txtCodigo_, this);
+    busqueda_ = std::make_unique<BusquedaCodigo>(*txtCodigo_, this);
     panel_ = new PanelEjecucion(ejecutor_, this);
     panel_->hide();
     partes_ = nombrado(new QSplitter(this), "partes", {});
@@ -39,7 +41,7 @@ void FrmEdicionCodigo::crearControles() {
     auto* columna = new QVBoxLayout(this);
     columna->addWidget(barra_);
     columna->addWidget(partes_, 1);
-    columna->addWidget(busqueda_);
+    columna->addWidget(&busqueda_->barra());
     columna->addLayout(estado);
     crearFilaInferior(*columna);
     resize(txtCodigo_->anchoMargen() + txtCodigo_->fontMetrics().horizontalAdvance(u'0') * 112,
@@ -57,9 +59,9 @@ void FrmEdicionCodigo::crearFilaInferior(QVBoxLayout& columna) {
     rotulo->setBuddy(txtIntervaloDeTiempo_);
     auto* btnBuscar =
         crearBoton(this, "btnBuscar", QStringLiteral("&Buscar"), QStringLiteral("Ctrl+F; reemplazar: Ctrl+H"));
-    connect(btnBuscar, &QPushButton::clicked, this, [this] { busqueda_->abrir(true); });
-    auto* btnAyuda = crearBoton(this, "btnAyuda", QStringLiteral("A&yuda"), QStringLiteral("F1"));
-    connect(btnAyuda, &QPushButton::clicked, this, &FrmEdicionCodigo::mostrarAyuda);
+    connect(btnBuscar, &QPushButton::clicked, this, [this] { busqueda_->barra().abrir(true); });
+    auto* btnAyuda = crearBoton(this, "btnAyuda", QStringLiteral("A&yuda"), QStringLiteral("El manual (F1)"));
+    connect(btnAyuda, &QPushButton::clicked, this, [this] { pedirManual(*txtCodigo_); });
     BtnGuardar_ = crearBoton(this, "BtnGuardar", QStringLiteral("&Guardar"), QStringLiteral("Ctrl+S"));
     BtnSalir_ = crearBoton(this, "BtnSalir", QStringLiteral("&Salir"), QStringLiteral("Cierra sin guardar"));
 
@@ -107,15 +109,14 @@ void FrmEdicionCodigo::crearTeclas() {
         connect(new QShortcut(secuencia, this), &QShortcut::activated, this, accion);
     };
     tecla(Qt::CTRL | Qt::Key_S, [this] { guardar(); });
-    tecla(Qt::CTRL | Qt::Key_F, [this] { busqueda_->abrir(false); });
-    tecla(Qt::CTRL | Qt::Key_H, [this] { busqueda_->abrir(true); });
+    tecla(Qt::CTRL | Qt::Key_F, [this] { busqueda_->barra().abrir(false); });
+    tecla(Qt::CTRL | Qt::Key_H, [this] { busqueda_->barra().abrir(true); });
     tecla(Qt::CTRL | Qt::Key_G, [this] { irALinea(); });
-    tecla(Qt::Key_F3, [this] { busqueda_->buscar(false); });
-    tecla(Qt::SHIFT | Qt::Key_F3, [this] { busqueda_->buscar(true); });
+    tecla(Qt::Key_F3, [this] { busqueda_->barra().buscar(true); });
+    tecla(Qt::SHIFT | Qt::Key_F3, [this] { busqueda_->barra().buscar(false); });
     tecla(Qt::Key_F5, [this] { barra_->alternarEjecucion(); });
     tecla(Qt::Key_F6, [this] { barra_->alternarPanel(); });
     tecla(Qt::Key_F8, [this] { irAlError(); });
-    tecla(Qt::Key_F1, [this] { mostrarAyuda(); });
     tecla(QKeySequence::ZoomIn, [this] { cambiarLetra(1); });
     tecla(QKeySequence::ZoomOut, [this] { cambiarLetra(-1); });
 }

@@ -9,6 +9,7 @@
 #include <QPainter>
 #include <QScrollBar>
 #include <QTextBlock>
+#include <QTextLayout>
 
 #include <algorithm>
 
@@ -197,9 +198,40 @@ void EditorCodigo::colorearVisibles() {
     }
 }
 
+void EditorCodigo::resaltar(const QString& patron, Qt::CaseSensitivity caja) {
+    patron_ = patron;
+    cajaPatron_ = caja;
+    viewport()->update();
+}
+
+// A veil and a line below, over the text.
+void EditorCodigo::pintarHallazgos() {
+    if (patron_.isEmpty())
+        return;
+    QPainter pintor(viewport());
+    QTextBlock linea = firstVisibleBlock();
+    QPointF esquina = blockBoundingGeometry(linea).translated(contentOffset()).topLeft();
+    for (; linea.isValid() && esquina.y() < viewport()->height(); linea = linea.next()) {
+        const QString texto = linea.text();
+        for (qsizetype i = texto.indexOf(patron_, 0, cajaPatron_); i >= 0;
+             i = texto.indexOf(patron_, i + patron_.size(), cajaPatron_)) {
+            const QTextLine fila = linea.layout()->lineForTextPosition(static_cast<int>(i));
+            if (!fila.isValid())
+                break;
+            const qreal x = fila.cursorToX(static_cast<int>(i));
+            const qreal ancho = fila.cursorToX(static_cast<int>(i + patron_.size())) - x;
+            const QRectF caja(esquina + QPointF(x, fila.y()), QSizeF(ancho, fila.height()));
+            pintor.fillRect(caja, colores().hallazgo);
+            pintor.fillRect(QRectF(caja.left(), caja.bottom() - 2, caja.width(), 2), palette().color(QPalette::Text));
+        }
+        esquina.ry() += blockBoundingRect(linea).height();
+    }
+}
+
 void EditorCodigo::paintEvent(QPaintEvent* evento) {
     colorearVisibles();
     QPlainTextEdit::paintEvent(evento);
+    pintarHallazgos();
 }
 
 void EditorCodigo::changeEvent(QEvent* evento) {

@@ -42,6 +42,9 @@ public:
     // Whether the line of the text cursor can be seen.
     bool cursorALaVista() const;
 
+    // Marks every occurrence that is in sight; empty: none.
+    void resaltar(const QString& patron, Qt::CaseSensitivity caja);
+
     // Replaces every occurrence as one step that can be undone; returns how many there were.
     int reemplazarTodo(const QString& buscado, const QString& nuevo, Qt::CaseSensitivity caja);
 
@@ -60,6 +63,7 @@ protected:
 
 private:
     void colorearVisibles();
+    void pintarHallazgos();
     void colocarMargen();
     void ponerMarcas();
     void ponerParejas(QList<QTextEdit::ExtraSelection>& marcas) const;
@@ -71,4 +75,6 @@ private:
     QTextCursor error_; // its selection is underlined; without one: no error
     QTextCursor fallo_; // in the line marked
     bool conFallo_ = false;
+    QString patron_; // whose occurrences are marked
+    Qt::CaseSensitivity cajaPatron_ = Qt::CaseInsensitive;
 };

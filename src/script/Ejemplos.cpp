@@ -26,7 +26,7 @@ Ejemplo ejemploDe(const QString& texto) {
 QList<Ejemplo> ejemplos() {
     prepararRecursos();
     QList<Ejemplo> todos;
-    const auto archivos = QDir(QStringLiteral(":/ejemplos")).entryInfoList();
+    const auto archivos = QDir(QStringLiteral(":/ejemplos")).entryInfoList({QStringLiteral("*.vbs")});
     for (const QFileInfo& archivo : archivos) {
         QFile recurso(archivo.filePath());
         if (recurso.open(QIODevice::ReadOnly))

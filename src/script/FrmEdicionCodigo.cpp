@@ -6,11 +6,12 @@
 #include "platform/text/Numbers.h"
 #include "platform/window/Controles.h"
 #include "platform/window/MsgBox.h"
+#include "platform/window/PaginaManual.h"
 #include "registers/ErrorEjecucion.h"
-#include "script/AyudaMW.h"
-#include "script/BarraBusqueda.h"
+#include "script/BusquedaCodigo.h"
 #include "script/EditorCodigo.h"
 #include "script/FalloScript.h"
+#include "script/OperacionesMW.h"
 #include "script/PanelEjecucion.h"
 #include "script/PeriodoScript.h"
 
@@ -56,6 +57,8 @@ FrmEdicionCodigo::FrmEdicionCodigo(const Modulo_Codigo& codigo, Ajustes& ajustes
     crearTeclas();
     cargar();
 }
+
+FrmEdicionCodigo::~FrmEdicionCodigo() = default;
 
 // ---------------------------------------------------------------------------------------------------------------
 // file and period
@@ -250,9 +253,12 @@ void FrmEdicionCodigo::irAlError() {
 }
 
 void FrmEdicionCodigo::irAlFallo(const vbs::ScriptFailure& fallo) {
-    const int linea = fallo == fallo_ ? lineaParaDecir() : static_cast<int>(fallo.line) + lineasVaciasAlPrincipio();
-    txtCodigo_->irA(linea, static_cast<int>(fallo.column));
+    txtCodigo_->irA(lineaDe(fallo), static_cast<int>(fallo.column));
     txtCodigo_->setFocus();
+}
+
+int FrmEdicionCodigo::lineaDe(const vbs::ScriptFailure& fallo) const {
+    return fallo == fallo_ ? lineaParaDecir() : static_cast<int>(fallo.line) + lineasVaciasAlPrincipio();
 }
 
 // ---------------------------------------------------------------------------------------------------------------
@@ -271,6 +277,21 @@ void FrmEdicionCodigo::mostrarPosicion() {
     const QTextCursor cursor = txtCodigo_->textCursor();
     lblPosicion_->setText(
         QStringLiteral("Línea %1, columna %2").arg(cursor.blockNumber() + 1).arg(cursor.positionInBlock() + 1));
+    ponerPaginaManual(*txtCodigo_, cursorEnMW() ? "scripts.md#lo-que-ofrece-mw" : "editor.md");
+}
+
+// Whether the text cursor stands in "mw" or in the name of one of its operations.
+bool FrmEdicionCodigo::cursorEnMW() const {
+    QTextCursor palabra = txtCodigo_->textCursor();
+    palabra.select(QTextCursor::WordUnderCursor);
+    const QString nombre = palabra.selectedText();
+    const auto todas = operacionesMW();
+    return nombre.compare(QLatin1String("mw"), Qt::CaseInsensitive) == 0 ||
+           std::any_of(todas.begin(), todas.end(), [&](const OperacionMW& una) {
+               const std::string_view suyo = una.nombre();
+               return nombre.compare(QLatin1String(suyo.data(), static_cast<qsizetype>(suyo.size())),
+                                     Qt::CaseInsensitive) == 0;
+           });
 }
 
 void FrmEdicionCodigo::irALinea() {
@@ -287,16 +308,6 @@ void FrmEdicionCodigo::cambiarLetra(int puntos) {
     QFont letra = txtCodigo_->font();
     letra.setPointSize(std::clamp(letra.pointSize() + puntos, letraMinima, letraMaxima));
     txtCodigo_->setFont(letra);
-}
-
-void FrmEdicionCodigo::mostrarAyuda() {
-    if (!ayuda_) {
-        ayuda_ = new AyudaMW(this);
-        ayuda_->setAttribute(Qt::WA_DeleteOnClose);
-    }
-    ayuda_->show();
-    ayuda_->raise();
-    ayuda_->activateWindow();
 }
 
 // Puts a sample in place of the text, which may have to be asked for; nothing is saved by it.

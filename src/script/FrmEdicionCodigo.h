@@ -14,9 +14,8 @@
 #include <QWidget>
 
 class Ajustes;
-class AyudaMW;
-class BarraBusqueda;
 class BarraEjecucion;
+class BusquedaCodigo;
 class EditorCodigo;
 class EjecutorScript;
 class Eventos;
@@ -36,12 +35,16 @@ public:
     // new period; of `ejecutor` the variables, the console and the times are shown.
     FrmEdicionCodigo(const Modulo_Codigo& codigo, Ajustes& ajustes, QCheckBox& chScript, EjecutorScript& ejecutor,
                      Eventos& eventos, QWidget* padre);
+    ~FrmEdicionCodigo() override;
 
     // Tells the outcome of a pass of the script; number 0: good. Cheap when nothing has changed.
     void mostrarFallo(const vbs::ScriptFailure& fallo);
 
     // Puts the text cursor where that failure of a pass was, and the focus there.
     void irAlFallo(const vbs::ScriptFailure& fallo);
+
+    // The line of the text, from 1, where that failure of a pass was: as this window numbers them.
+    int lineaDe(const vbs::ScriptFailure& fallo) const;
 
     // True when the period is one that is admitted. Else says why, puts the fallback there and takes the focus back;
     // the window may be gone when the message is closed.
@@ -64,12 +67,12 @@ private:
     bool periodoPendienteValido();
     void irALinea();
     void irAlError();
-    void mostrarAyuda();
     void cambiarLetra(int puntos);
     void ponerEjemplo(const QString& texto);
     void mostrarPanel(bool visible);
     void mostrarTitulo();
     void mostrarPosicion();
+    bool cursorEnMW() const;
     void mostrarEstado();
     int lineasVaciasAlPrincipio() const;
     int lineaDelFallo() const;
@@ -89,11 +92,10 @@ private:
     QLineEdit* txtIntervaloDeTiempo_ = nullptr;
     QPushButton* BtnGuardar_ = nullptr;
     QPushButton* BtnSalir_ = nullptr;
-    BarraBusqueda* busqueda_ = nullptr;
+    std::unique_ptr<BusquedaCodigo> busqueda_;
     QLabel* lblEstado_ = nullptr;
     QLabel* lblPosicion_ = nullptr;
     ComprobadorCodigo* comprobador_ = nullptr;
-    QPointer<AyudaMW> ayuda_;
 
     QString periodoCargado_;
     bool periodoPendiente_ = false; // the box has lost the focus and is still to be checked

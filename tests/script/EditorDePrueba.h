@@ -9,6 +9,7 @@
 #include "script/EjecutorScript.h"
 #include "script/FrmEdicionCodigo.h"
 
+#include <QAbstractButton>
 #include <QCheckBox>
 #include <QPointer>
 #include <QPushButton>
@@ -52,7 +53,7 @@ protected:
         return *hallado;
     }
     EditorCodigo& txtCodigo() const { return control<EditorCodigo>("txtCodigo"); }
-    void clic(const char* boton) const { QTest::mouseClick(&control<QPushButton>(boton), Qt::LeftButton); }
+    void clic(const char* boton) const { QTest::mouseClick(&control<QAbstractButton>(boton), Qt::LeftButton); }
     void tecla(Qt::Key cual, Qt::KeyboardModifiers con = {}) const {
         QTest::keyClick(QApplication::focusWidget(), cual, con);
     }

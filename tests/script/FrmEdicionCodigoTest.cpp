@@ -3,13 +3,12 @@
 #include "script/FrmEdicionCodigo.h"
 
 #include "CajaDeMensaje.h"
-#include "script/BarraBusqueda.h"
+#include "platform/window/PaginaManual.h"
 #include "script/EditorDePrueba.h"
 
 #include <QLabel>
 #include <QLineEdit>
 #include <QTextBlock>
-#include <QTextBrowser>
 
 namespace {
 
@@ -513,10 +512,10 @@ private Q_SLOTS:
         QCOMPARE(mensajeBusqueda(), QString());
         tecla(Qt::Key_F3);
         QCOMPARE(seleccionado(), QStringLiteral("uno"));
-        QCOMPARE(mensajeBusqueda(), QStringLiteral("Se siguió desde el principio"));
+        QCOMPARE(mensajeBusqueda(), QStringLiteral("Desde el principio"));
         tecla(Qt::Key_F3, Qt::ShiftModifier);
         QCOMPARE(seleccionado(), QStringLiteral("UNO"));
-        QCOMPARE(mensajeBusqueda(), QStringLiteral("Se siguió desde el final"));
+        QCOMPARE(mensajeBusqueda(), QStringLiteral("Desde el final"));
         tecla(Qt::Key_Escape);
         QVERIFY(txtCodigo().hasFocus());
         QVERIFY(!control<QWidget>("barraBusqueda").isVisible());
@@ -547,15 +546,36 @@ private Q_SLOTS:
         tecla(Qt::Key_F, Qt::ControlModifier);
         QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("tres"));
         tecla(Qt::Key_Return);
-        QCOMPARE(mensajeBusqueda(), QStringLiteral("No se encontró"));
+        QCOMPARE(mensajeBusqueda(), QStringLiteral("No se encuentra"));
+    }
+
+    void findMarksEveryOccurrenceInSight() {
+        abrirCon("x = 1\r\nuno = 2\r\nuno = 3");
+        QWidget& zona = *txtCodigo().viewport();
+        const auto cambiados = [&](const QImage& antes) {
+            const QImage ahora = zona.grab().toImage();
+            int filas = 0;
+            for (int y = 0; y < ahora.height(); ++y)
+                filas += ahora.copy(0, y, ahora.width(), 1) == antes.copy(0, y, antes.width(), 1) ? 0 : 1;
+            return filas;
+        };
+        tecla(Qt::Key_F, Qt::ControlModifier);
+        QTRY_VERIFY(control<QWidget>("barraBusqueda").height() > 20);
+        const QImage antes = zona.grab().toImage();
+        QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("uno"));
+        const int alto = txtCodigo().fontMetrics().height();
+        QVERIFY2(cambiados(antes) >= 2 * alto - 2, qPrintable(QString::number(cambiados(antes))));
+        tecla(Qt::Key_Escape);
+        const QImage despues = zona.grab().toImage();
+        tecla(Qt::Key_F, Qt::ControlModifier);
+        QVERIFY(cambiados(despues) >= 2 * alto - 2);
     }
 
     void findHeedsCaseWhenToldTo() {
         abrirCon("uno UNO");
         tecla(Qt::Key_F, Qt::ControlModifier);
         QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("UNO"));
-        auto& casilla = control<QCheckBox>("chMayusculas");
-        QTest::mouseClick(&casilla, Qt::LeftButton, {}, QPoint(8, casilla.height() / 2));
+        clic("chMayusculas");
         clic("btnSiguiente");
         QCOMPARE(seleccionado(), QStringLiteral("UNO"));
         QCOMPARE(txtCodigo().textCursor().selectionStart(), 4);
@@ -595,17 +615,13 @@ private Q_SLOTS:
 
     // --------------------------------------------------------------------------------------------- other keys
 
-    void f1OpensTheHelpOnMw() {
-        abrir();
-        tecla(Qt::Key_F1);
-        auto* ayuda = frm_->findChild<QWidget*>(QStringLiteral("AyudaMW"));
-        QVERIFY(ayuda != nullptr && ayuda->isVisible());
-        const QString texto = ayuda->findChild<QTextBrowser*>()->toPlainText();
-        for (const char* operacion : {"leer", "escribir", "escribir_C2", "escribir_bit", "SINGLEINT", "NBit",
-                                      "SetearBIT_YDevolverPalabra", "darValorEsclavoLogico", "ejecucion_timers"})
-            QVERIFY2(texto.contains(QStringLiteral("mw.") + QLatin1String(operacion)), operacion);
-        QTest::keyClick(ayuda, Qt::Key_Escape);
-        QVERIFY(!ayuda->isVisible());
+    void f1AsksForThePageOfWhatTheCursorStandsIn() {
+        abrirCon("x = 1\r\nmw.escribir 1, 0, x");
+        QCOMPARE(paginaManualDe(QApplication::focusWidget()), QStringLiteral("editor.md"));
+        tecla(Qt::Key_Down);
+        QCOMPARE(paginaManualDe(QApplication::focusWidget()), QStringLiteral("scripts.md#lo-que-ofrece-mw"));
+        tecla(Qt::Key_End);
+        QCOMPARE(paginaManualDe(QApplication::focusWidget()), QStringLiteral("editor.md"));
     }
 
     void textCanBeMadeLargerAndSmaller() {

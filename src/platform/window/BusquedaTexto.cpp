@@ -4,16 +4,14 @@
 
 #include <algorithm>
 
-namespace {
-
-void aMinusculas(std::u16string& texto) {
-    std::transform(texto.begin(), texto.end(), texto.begin(), [](char16_t c) { return QChar(c).toLower().unicode(); });
+BusquedaTexto::BusquedaTexto(std::u16string_view patron, bool conCaja) : patron_(patron), conCaja_(conCaja) {
+    doblar(patron_);
 }
 
-} // namespace
-
-BusquedaTexto::BusquedaTexto(std::u16string_view patron) : patron_(patron) {
-    aMinusculas(patron_);
+void BusquedaTexto::doblar(std::u16string& texto) const {
+    if (!conCaja_)
+        std::transform(texto.begin(), texto.end(), texto.begin(),
+                       [](char16_t c) { return QChar(c).toLower().unicode(); });
 }
 
 std::vector<BusquedaTexto::Hallazgo> BusquedaTexto::en(const TextoBytes& texto, std::size_t desde,
@@ -24,7 +22,7 @@ std::vector<BusquedaTexto::Hallazgo> BusquedaTexto::en(const TextoBytes& texto, 
     // An occurrence that begins in the last byte reaches over as many bytes more; a CR may show nothing.
     const std::size_t fin = std::min(texto.size(), hasta + 2 * patron_.size());
     std::u16string pajar = texto.texto(desde, fin);
-    aMinusculas(pajar);
+    doblar(pajar);
     std::size_t hallado = pajar.find(patron_);
     if (hallado == std::u16string::npos)
         return hallazgos;

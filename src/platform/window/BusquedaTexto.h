@@ -1,4 +1,4 @@
-// Finding a pattern in what a TextoBytes shows, without regard to case.
+// Finding a pattern in what a TextoBytes shows, with regard to case or without.
 //
 // A text is searched piece by piece, so that the caller may pause between two pieces of a large one.
 #pragma once
@@ -17,7 +17,7 @@ public:
     };
 
     BusquedaTexto() = default;
-    explicit BusquedaTexto(std::u16string_view patron);
+    explicit BusquedaTexto(std::u16string_view patron, bool conCaja = false);
 
     bool empty() const { return patron_.empty(); }
 
@@ -25,5 +25,8 @@ public:
     std::vector<Hallazgo> en(const TextoBytes& texto, std::size_t desde, std::size_t hasta) const;
 
 private:
-    std::u16string patron_; // in small letters
+    void doblar(std::u16string& texto) const;
+
+    std::u16string patron_; // in small letters, unless the case counts
+    bool conCaja_ = false;
 };

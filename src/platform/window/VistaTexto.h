@@ -6,13 +6,15 @@
 // stays where the operator looks; a selection stays, whatever comes.
 //
 // Ctrl+F searches, Ctrl+S saves to a file, Ctrl+P freezes what is shown while the text behind goes on; the context menu
-// has them too.
+// and the buttons beside the text
+// have them too.
 //
 // The base class's document follows soon after, for those who read the box from outside (toPlainText(), assistive
 // tools): it holds the whole text up to `maximoEspejo` bytes, of a longer one the rows on the screen. texto() and the
 // property `plainText` have all of it at any time.
 #pragma once
 
+#include "platform/window/BarraBusqueda.h"
 #include "platform/window/BusquedaTexto.h"
 #include "platform/window/FilasTexto.h"
 #include "platform/window/TextoBytes.h"
@@ -26,9 +28,9 @@
 #include <span>
 #include <string_view>
 
-class BarraHallar;
+class BarraMonitor;
 
-class VistaTexto : public QPlainTextEdit {
+class VistaTexto : public QPlainTextEdit, private DondeBuscar {
     Q_OBJECT
     Q_PROPERTY(QString plainText READ texto)
 
@@ -65,11 +67,14 @@ public:
 
     // The search bar, with the caret in it.
     void abrirBusqueda();
+    // The next or previous occurrence of what the bar looks for (F3, Shift+F3).
+    void buscarOtraVez(bool adelante);
     // Looks for the text after (before) the selection, and over the end on from the other end; selects what it finds.
     // Ends with busquedaTerminada(), later when the text is large.
-    void buscar(const QString& patron, bool adelante);
+    void buscar(const QString& patron, Qt::CaseSensitivity caja, bool adelante) override;
+    void buscar(const QString& patron, bool adelante) { buscar(patron, Qt::CaseInsensitive, adelante); }
     // Marks every occurrence; empty: none.
-    void resaltar(const QString& patron);
+    void resaltar(const QString& patron, Qt::CaseSensitivity caja = Qt::CaseInsensitive) override;
 
     // Asks for a file and writes what is shown at this moment, as UTF-8 with CR LF.
     void guardar();
@@ -104,7 +109,7 @@ protected:
     void moverAlFinal();
 
 private:
-    // Painting and scrolling (VistaTexto.cpp)
+    // Painting and scrolling (VistaTextoPintado.cpp, VistaTexto.cpp)
     FilasTexto filas() const { return {bytes(), columnas()}; }
     int columnas() const;
     int filasVisibles() const;
@@ -134,7 +139,13 @@ private:
     void ensenar(std::size_t posicion);
     std::size_t posicionEn(QPointF punto) const;
     void copiar() const;
+
+    // Search and its bar (VistaTextoBusqueda.cpp)
     void seguirBuscando();
+    void terminarBusqueda(bool hallado);
+    QString seleccionParaBuscar() const override;
+    void barraMostrada(bool mostrada) override;
+    void colocarBarras();
 
     qreal anchoCaracter_ = 1; // pixels
     TextoBytes texto_;
@@ -159,5 +170,7 @@ private:
     std::size_t buscadoHasta_ = 0; // where the next piece begins, or ends when searching backwards
     std::size_t porBuscar_ = 0;    // bytes
     QTimer busquedaTurno_;
-    BarraHallar* barra_ = nullptr; // made on first use
+    bool barraALaVista_ = false;
+    BarraBusqueda* barra_ = nullptr;  // made on first use
+    BarraMonitor* botones_ = nullptr; // made when first shown
 };

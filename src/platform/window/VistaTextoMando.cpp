@@ -1,11 +1,9 @@
-// Caret, selection, search, keys, mouse and menu of a VistaTexto.
-#include "platform/window/BarraHallar.h"
+// Caret, selection, keys, mouse and menu of a VistaTexto.
 #include "platform/window/GuardadoTexto.h"
 #include "platform/window/VistaTexto.h"
 
 #include <QClipboard>
 #include <QContextMenuEvent>
-#include <QDeadlineTimer>
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMenu>
@@ -14,13 +12,9 @@
 
 #include <algorithm>
 #include <array>
-#include <chrono>
-
-using namespace std::chrono_literals;
 
 namespace {
 
-constexpr auto turnoDeBusqueda = 8ms;
 constexpr int margen = 4;
 
 bool esDePalabra(std::uint8_t b) {
@@ -125,6 +119,8 @@ void VistaTexto::keyPressEvent(QKeyEvent* evento) {
         copiar();
     } else if (evento->matches(QKeySequence::Find)) {
         abrirBusqueda();
+    } else if (evento->key() == Qt::Key_F3) {
+        buscarOtraVez((evento->modifiers() & Qt::ShiftModifier) == 0);
     } else if (evento->matches(QKeySequence::Save)) {
         guardar();
     } else if (ctrl && evento->key() == Qt::Key_P) {
@@ -203,58 +199,6 @@ void VistaTexto::contextMenuEvent(QContextMenuEvent* evento) {
     pausa->setCheckable(true);
     pausa->setChecked(pausada());
     menu->popup(evento->globalPos());
-}
-
-void VistaTexto::abrirBusqueda() {
-    if (barra_ == nullptr)
-        barra_ = new BarraHallar(*this);
-    barra_->abrir(haySeleccion() ? seleccion() : QString());
-}
-
-void VistaTexto::resaltar(const QString& patron) {
-    resaltado_ = BusquedaTexto(patron.toStdU16String());
-    viewport()->update();
-}
-
-// Searched is once round the text, and the first piece a second time: the selection lies within it.
-void VistaTexto::buscar(const QString& patron, bool adelante) {
-    busqueda_ = BusquedaTexto(patron.toStdU16String());
-    adelante_ = adelante;
-    buscadoHasta_ = std::min(ancla_, posicion_);
-    if (adelante && haySeleccion())
-        ++buscadoHasta_;
-    porBuscar_ = busqueda_.empty() ? 0 : bytes().size() + 1;
-    seguirBuscando();
-}
-
-void VistaTexto::seguirBuscando() {
-    const QDeadlineTimer plazo(turnoDeBusqueda);
-    const std::size_t fin = bytes().size();
-    while (porBuscar_ > 0 && !plazo.hasExpired()) {
-        if (adelante_ && buscadoHasta_ >= fin)
-            buscadoHasta_ = 0;
-        else if (!adelante_ && (buscadoHasta_ == 0 || buscadoHasta_ > fin))
-            buscadoHasta_ = fin;
-        const std::size_t desde =
-            adelante_ ? buscadoHasta_ : buscadoHasta_ - std::min(buscadoHasta_, BusquedaTexto::pieza);
-        const std::size_t hasta = adelante_ ? std::min(fin, desde + BusquedaTexto::pieza) : buscadoHasta_;
-        const auto hallazgos = busqueda_.en(bytes(), desde, hasta);
-        if (!hallazgos.empty()) {
-            const auto& hallazgo = adelante_ ? hallazgos.front() : hallazgos.back();
-            porBuscar_ = 0;
-            busquedaTurno_.stop();
-            mover(hallazgo.desde, false);
-            mover(hallazgo.hasta, true);
-            Q_EMIT busquedaTerminada(true);
-            return;
-        }
-        porBuscar_ -= std::min(porBuscar_, std::max<std::size_t>(hasta - desde, 1));
-        buscadoHasta_ = adelante_ ? hasta : desde;
-    }
-    if (porBuscar_ > 0)
-        return busquedaTurno_.start(0);
-    busquedaTurno_.stop();
-    Q_EMIT busquedaTerminada(false);
 }
 
 void VistaTexto::guardar() {

@@ -250,6 +250,62 @@ private Q_SLOTS:
         QTRY_COMPARE(vista.toPlainText(), QStringLiteral("x"));
     }
 
+    void searchHeedsCaseWhenToldTo() {
+        VistaTexto vista;
+        mostrarEnPantalla(vista);
+        vista.agregar("dos DOS");
+        vista.ponerAlDia();
+        QTest::keyClick(&vista, Qt::Key_F, Qt::ControlModifier);
+        auto* patron = vista.findChild<QLineEdit*>(QStringLiteral("txtBuscar"));
+        QTest::keyClicks(patron, QStringLiteral("DOS"));
+        QTest::mouseClick(vista.findChild<QToolButton*>(QStringLiteral("chMayusculas")), Qt::LeftButton);
+        QTest::keyClick(patron, Qt::Key_Return);
+        QCOMPARE(vista.seleccion(), QStringLiteral("DOS"));
+    }
+
+    void theSearchBarHidesNoRowAndF3GoesOnWithoutIt() {
+        VistaTexto vista;
+        mostrarEnPantalla(vista);
+        vista.agregar("dos\rdos\r");
+        vista.ponerAlDia();
+        const int alto = vista.viewport()->height();
+        QTest::keyClick(&vista, Qt::Key_F3); // nothing to look for yet
+        auto* patron = vista.findChild<QLineEdit*>(QStringLiteral("txtBuscar"));
+        QVERIFY(patron != nullptr && patron->isVisible());
+        const QWidget* const barra = patron->parentWidget();
+        QVERIFY(vista.viewport()->geometry().bottom() < barra->geometry().top());
+        QVERIFY(barra->geometry().bottom() < vista.height());
+        QTest::keyClicks(patron, QStringLiteral("dos"));
+        QTest::keyClick(patron, Qt::Key_Escape);
+        QCOMPARE(vista.viewport()->height(), alto);
+        for (const int esperada : {0, 4, 0}) {
+            QTest::keyClick(&vista, Qt::Key_F3);
+            QCOMPARE(vista.textCursor().selectionStart(), esperada);
+        }
+        QTest::keyClick(&vista, Qt::Key_F3, Qt::ShiftModifier);
+        QCOMPARE(vista.textCursor().selectionStart(), 4);
+    }
+
+    void buttonsBesideTheTextSearchAndPause() {
+        VistaTexto vista;
+        vista.setAccessibleName(QStringLiteral("Tramas"));
+        mostrarEnPantalla(vista);
+        const auto boton = [&](const char* nombre) { return vista.findChild<QToolButton*>(QLatin1String(nombre)); };
+        for (const char* nombre : {"btnBuscarTexto", "btnGuardarTexto", "btnPausarTexto"}) {
+            QVERIFY(boton(nombre)->isVisible());
+            QVERIFY2(boton(nombre)->toolTip().contains(QLatin1String("Ctrl+")), nombre);
+            QVERIFY2(boton(nombre)->accessibleName().endsWith(QLatin1String(": Tramas")), nombre);
+            QVERIFY(!vista.viewport()->geometry().intersects(boton(nombre)->parentWidget()->geometry()));
+        }
+        QTest::mouseClick(boton("btnPausarTexto"), Qt::LeftButton);
+        QVERIFY(vista.pausada());
+        QTest::keyClick(&vista, Qt::Key_P, Qt::ControlModifier);
+        QVERIFY(!vista.pausada());
+        QVERIFY(!boton("btnPausarTexto")->isChecked());
+        QTest::mouseClick(boton("btnBuscarTexto"), Qt::LeftButton);
+        QVERIFY(vista.findChild<QLineEdit*>(QStringLiteral("txtBuscar"))->isVisible());
+    }
+
     void searchSelectsTheNextOccurrenceRoundTheEnd() {
         VistaTexto vista;
         mostrarEnPantalla(vista);
@@ -268,7 +324,7 @@ private Q_SLOTS:
         }
         QTest::keyClick(patron, Qt::Key_F3, Qt::ShiftModifier);
         QCOMPARE(posicion(), 13);
-        QTest::mouseClick(vista.findChild<QToolButton*>(QStringLiteral("BtnAnterior")), Qt::LeftButton);
+        QTest::mouseClick(vista.findChild<QToolButton*>(QStringLiteral("btnAnterior")), Qt::LeftButton);
         QCOMPARE(posicion(), 4);
         QTest::keyClicks(patron, QStringLiteral("x"));
         QTest::keyClick(patron, Qt::Key_Return);
