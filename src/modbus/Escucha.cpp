@@ -15,12 +15,18 @@ public:
 
     bool conectada() const override { return socket.State() == WinsockState::connected; }
     std::string_view direccionRemota() const override { return socket.RemoteHostIP(); }
+    ExtremosTcp extremos() const override {
+        const WinsockEndpoint maestro = socket.RemoteEndpoint();
+        const WinsockEndpoint estacion = socket.LocalEndpoint();
+        return {{maestro.address, maestro.port}, {estacion.address, estacion.port}};
+    }
     bool enviar(std::span<const std::uint8_t> respuesta) override { return socket.SendData(respuesta); }
 
     void empezar(Maestro::Instante ahora) {
         desde = ahora;
         ultima.reset();
         peticiones = 0;
+        numero = 0;
     }
 
     Winsock socket;

@@ -14,4 +14,5 @@ void Monitores::borrarTramas() {
         if (monitor)
             monitor->borrar();
     todas_.borrar();
+    trafico.borrar();
 }

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <chrono>
 #include <exception>
 
 namespace {
@@ -21,6 +22,11 @@ void agregarNumero(std::string& texto, int numero) {
 
 } // namespace
 
+std::int64_t Reloj::microsegundos() {
+    using namespace std::chrono;
+    return duration_cast<std::chrono::microseconds>(system_clock::now().time_since_epoch()).count();
+}
+
 Peticiones::Peticiones(Esclavos& esclavos, Monitores& monitores, Reloj& reloj)
     : esclavos_(esclavos), monitores_(monitores), reloj_(reloj) {}
 
@@ -35,6 +41,8 @@ void Peticiones::atender(Bytes llegada, Conexion& conexion) noexcept {
 void Peticiones::recorrer(Bytes llegada, Conexion& conexion) {
     if (llegada.empty())
         return;
+    if (monitores_.verTxRx)
+        guardar(conexion, Trafico::Sentido::recibido, llegada);
     contar(llegada, conexion);
     if (llegada.size() <= trama::unidad)
         return;
@@ -109,7 +117,7 @@ Peticiones::Fin Peticiones::atenderLectura(Bytes peticion, Pagina& pagina, Conex
         return Fin::siguiente;
     if (monitores_.verTxRx) {
         trama::separadosPorBlanco(empezarLinea(" ( <-RX- Lectura ) "), peticion);
-        terminarLinea(pagina.numero());
+        terminarLinea(pagina.numero(), ClaseTrama::lectura);
     }
     if (!pagina.responder)
         return Fin::siguiente;
@@ -125,11 +133,11 @@ Peticiones::Fin Peticiones::atenderLectura(Bytes peticion, Pagina& pagina, Conex
 
     if (monitores_.verTxRx) {
         trama::conBlancoDelante(empezarLinea(" ( -TX-> Lectura ) "), respuesta);
-        terminarLinea(pagina.numero());
+        terminarLinea(pagina.numero(), ClaseTrama::lectura);
     }
     if (!conexion.conectada())
         return Fin::siguiente;
-    if (!conexion.enviar(respuesta))
+    if (!enviar(conexion, respuesta))
         return Fin::llegadaTerminada;
     ++contadores_[peticion[trama::unidad]].lecturas;
     return Fin::siguiente;
@@ -143,7 +151,7 @@ Peticiones::Fin Peticiones::atenderEscritura(Bytes peticion, Pagina& pagina, Con
         std::string& linea = empezarLinea(" ( <-RX- Escritura ). IP:");
         linea.append(conexion.direccionRemota());
         trama::conBlancoDelante(linea, peticion);
-        terminarLinea(pagina.numero());
+        terminarLinea(pagina.numero(), ClaseTrama::escritura);
     }
     esclavos_.darValorEsclavoLogico(pagina.numero(), trama::palabra(peticion, trama::direccion),
                                     trama::palabra(peticion, trama::valor), Autor::maestro);
@@ -157,10 +165,10 @@ Peticiones::Fin Peticiones::atenderEscritura(Bytes peticion, Pagina& pagina, Con
     respuesta[trama::funcion] = trama::escribirUno;
     if (monitores_.verTxRx) {
         trama::conBlancoDelante(empezarLinea(" ( -TX-> Escrituras ) "), respuesta);
-        terminarLinea(pagina.numero());
+        terminarLinea(pagina.numero(), ClaseTrama::escritura);
     }
     // Unlike a read answer it is sent without a look at the socket's state, on purpose.
-    if (!conexion.enviar(respuesta))
+    if (!enviar(conexion, respuesta))
         return Fin::llegadaTerminada;
     ++contadores_[peticion[trama::unidad]].escrituras;
     return Fin::siguiente;
@@ -194,14 +202,14 @@ void Peticiones::responderExcepcion(Bytes llegada, std::size_t i, Rechazo rechaz
             empezarLinea(" ( <-RX- DESBORDAMIENTO DE DIRECCI\xD3N ) ");
         }
         trama::conBlancoDetras(linea_, copia);
-        terminarLinea(esclavo);
+        terminarLinea(esclavo, ClaseTrama::otra);
     }
-    if (!conexion.enviar(respuesta))
+    if (!enviar(conexion, respuesta))
         return;
     ++contadores_[llegada[i + trama::unidad]].excepciones;
     if (monitores_.verTxRx) {
         trama::conBlancoDetras(empezarLinea(" ( -TX-> RESPUESTA ) "), respuesta);
-        terminarLinea(esclavo);
+        terminarLinea(esclavo, ClaseTrama::otra);
     }
 }
 
@@ -222,7 +230,21 @@ std::string& Peticiones::empezarLinea(std::string_view titulo) {
     return linea_;
 }
 
-void Peticiones::terminarLinea(int esclavo) {
+void Peticiones::terminarLinea(int esclavo, ClaseTrama clase) {
     linea_.append("\r\n");
-    monitores_.agregarTrama(esclavo, linea_);
+    monitores_.agregarTrama(esclavo, clase, linea_);
+}
+
+bool Peticiones::enviar(Conexion& conexion, Bytes respuesta) {
+    if (!conexion.enviar(respuesta))
+        return false;
+    if (monitores_.verTxRx)
+        guardar(conexion, Trafico::Sentido::enviado, respuesta);
+    return true;
+}
+
+void Peticiones::guardar(Conexion& conexion, Trafico::Sentido sentido, Bytes bytes) {
+    if (!monitores_.trafico.conocida(conexion.numero))
+        conexion.numero = monitores_.trafico.nuevaConexion(conexion.extremos());
+    monitores_.trafico.anotar(reloj_.microsegundos(), conexion.numero, sentido, bytes);
 }

@@ -27,7 +27,10 @@ public:
     virtual std::string_view direccionRemota() const = 0;             // dotted text
     virtual bool enviar(std::span<const std::uint8_t> respuesta) = 0; // false: the send failed
 
+    virtual ExtremosTcp extremos() const { return {}; } // asked once, when its first bytes are kept
+
     std::uint64_t peticiones = 0; // that came on it; Peticiones counts them
+    std::uint32_t numero = 0;     // under which its bytes are kept in Trafico; 0: none yet
 
 protected:
     ~Conexion() = default;
@@ -36,7 +39,8 @@ protected:
 // The wall clock of the monitor lines.
 class Reloj {
 public:
-    virtual std::string_view hora() = 0; // "HH:mm:ss", valid until the next call
+    virtual std::string_view hora() = 0;  // "HH:mm:ss", valid until the next call
+    virtual std::int64_t microsegundos(); // since 1970, UTC
 
 protected:
     ~Reloj() = default;
@@ -77,7 +81,9 @@ private:
 
     void anotarEscritura(Bytes peticion, const Conexion& conexion);
     std::string& empezarLinea(std::string_view titulo);
-    void terminarLinea(int esclavo);
+    void terminarLinea(int esclavo, ClaseTrama clase);
+    bool enviar(Conexion& conexion, Bytes respuesta);
+    void guardar(Conexion& conexion, Trafico::Sentido sentido, Bytes bytes);
 
     Esclavos& esclavos_;
     Monitores& monitores_;

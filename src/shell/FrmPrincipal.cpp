@@ -302,7 +302,7 @@ void FrmPrincipal::abrirFrmMW(int esclavo, int direccion, const QString& texto) 
 void FrmPrincipal::alternarTxRx(bool ver) {
     estacion_.monitores.verTxRx = ver;
     if (ver && !frmTxRx_)
-        frmTxRx_ = new FrmTxRx(*this, estacion_.monitores.todas());
+        frmTxRx_ = new FrmTxRx(*this, estacion_.monitores);
     if (!frmTxRx_)
         return;
     const bool activa = isActiveWindow();

@@ -1,21 +1,113 @@
 #include "shell/FrmTxRx.h"
 
-#include "modbus/VistaMonitor.h"
+#include "modbus/ArchivoPcap.h"
+#include "modbus/VistaTxRx.h"
+#include "platform/window/MsgBox.h"
+#include "platform/window/PaginaManual.h"
 #include "shell/AyudaContextual.h"
 
+#include <QCheckBox>
+#include <QFileDialog>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSaveFile>
 #include <QVBoxLayout>
 
-FrmTxRx::FrmTxRx(QWidget& principal, TextoMonitor& tramas) : QWidget(&principal, Qt::Window) {
+FrmTxRx::FrmTxRx(QWidget& principal, Monitores& monitores)
+    : QWidget(&principal, Qt::Window), monitores_(monitores), Text1_(new VistaTxRx(monitores, this)) {
     setObjectName(QStringLiteral("FrmTxRx"));
     setWindowTitle(QStringLiteral("TxRx"));
+    ponerPaginaManual(*this, "monitores.md#la-ventana-txrx");
     setWindowIcon(principal.windowIcon());
     setAttribute(Qt::WA_ShowWithoutActivating);
 
-    auto* Text1 = new VistaMonitor(tramas, this);
-    Text1->setObjectName(QStringLiteral("Text1"));
-    Text1->setAccessibleName(QStringLiteral("Tramas de todos los esclavos"));
+    Text1_->setObjectName(QStringLiteral("Text1"));
+    Text1_->setAccessibleName(QStringLiteral("Tramas de todos los esclavos"));
     auto* diseno = new QVBoxLayout(this);
-    diseno->addWidget(Text1);
-    resize(640, 360);
+    diseno->addLayout(crearMandos());
+    diseno->addWidget(lblFiltro_);
+    diseno->addWidget(Text1_, 1);
+    resize(fontMetrics().averageCharWidth() * 110, fontMetrics().height() * 24);
     ponerAyudaContextual(*this);
+}
+
+QCheckBox* FrmTxRx::casilla(const char* nombre, const QString& texto, const QString& ayuda, bool marcada) {
+    auto* nueva = new QCheckBox(texto, this);
+    nueva->setObjectName(QLatin1String(nombre));
+    nueva->setToolTip(ayuda);
+    nueva->setChecked(marcada);
+    connect(nueva, &QCheckBox::toggled, this, &FrmTxRx::filtrar);
+    return nueva;
+}
+
+QHBoxLayout* FrmTxRx::crearMandos() {
+    txtEsclavos_ = new QLineEdit(this);
+    txtEsclavos_->setObjectName(QStringLiteral("txtEsclavos"));
+    txtEsclavos_->setPlaceholderText(QStringLiteral("todos"));
+    txtEsclavos_->setToolTip(QStringLiteral("Los esclavos que se muestran, por ejemplo 1, 3-5; vacío, todos"));
+    txtEsclavos_->setClearButtonEnabled(true);
+    connect(txtEsclavos_, &QLineEdit::textChanged, this, &FrmTxRx::filtrar);
+    auto* rotulo = new QLabel(QStringLiteral("E&sclavos:"), this);
+    rotulo->setBuddy(txtEsclavos_);
+    chLecturas_ = casilla("chLecturas", QStringLiteral("&Lecturas"), QStringLiteral("Funciones 3 y 4"), true);
+    chEscrituras_ = casilla("chEscrituras", QStringLiteral("&Escrituras"), QStringLiteral("Función 6"), true);
+    chOtras_ = casilla("chOtras", QStringLiteral("&Otras"),
+                       QStringLiteral("Excepciones: funciones que no se sirven y lecturas demasiado largas"), true);
+    chHexadecimal_ =
+        casilla("chHexadecimal", QStringLiteral("&Hexadecimal"), QStringLiteral("Los bytes en hexadecimal"), false);
+    auto* guardar = new QPushButton(QStringLiteral("&Guardar tráfico…"), this);
+    guardar->setObjectName(QStringLiteral("btnGuardarTrafico"));
+    guardar->setToolTip(
+        QStringLiteral("Guarda los últimos 4 MB de peticiones y respuestas como captura para Wireshark"));
+    connect(guardar, &QPushButton::clicked, this, &FrmTxRx::guardarTrafico);
+    lblFiltro_ = new QLabel(QStringLiteral("No se entiende la lista de esclavos: escriba, por ejemplo, 1, 3-5"), this);
+    lblFiltro_->setObjectName(QStringLiteral("lblFiltro"));
+    lblFiltro_->hide();
+
+    auto* fila = new QHBoxLayout;
+    fila->addWidget(rotulo);
+    fila->addWidget(txtEsclavos_, 1);
+    for (QCheckBox* const una : {chLecturas_, chEscrituras_, chOtras_, chHexadecimal_})
+        fila->addWidget(una);
+    fila->addStretch(1);
+    fila->addWidget(guardar);
+    return fila;
+}
+
+void FrmTxRx::filtrar() {
+    const auto esclavos = leerEsclavos(txtEsclavos_->text().toStdString());
+    lblFiltro_->setVisible(!esclavos);
+    if (!esclavos)
+        return; // what was shown stays until the list is whole
+    FiltroTramas filtro;
+    filtro.esclavos = *esclavos;
+    filtro.clases = {chLecturas_->isChecked(), chEscrituras_->isChecked(), chOtras_->isChecked()};
+    filtro.hexadecimal = chHexadecimal_->isChecked();
+    Text1_->filtrar(filtro);
+}
+
+void FrmTxRx::guardarTrafico() {
+    if (monitores_.trafico.paquetes() == 0)
+        return avisarMsgBox(
+            this, QStringLiteral("No hay tráfico que guardar: se conserva mientras \"Ver TX/RX\" está marcada"),
+            vbInformation);
+    auto* dialogo = new QFileDialog(this, QStringLiteral("Guardar el tráfico"), QString(),
+                                    QStringLiteral("Captura (*.pcap);;Todos los archivos (*)"));
+    dialogo->setObjectName(QStringLiteral("dlgTrafico"));
+    dialogo->setAttribute(Qt::WA_DeleteOnClose);
+    dialogo->setOption(QFileDialog::DontUseNativeDialog);
+    dialogo->setAcceptMode(QFileDialog::AcceptSave);
+    dialogo->setDefaultSuffix(QStringLiteral("pcap"));
+    dialogo->selectFile(QStringLiteral("modbus.pcap"));
+    connect(dialogo, &QFileDialog::fileSelected, this, &FrmTxRx::escribirTrafico);
+    dialogo->open();
+}
+
+void FrmTxRx::escribirTrafico(const QString& archivo) {
+    QSaveFile salida(archivo);
+    const QByteArray bytes = QByteArray::fromStdString(comoPcap(monitores_.trafico));
+    if (!salida.open(QIODevice::WriteOnly) || salida.write(bytes) != bytes.size() || !salida.commit())
+        avisarMsgBox(this, QStringLiteral("No se pudo guardar %1: %2").arg(archivo, salida.errorString()), vbCritical);
 }

@@ -7,8 +7,8 @@ namespace {
 
 TEST(Monitors, frameLinesGoToTheirSlaveAndToTheCommonText) {
     Monitores monitores;
-    monitores.agregarTrama(1, "uno\r\n");
-    monitores.agregarTrama(200, "dos\r\n");
+    monitores.agregarTrama(1, ClaseTrama::lectura, "uno\r\n");
+    monitores.agregarTrama(200, ClaseTrama::lectura, "dos\r\n");
     EXPECT_EQ(monitores.tramas(1).texto(), "uno\r\n");
     EXPECT_EQ(monitores.tramas(200).texto(), "dos\r\n");
     EXPECT_EQ(monitores.tramas(2).texto(), "");
@@ -25,8 +25,8 @@ TEST(Monitors, frameMonitorStaysWhereItIsWhenOthersAreMade) {
 
 TEST(Monitors, borrarTramasClearsEveryFrameMonitorButNotTheWrites) {
     Monitores monitores;
-    monitores.agregarTrama(1, "uno\r\n");
-    monitores.agregarTrama(7, "dos\r\n");
+    monitores.agregarTrama(1, ClaseTrama::lectura, "uno\r\n");
+    monitores.agregarTrama(7, ClaseTrama::lectura, "dos\r\n");
     monitores.escrituras().agregar("tres\r\n");
     monitores.borrarTramas();
     EXPECT_EQ(monitores.tramas(1).texto(), "");
@@ -37,7 +37,7 @@ TEST(Monitors, borrarTramasClearsEveryFrameMonitorButNotTheWrites) {
 
 TEST(Monitors, borrarEscriturasClearsTheWritesOnly) {
     Monitores monitores;
-    monitores.agregarTrama(1, "uno\r\n");
+    monitores.agregarTrama(1, ClaseTrama::lectura, "uno\r\n");
     monitores.escrituras().agregar("dos\r\n");
     monitores.borrarEscrituras();
     EXPECT_EQ(monitores.escrituras().texto(), "");

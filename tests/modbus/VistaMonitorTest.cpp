@@ -86,7 +86,7 @@ private Q_SLOTS:
     void clearingEmptiesTheBox() {
         Monitores monitores;
         const VistaMonitor tramas(monitores.tramas(3));
-        monitores.agregarTrama(3, "linea\r\n");
+        monitores.agregarTrama(3, ClaseTrama::lectura, "linea\r\n");
         QTRY_COMPARE(tramas.toPlainText(), QStringLiteral("linea\n"));
         monitores.borrarTramas();
         QTRY_COMPARE(tramas.toPlainText(), QString());

@@ -3,6 +3,7 @@
 #include <arpa/inet.h>
 #include <array>
 #include <cerrno>
+#include <cstring>
 #include <netinet/in.h>
 #include <netinet/tcp.h>
 #include <sys/socket.h>
@@ -76,6 +77,22 @@ std::error_code bindTo(const Descriptor& socket, const Address& local) {
     return {};
 }
 
+WinsockEndpoint endpointOf(const Descriptor& socket, decltype(getsockname)* ask) {
+    sockaddr_storage end{};
+    socklen_t size = sizeof end;
+    WinsockEndpoint endpoint;
+    if (ask(socket.number(), reinterpret_cast<sockaddr*>(&end), &size) != 0)
+        return endpoint;
+    endpoint.port = portOf(end);
+    if (end.ss_family == AF_INET6) {
+        std::memcpy(endpoint.address.data(), &reinterpret_cast<const sockaddr_in6&>(end).sin6_addr, 16);
+    } else {
+        endpoint.address[10] = endpoint.address[11] = 0xFF;
+        std::memcpy(endpoint.address.data() + 12, &reinterpret_cast<const sockaddr_in&>(end).sin_addr, 4);
+    }
+    return endpoint;
+}
+
 // The call may succeed later on the same connection.
 bool isPassing(int error) {
     return error == EAGAIN || error == EINTR || error == ENOBUFS || error == ENOMEM;
@@ -115,6 +132,14 @@ std::uint16_t Winsock::RemotePort() const {
     const bool known = state_ == WinsockState::connected &&
                        getpeername(descriptor_.number(), reinterpret_cast<sockaddr*>(&peer), &size) == 0;
     return known ? portOf(peer) : std::uint16_t{0};
+}
+
+WinsockEndpoint Winsock::LocalEndpoint() const {
+    return state_ == WinsockState::connected ? endpointOf(descriptor_, getsockname) : WinsockEndpoint{};
+}
+
+WinsockEndpoint Winsock::RemoteEndpoint() const {
+    return state_ == WinsockState::connected ? endpointOf(descriptor_, getpeername) : WinsockEndpoint{};
 }
 
 std::error_code Winsock::Listen() {

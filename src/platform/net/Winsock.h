@@ -3,6 +3,7 @@
 #include "platform/net/Reactor.h"
 #include "platform/net/SendQueue.h"
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <span>
@@ -23,6 +24,12 @@ enum class WinsockState : std::uint8_t {
     connected = 7,
     closing = 8,
     error = 9,
+};
+
+// An address and a port; an IPv4 address in its IPv6 form, ::ffff:a.b.c.d.
+struct WinsockEndpoint {
+    std::array<std::uint8_t, 16> address{};
+    std::uint16_t port = 0;
 };
 
 // What a Winsock reports, always from within Reactor::turn() and never from an operation of the socket. Every call may
@@ -90,6 +97,10 @@ public:
 
     // The peer's port while connected, else 0.
     std::uint16_t RemotePort() const;
+
+    // Both ends of the connection; all zero while not connected.
+    WinsockEndpoint LocalEndpoint() const;
+    WinsockEndpoint RemoteEndpoint() const;
 
     // The arrival that is being reported; empty at any other time and after Close.
     std::span<const std::uint8_t> GetData() const { return arrival_; }
