@@ -36,17 +36,18 @@ constexpr Descripcion descripciones[] = {
     {"lblEnMarcha", "Tiempo desde que arrancó la estación"},
 };
 
-QString textoDeError(const Pasadas& pasadas) {
+// `linea` as the editor numbers it.
+QString textoDeError(const Pasadas& pasadas, int linea) {
     return textoDeFallo(pasadas.fallaAhora() ? QStringLiteral("Error") : QStringLiteral("Último error"), pasadas.error,
-                        static_cast<int>(pasadas.error.line));
+                        linea);
 }
 
-QString ayudaDeError(const Pasadas& pasadas) {
+QString ayudaDeError(const Pasadas& pasadas, int linea) {
     const QString cuando =
         pasadas.fallaAhora()
             ? QStringLiteral("La última pasada del script falló.")
             : QStringLiteral("Falló la pasada %1; la última terminó sin errores.").arg(pasadas.pasadaConError);
-    return textoDeError(pasadas) + u'\n' + cuando + QStringLiteral("\nPulse para ver la línea en el editor.");
+    return textoDeError(pasadas, linea) + u'\n' + cuando + QStringLiteral("\nPulse para ver la línea en el editor.");
 }
 
 } // namespace
@@ -136,9 +137,10 @@ void BarraEstado::mostrarScript() {
     campos_[pasadas]->setText(texto);
     if (vistas.error.number == 0)
         return;
-    textoError_ = textoDeError(vistas).simplified();
+    const int linea = estacion_.script().lineaDe(vistas.error);
+    textoError_ = textoDeError(vistas, linea).simplified();
     BtnErrorScript_->setAccessibleName(textoError_);
-    BtnErrorScript_->setToolTip(Qt::convertFromPlainText(ayudaDeError(vistas)));
+    BtnErrorScript_->setToolTip(Qt::convertFromPlainText(ayudaDeError(vistas, linea)));
 }
 
 // The error first, then as many fields as there is room for; the error's text takes what they leave.

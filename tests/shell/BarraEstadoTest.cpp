@@ -129,6 +129,23 @@ private Q_SLOTS:
         QVERIFY(editor->hasFocus() || editor->window()->focusWidget() == editor);
     }
 
+    void lineOfTheErrorIsThatOfTheOpenEditor() {
+        const EstacionVisible e;
+        e.ejecutarAMano();
+        e.script("z = 1 / 0\r\n");
+        e.pasada();
+        QVERIFY(QTest::qWaitFor([&] { return e.error().text().startsWith(QStringLiteral("Error, línea 1")); }));
+        QTest::mouseClick(&e.error(), Qt::LeftButton);
+        auto* editor = e.ventana->findChild<QPlainTextEdit*>(QStringLiteral("txtCodigo"));
+        editor->setPlainText(QStringLiteral("\n\nz = 1 / 0")); // the empty lines are not run
+        QVERIFY(QTest::qWaitFor([&] { return e.error().text().startsWith(QStringLiteral("Error, línea 3")); }));
+        QVERIFY(e.error().toolTip().contains(QStringLiteral("línea 3")));
+        e.pasada();
+        QHelpEvent senalar(QEvent::ToolTip, QPoint(3, 3), e.chScript().mapToGlobal(QPoint(3, 3)));
+        QApplication::sendEvent(&e.chScript(), &senalar);
+        QVERIFY2(e.chScript().toolTip().contains(QStringLiteral("línea 3")), qPrintable(e.chScript().toolTip()));
+    }
+
     void anErrorThatIsPastIsStillThereAndSaysSo() {
         const EstacionVisible e;
         e.ejecutarAMano();
