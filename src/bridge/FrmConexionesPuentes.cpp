@@ -2,6 +2,7 @@
 
 #include "platform/window/Contraste.h"
 #include "platform/window/Controles.h"
+#include "platform/window/PaginaManual.h"
 #include "platform/window/VistaTexto.h"
 
 #include <QCheckBox>
@@ -70,6 +71,7 @@ FrmConexionesPuentes::FrmConexionesPuentes(QWidget& principal, Puente& puente)
     : QWidget(&principal, Qt::Window), puente_(puente) {
     setObjectName(QStringLiteral("FrmConexionesPuentes"));
     setWindowTitle(QStringLiteral("Conexion Puente"));
+    ponerPaginaManual(*this, "puente.md");
     setWindowIcon(principal.windowIcon());
     auto* divisor = new QSplitter(Qt::Horizontal, this);
     divisor->addWidget(crearPuertos());

@@ -3,6 +3,7 @@
 #include "platform/locale/SystemLocale.h"
 #include "platform/window/Controles.h"
 #include "platform/window/MsgBox.h"
+#include "platform/window/PaginaManual.h"
 #include "registers/FrmGrafica.h"
 #include "registers/Pegado.h"
 #include "registers/TablaCsv.h"
@@ -97,6 +98,7 @@ void AccionesRegistros::irA() {
     dialogo->setAttribute(Qt::WA_DeleteOnClose);
     dialogo->setObjectName(QStringLiteral("dlgIrA"));
     dialogo->setWindowTitle(QStringLiteral("Ir al registro"));
+    ponerPaginaManual(*dialogo, "cuadricula.md#ir-a-un-registro");
     dialogo->setLabelText(QStringLiteral("Dirección, esclavo:dirección o nombre:"));
     dialogo->setOkButtonText(QStringLiteral("&Aceptar"));
     dialogo->setCancelButtonText(QStringLiteral("&Cancelar"));
@@ -135,6 +137,7 @@ void AccionesRegistros::exportar() {
     dialogo->setAcceptMode(QFileDialog::AcceptSave);
     dialogo->setDefaultSuffix(QStringLiteral("csv"));
     dialogo->selectFile(QStringLiteral("esclavo%1.csv").arg(esclavo));
+    ponerPaginaManual(*dialogo, "cuadricula.md#pegar-y-exportar");
     connect(dialogo, &QFileDialog::fileSelected, this, [this, esclavo](const QString& archivo) {
         QSaveFile salida(archivo);
         const QByteArray bytes =

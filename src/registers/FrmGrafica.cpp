@@ -2,6 +2,7 @@
 
 #include "platform/window/Controles.h"
 #include "platform/window/MsgBox.h"
+#include "platform/window/PaginaManual.h"
 #include "registers/NumeroLocal.h"
 
 #include <QCheckBox>
@@ -66,6 +67,7 @@ void FrmGrafica::construir() {
     setAttribute(Qt::WA_DeleteOnClose);
     setObjectName(QStringLiteral("FrmGrafica"));
     setWindowTitle(QStringLiteral("Gráfica"));
+    ponerPaginaManual(*this, "grafica.md");
     vista_ = new VistaGrafica(lineas_, [this] { return anotaciones_.cambios.hora(); });
     cmbTiempo_ = nombrado(new QComboBox, "cmbTiempo", QStringLiteral("Tiempo que se muestra"));
     for (const Tiempo& tiempo : tiempos)

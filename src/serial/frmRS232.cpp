@@ -2,6 +2,7 @@
 
 #include "platform/text/CodePage.h"
 #include "platform/window/Controles.h"
+#include "platform/window/PaginaManual.h"
 #include "platform/window/VistaTexto.h"
 
 #include <QHBoxLayout>
@@ -74,6 +75,7 @@ frmRS232::frmRS232(const QString& carpeta, Ajustes& ajustes, LogSerie& log, Moto
 void frmRS232::crearControles() {
     setObjectName(QStringLiteral("frmRS232"));
     setWindowTitle(QStringLiteral("RS232"));
+    ponerPaginaManual(*this, "puerto-serie.md");
 
     txtConfigRS232_ = nombrado(new QLineEdit, "txtConfigRS232", QStringLiteral("Configuración"));
     txtConfigRS232_->setReadOnly(true);

@@ -1,6 +1,7 @@
 #include "shell/FrmAbout.h"
 
 #include "platform/window/Controles.h"
+#include "platform/window/PaginaManual.h"
 #include "shell/AyudaContextual.h"
 
 #include <QHBoxLayout>
@@ -11,6 +12,7 @@
 FrmAbout::FrmAbout(QWidget& principal) : QDialog(&principal) {
     setObjectName(QStringLiteral("FrmAbout"));
     setWindowTitle(QStringLiteral("Trelvano - About"));
+    ponerPaginaManual(*this, "indice.md");
     setWindowIcon(principal.windowIcon());
 
     auto* imagen = nombrado(new QLabel(this), "Image1", QStringLiteral("Icono del programa"));

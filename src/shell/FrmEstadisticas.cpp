@@ -1,5 +1,6 @@
 #include "shell/FrmEstadisticas.h"
 
+#include "platform/window/PaginaManual.h"
 #include "shell/AyudaContextual.h"
 #include "shell/Estacion.h"
 #include "shell/TextosEstado.h"
@@ -83,6 +84,7 @@ FrmEstadisticas::FrmEstadisticas(Estacion& estacion, QWidget& principal)
                                    fontMetrics().horizontalAdvance(QStringLiteral("  00/00/0000 00:00:00  ")));
     setObjectName(QStringLiteral("FrmEstadisticas"));
     setWindowTitle(QStringLiteral("Estadísticas"));
+    ponerPaginaManual(*this, "estado.md#las-estadísticas");
     setWindowIcon(principal.windowIcon());
     auto* botones = new QHBoxLayout;
     botones->addStretch(1);

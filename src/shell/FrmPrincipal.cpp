@@ -6,6 +6,7 @@
 #include "platform/window/Contraste.h"
 #include "platform/window/Controles.h"
 #include "platform/window/MsgBox.h"
+#include "platform/window/PaginaManual.h"
 #include "registers/AccionesRegistros.h"
 #include "registers/FrmMW.h"
 #include "registers/VistaPagina.h"
@@ -18,6 +19,7 @@
 #include "shell/FrmEstadisticas.h"
 #include "shell/FrmTxRx.h"
 #include "shell/SeRepiteProgramaEnRunTime.h"
+#include "shell/TeclaManual.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -73,8 +75,10 @@ FrmPrincipal::FrmPrincipal(Estacion& estacion)
     timerAux_.setInterval(periodoAux);
     conectarControles();
     conectarTeclado();
+    teclaManual_ = std::make_unique<TeclaManual>(*this);
     crearMenus();
     crearBarraEstado();
+    repartirPaginasDelManual();
     estacion_.esclavos.observar(this);
     estacion_.abrirVentana(
         *this, {*this, *controles_->chScript, *controles_->lblBaseDeTiempo, estacion_.arranque.sinPantalla});
@@ -119,11 +123,34 @@ void FrmPrincipal::crearMenus() {
     acciones_->agregarA(*barra->addMenu(QStringLiteral("&Registros")));
     QMenu* const ver = barra->addMenu(QStringLiteral("&Ver"));
     ver->addAction(QStringLiteral("&Estadísticas"), Qt::CTRL | Qt::Key_I, this, &FrmPrincipal::mostrarEstadisticas);
+    // The key is TeclaManual's, everywhere; here it is only told.
+    barra->addMenu(QStringLiteral("&Ayuda"))->addAction(QStringLiteral("&Manual\tF1"), this, [this] {
+        teclaManual_->abrir(QStringLiteral("indice.md"));
+    });
     layout()->setMenuBar(barra);
+}
+
+// Where F1 leads, from the window and from those of its controls that have a page of their own.
+void FrmPrincipal::repartirPaginasDelManual() {
+    auto& c = *controles_;
+    ponerPaginaManual(*this, "inicio.md");
+    ponerPaginaManual(*c.ListView1, "primer-maestro.md");
+    ponerPaginaManual(*c.TabStrip1, "cuadricula.md");
+    ponerPaginaManual(*c.txtEscrituras, "monitores.md#escrituras");
+    ponerPaginaManual(*c.BtnBorrar, "monitores.md#escrituras");
+    ponerPaginaManual(*c.chScript, "scripts.md#las-pasadas");
+    ponerPaginaManual(*c.BtnEdicionCodigo, "editor.md");
+    ponerPaginaManual(*c.ChRxTx, "monitores.md#la-ventana-txrx");
+    ponerPaginaManual(*c.BtnBorrarTextosRXTX, "monitores.md#tramas");
+    ponerPaginaManual(*c.Command2, "puente.md");
+    ponerPaginaManual(*c.btnVerFormularioRS232, "puerto-serie.md");
+    ponerPaginaManual(*c.BtnOcultar, "inicio.md#ocultar-y-volver-a-mostrar");
+    ponerPaginaManual(*c.BtnCerrar, "inicio.md#cerrar");
 }
 
 void FrmPrincipal::crearBarraEstado() {
     auto* barra = new BarraEstado(estacion_, this);
+    ponerPaginaManual(*barra, "estado.md");
     connect(barra, &BarraEstado::errorPulsado, this, &FrmPrincipal::verErrorDelScript);
     layout()->addWidget(barra);
     setTabOrder(controles_->BtnCerrar, &barra->botonError());
@@ -261,6 +288,8 @@ void FrmPrincipal::esclavoCreado(Pagina& pagina) {
     auto* vista = new VistaPagina(estacion_.esclavos, pagina, tramas, controles_->paginas, &estacion_.anotaciones);
     connect(vista, &VistaPagina::celdaActivada, this, &FrmPrincipal::abrirFrmMW);
     acciones_->seguir(*vista);
+    ponerPaginaManual(*vista, "cuadricula.md");
+    ponerPaginaManual(*tramas, "monitores.md#tramas");
     vistas_[numero] = vista;
     ponerAyudaContextual(*vista);
     controles_->agregarPagina(*vista, numero);
@@ -295,6 +324,7 @@ void FrmPrincipal::abrirFrmMW(int esclavo, int direccion, const QString& texto) 
         frmMW_ = new FrmMW(estacion_.esclavos, this);
         frmMW_->setAttribute(Qt::WA_DeleteOnClose);
         ponerAyudaContextual(*frmMW_);
+        ponerPaginaManual(*frmMW_, "cuadricula.md#escribir-un-registro-a-mano");
     }
     frmMW_->abrir(esclavo, direccion, texto);
 }

@@ -22,6 +22,7 @@ class FrmConexionesPuentes;
 class FrmEstadisticas;
 class FrmMW;
 class FrmTxRx;
+class TeclaManual;
 class VistaPagina;
 struct ControlesPrincipal;
 
@@ -65,6 +66,7 @@ private:
     void conectarControles();
     void conectarTeclado();
     void crearMenus();
+    void repartirPaginasDelManual();
     void crearBarraEstado();
     void irARegistro(int esclavo, int direccion);
     void rechazarSegundaInstancia();
@@ -87,6 +89,7 @@ private:
 
     Estacion& estacion_;
     std::unique_ptr<ControlesPrincipal> controles_;
+    std::unique_ptr<TeclaManual> teclaManual_;
     AccionesRegistros* acciones_ = nullptr; // a child
     std::map<int, VistaPagina*> vistas_;    // by slave number; owned by their parent
     QPointer<FrmAbout> frmAbout_;
