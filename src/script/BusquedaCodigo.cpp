@@ -35,10 +35,13 @@ void BusquedaCodigo::buscar(const QString& patron, Qt::CaseSensitivity caja, boo
                                         : Resultado::haLlegadoAlPrincipio);
 }
 
-void BusquedaCodigo::barraMostrada(bool mostrada) {
-    if (!mostrada)
-        return editor_.setFocus();
+void BusquedaCodigo::mostrarBarra(bool mostrada) {
+    if (!mostrada) {
+        editor_.setFocus(); // before the bar goes, or the focus would pass through the control behind it
+        return barra_->hide();
+    }
     const bool aLaVista = editor_.cursorALaVista();
+    barra_->show();
     barra_->parentWidget()->layout()->activate(); // the text has its new height from here on
     if (aLaVista)
         editor_.ensureCursorVisible();

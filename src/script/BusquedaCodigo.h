@@ -18,7 +18,7 @@ private:
     QString seleccionParaBuscar() const override;
     void resaltar(const QString& patron, Qt::CaseSensitivity caja) override;
     void buscar(const QString& patron, Qt::CaseSensitivity caja, bool adelante) override;
-    void barraMostrada(bool mostrada) override;
+    void mostrarBarra(bool mostrada) override;
     void reemplazar(const QString& patron, const QString& nuevo, Qt::CaseSensitivity caja) override;
     int reemplazarTodo(const QString& patron, const QString& nuevo, Qt::CaseSensitivity caja) override;
 

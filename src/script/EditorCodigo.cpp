@@ -215,6 +215,8 @@ void EditorCodigo::pintarHallazgos() {
         const QString texto = linea.text();
         for (qsizetype i = texto.indexOf(patron_, 0, cajaPatron_); i >= 0;
              i = texto.indexOf(patron_, i + patron_.size(), cajaPatron_)) {
+            if (linea.position() + i == textCursor().selectionStart() && textCursor().hasSelection())
+                continue; // it has a colour of its own
             const QTextLine fila = linea.layout()->lineForTextPosition(static_cast<int>(i));
             if (!fila.isValid())
                 break;

@@ -218,7 +218,8 @@ void PaginaVisible::buscar(const QString& patron, Qt::CaseSensitivity caja, bool
                                         : Resultado::haLlegadoAlPrincipio);
 }
 
-void PaginaVisible::barraMostrada(bool mostrada) {
+void PaginaVisible::mostrarBarra(bool mostrada) {
     if (!mostrada)
         setFocus();
+    barra_->setVisible(mostrada);
 }

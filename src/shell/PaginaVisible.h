@@ -29,7 +29,7 @@ private:
     QString seleccionParaBuscar() const override;
     void resaltar(const QString& patron, Qt::CaseSensitivity caja) override;
     void buscar(const QString& patron, Qt::CaseSensitivity caja, bool adelante) override;
-    void barraMostrada(bool mostrada) override;
+    void mostrarBarra(bool mostrada) override;
 
     void alCambiarDePagina(const QUrl& url);
     void componer();

@@ -88,8 +88,7 @@ void BarraBusqueda::abrir(bool conReemplazo) {
     if (filaReemplazo_ != nullptr)
         filaReemplazo_->setVisible(conReemplazo);
     mensaje_->clear();
-    show();
-    donde_.barraMostrada(true);
+    donde_.mostrarBarra(true);
     resaltar();
     txtBuscar_->setFocus();
     txtBuscar_->selectAll();
@@ -97,8 +96,7 @@ void BarraBusqueda::abrir(bool conReemplazo) {
 
 void BarraBusqueda::cerrar() {
     donde_.resaltar({}, caja());
-    donde_.barraMostrada(false); // before the bar goes, or the focus would pass through the control behind it
-    hide();
+    donde_.mostrarBarra(false);
 }
 
 Qt::CaseSensitivity BarraBusqueda::caja() const {

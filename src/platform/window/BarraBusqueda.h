@@ -24,8 +24,8 @@ public:
     virtual void resaltar(const QString& patron, Qt::CaseSensitivity caja) = 0;
     // Selects the next or previous occurrence, over the end on from the other end.
     virtual void buscar(const QString& patron, Qt::CaseSensitivity caja, bool adelante) = 0;
-    // The bar was shown, or hidden: the text has less or more room, and the focus when it was hidden.
-    virtual void barraMostrada(bool mostrada) = 0;
+    // Shows the bar, which takes room from the text, or hides it and takes the focus: how, depends on its place.
+    virtual void mostrarBarra(bool mostrada) = 0;
 
     // Only for texts with replacing: the selection, if it is an occurrence, becomes `nuevo`; how many were replaced.
     virtual void reemplazar(const QString&, const QString&, Qt::CaseSensitivity) {}

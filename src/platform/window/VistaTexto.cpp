@@ -249,7 +249,7 @@ void VistaTexto::medirLetra() {
 
 void VistaTexto::showEvent(QShowEvent* evento) {
     if (botones_ == nullptr) {
-        botones_ = new BarraMonitor(*this);
+        heredar(*(botones_ = new BarraMonitor(*this)));
         botones_->show();
         colocarBarras();
     }

@@ -144,7 +144,8 @@ private:
     void seguirBuscando();
     void terminarBusqueda(bool hallado);
     QString seleccionParaBuscar() const override;
-    void barraMostrada(bool mostrada) override;
+    void mostrarBarra(bool mostrada) override;
+    void heredar(QWidget& parte) const;
     void colocarBarras();
 
     qreal anchoCaracter_ = 1; // pixels

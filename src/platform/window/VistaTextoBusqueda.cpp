@@ -18,8 +18,17 @@ constexpr std::size_t maximoPatron = 1000; // bytes of a selection that is looke
 
 void VistaTexto::abrirBusqueda() {
     if (barra_ == nullptr)
-        barra_ = new BarraBusqueda(*this, this);
+        heredar(*(barra_ = new BarraBusqueda(*this, this)));
     barra_->abrir();
+}
+
+// What the window has given its controls holds for those that come later, too: the help topic.
+void VistaTexto::heredar(QWidget& parte) const {
+    QList<QWidget*> todas = parte.findChildren<QWidget*>();
+    todas << &parte;
+    for (const QByteArray& nombre : dynamicPropertyNames())
+        for (QWidget* const una : todas)
+            una->setProperty(nombre, property(nombre));
 }
 
 void VistaTexto::buscarOtraVez(bool adelante) {
@@ -37,14 +46,15 @@ QString VistaTexto::seleccionParaBuscar() const {
 }
 
 // The bar takes its room from the text: no row is hidden behind it.
-void VistaTexto::barraMostrada(bool mostrada) {
+void VistaTexto::mostrarBarra(bool mostrada) {
     const bool seguia = sigue_;
     barraALaVista_ = mostrada;
     colocarBarras();
     if (seguia)
         ponerArriba(bytes().size());
     if (!mostrada)
-        setFocus();
+        setFocus(); // before the bar goes, or the focus would pass through the control behind it
+    barra_->setVisible(mostrada);
 }
 
 void VistaTexto::colocarBarras() {
