@@ -15,13 +15,25 @@ QColor fondoDeEstado(const QPalette& paleta) {
     return esOscura(paleta) ? QColor(225, 225, 225) : QColor();
 }
 
+void EstiloLegible::polish(QPalette& paleta) {
+    QProxyStyle::polish(paleta);
+    QColor palido = paleta.color(QPalette::Text);
+    palido.setAlphaF(0.6F);
+    paleta.setColor(QPalette::PlaceholderText, palido);
+    if (!esOscura(paleta) || paleta.color(QPalette::Link).lightness() > mitad)
+        return;
+    paleta.setColor(QPalette::Link, QColor(130, 180, 255));
+    paleta.setColor(QPalette::LinkVisited, QColor(205, 165, 255));
+}
+
 void EstiloLegible::drawPrimitive(PrimitiveElement elemento, const QStyleOption* opcion, QPainter* pintor,
                                   const QWidget* control) const {
     QProxyStyle::drawPrimitive(elemento, opcion, pintor, control);
-    if (elemento != PE_IndicatorCheckBox || !esOscura(opcion->palette))
+    const bool campo = elemento == PE_FrameLineEdit && !opcion->state.testFlag(State_HasFocus);
+    if ((elemento != PE_IndicatorCheckBox && !campo) || !esOscura(opcion->palette))
         return;
     QColor borde = opcion->palette.color(QPalette::WindowText);
-    borde.setAlphaF(0.5F);
+    borde.setAlphaF(campo ? 0.3F : 0.5F);
     pintor->save();
     pintor->setPen(borde);
     pintor->setBrush(Qt::NoBrush);
