@@ -59,6 +59,21 @@ std::string causaDe(const std::error_code& fallo) {
     return fallo.message();
 }
 
+// The state in words: a colour is never the only sign.
+QString estadoDe(ColorPuerto color) {
+    switch (color) {
+    case ColorPuerto::verde:
+        return QStringLiteral("conectado");
+    case ColorPuerto::azul:
+        return QStringLiteral("espera");
+    case ColorPuerto::amarillo:
+        return QStringLiteral("conectando");
+    case ColorPuerto::rojo:
+        break;
+    }
+    return QStringLiteral("cerrado");
+}
+
 QTreeWidgetItem* nodo(QTreeWidgetItem* padre, const QString& clave, const QString& texto) {
     auto* elemento = new QTreeWidgetItem(padre, {texto});
     elemento->setData(0, Qt::UserRole, clave);
@@ -109,6 +124,8 @@ QWidget* FrmConexionesPuentes::crearPuertos() {
 void FrmConexionesPuentes::crearArbol() {
     TreeView1_ = nombrado(new QTreeWidget(this), "TreeView1", QStringLiteral("Conexiones y puertos"));
     TreeView1_->header()->hide();
+    TreeView1_->setColumnCount(2); // a port, and its state in words
+    TreeView1_->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
     auto* raiz = new QTreeWidgetItem(TreeView1_, {QStringLiteral("CONEXIONES")});
     raiz->setData(0, Qt::UserRole, QStringLiteral("N"));
     auto* conexion = nodo(raiz, QStringLiteral("N1"), QStringLiteral("1"));
@@ -194,6 +211,7 @@ void FrmConexionesPuentes::colorear(Lado lado, ColorPuerto color) {
         elemento->setFont(0, negrita);
     }
     nodosPuerto_[i]->setForeground(0, colorDe(color));
+    nodosPuerto_[i]->setText(1, estadoDe(color));
     const QColor fondo = fondoDeEstado(palette());
     nodosPuerto_[i]->setBackground(0, fondo.isValid() ? QBrush(fondo) : QBrush());
     if (color == ColorPuerto::azul || color == ColorPuerto::verde) {
