@@ -15,7 +15,7 @@
 namespace {
 
 constexpr int entreRepintados = 50; // ms
-constexpr int divisiones = 5;       // of either axis
+constexpr int divisiones = 5;       // of either axis, about
 constexpr int margenAbajo = 22;
 constexpr int margenDerecho = 12;
 
@@ -96,12 +96,25 @@ VistaGrafica::Escala VistaGrafica::escala(std::int64_t desde, std::int64_t hasta
         const auto hallados = linea.historia.extremos(desde, hasta + 1);
         if (!hallados)
             continue;
-        todas = todas ? Escala{std::min(todas->minimo, hallados->minimo), std::max(todas->maximo, hallados->maximo)}
-                      : Escala{hallados->minimo, hallados->maximo};
+        todas = todas ? Escala{std::min(todas->minimo, hallados->minimo), std::max(todas->maximo, hallados->maximo), 1}
+                      : Escala{hallados->minimo, hallados->maximo, 1};
     }
-    Escala e = todas.value_or(Escala{0, 1});
-    const double holgura = e.maximo > e.minimo ? (e.maximo - e.minimo) * 0.05 : 1;
-    return {e.minimo - holgura, e.maximo + holgura};
+    return redonda(todas.value_or(Escala{0, 1, 1}));
+}
+
+// A scale that holds those values and whose marks are round numbers: 1, 2 or 5 and zeros apart.
+VistaGrafica::Escala VistaGrafica::redonda(const Escala& valores) {
+    const double tramo = std::max(valores.maximo - valores.minimo, 1e-9);
+    const double crudo = (valores.maximo > valores.minimo ? tramo : 2) / divisiones;
+    const double potencia = std::pow(10, std::floor(std::log10(crudo)));
+    const double cifra = crudo / potencia;
+    const double paso = (cifra <= 1 ? 1 : cifra <= 2 ? 2 : cifra <= 5 ? 5 : 10) * potencia;
+    Escala e{std::floor(valores.minimo / paso) * paso, std::ceil(valores.maximo / paso) * paso, paso};
+    if (e.minimo == valores.minimo) // so that no line lies on the edge
+        e.minimo -= paso;
+    if (e.maximo == valores.maximo)
+        e.maximo += paso;
+    return e;
 }
 
 double VistaGrafica::y(double valor, const Escala& escala, const QRect& marco) const {
@@ -138,18 +151,23 @@ void VistaGrafica::pintarEjes(QPainter& pintor, const QRect& marco, const Escala
     QColor reja = palette().color(QPalette::Text);
     reja.setAlphaF(0.18F);
     const QColor letra = palette().color(QPalette::Text);
-    for (int i = 0; i <= divisiones; ++i) {
-        const double parte = i / static_cast<double>(divisiones);
-        const int fila = marco.bottom() - static_cast<int>(parte * marco.height());
-        const int columna = marco.left() + static_cast<int>(parte * marco.width());
+    for (double valor = escala.minimo; valor <= escala.maximo + escala.paso / 2; valor += escala.paso) {
+        const int fila = static_cast<int>(y(valor, escala, marco));
         pintor.setPen(reja);
         pintor.drawLine(marco.left(), fila, marco.right(), fila);
+        pintor.setPen(letra);
+        const double marca = std::round(valor / escala.paso) * escala.paso;
+        pintor.drawText(QRect(0, fila - 10, marco.left() - 6, 20), Qt::AlignRight | Qt::AlignVCenter,
+                        textoLocal(std::round(marca * 1000) / 1000));
+    }
+    const std::int64_t entreHoras = ventana_ / divisiones;
+    const std::int64_t principio = fin() - ventana_;
+    for (std::int64_t cuando = (principio / entreHoras + 1) * entreHoras; cuando <= fin(); cuando += entreHoras) {
+        const double parte = static_cast<double>(cuando - principio) / static_cast<double>(ventana_);
+        const int columna = marco.left() + static_cast<int>(parte * marco.width());
+        pintor.setPen(reja);
         pintor.drawLine(columna, marco.top(), columna, marco.bottom());
         pintor.setPen(letra);
-        const double valor = escala.minimo + parte * (escala.maximo - escala.minimo);
-        pintor.drawText(QRect(0, fila - 10, marco.left() - 6, 20), Qt::AlignRight | Qt::AlignVCenter,
-                        textoLocal(std::round(valor * 10) / 10));
-        const auto cuando = fin() - ventana_ + static_cast<std::int64_t>(parte * static_cast<double>(ventana_));
         const QString hora = QDateTime::fromMSecsSinceEpoch(cuando).toString(QStringLiteral("HH:mm:ss"));
         const int ancho = fontMetrics().horizontalAdvance(hora) + 4;
         const int desde = std::clamp(columna - ancho / 2, 0, std::max(0, width() - ancho));

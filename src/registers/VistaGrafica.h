@@ -64,9 +64,11 @@ private:
     struct Escala {
         double minimo;
         double maximo;
+        double paso; // between two marks
     };
     QRect marco() const;
     Escala escala(std::int64_t desde, std::int64_t hasta) const;
+    static Escala redonda(const Escala& valores);
     double y(double valor, const Escala& escala, const QRect& marco) const;
     std::int64_t tiempoEn(int x) const;
     void pintarEjes(QPainter& pintor, const QRect& marco, const Escala& escala) const;
