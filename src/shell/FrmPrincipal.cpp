@@ -347,6 +347,8 @@ void FrmPrincipal::mostrarPuerto(const std::string& texto) {
 
 void FrmPrincipal::mostrarEscuchando(bool escuchando) {
     colorear(*controles_->LblPuertoLocal, escuchando ? colores::verdeOscuro : colores::rojo);
+    controles_->LblPuertoLocal->setToolTip(escuchando ? QStringLiteral("Abierto: los maestros se pueden conectar")
+                                                      : QStringLiteral("Cerrado: los maestros no se pueden conectar"));
 }
 
 void FrmPrincipal::mostrarAviso(const std::string& texto) {
