@@ -68,6 +68,7 @@ QWidget* FrmManual::crearIzquierda() {
     hallazgos_->setWordWrap(true);
     hallazgos_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     hallazgos_->setAlternatingRowColors(true);
+    hallazgos_->setSpacing(2);
     izquierda_ = new QStackedWidget(lado);
     izquierda_->addWidget(indice_);
     izquierda_->addWidget(hallazgos_);

@@ -71,7 +71,6 @@ QHBoxLayout* FrmTxRx::crearMandos() {
     fila->addWidget(txtEsclavos_, 1);
     for (QCheckBox* const una : {chLecturas_, chEscrituras_, chOtras_, chHexadecimal_})
         fila->addWidget(una);
-    fila->addStretch(1);
     fila->addWidget(guardar);
     return fila;
 }

@@ -6,6 +6,7 @@
 
 #include <QAccessible>
 #include <QCheckBox>
+#include <QHelpEvent>
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QPushButton>
@@ -141,9 +142,10 @@ private Q_SLOTS:
         QVERIFY(QTest::qWaitFor([&] { return e.error().text().startsWith(QStringLiteral("Error, línea 3")); }));
         QVERIFY(e.error().toolTip().contains(QStringLiteral("línea 3")));
         e.pasada();
-        QHelpEvent senalar(QEvent::ToolTip, QPoint(3, 3), e.chScript().mapToGlobal(QPoint(3, 3)));
-        QApplication::sendEvent(&e.chScript(), &senalar);
-        QVERIFY2(e.chScript().toolTip().contains(QStringLiteral("línea 3")), qPrintable(e.chScript().toolTip()));
+        auto& casilla = e.control<QCheckBox>("chScript");
+        QHelpEvent senalar(QEvent::ToolTip, QPoint(3, 3), casilla.mapToGlobal(QPoint(3, 3)));
+        QApplication::sendEvent(&casilla, &senalar);
+        QVERIFY2(casilla.toolTip().contains(QStringLiteral("línea 3")), qPrintable(casilla.toolTip()));
     }
 
     void anErrorThatIsPastIsStillThereAndSaysSo() {
