@@ -59,21 +59,6 @@ std::string causaDe(const std::error_code& fallo) {
     return fallo.message();
 }
 
-// The state in words: a colour is never the only sign.
-QString estadoDe(ColorPuerto color) {
-    switch (color) {
-    case ColorPuerto::verde:
-        return QStringLiteral("conectado");
-    case ColorPuerto::azul:
-        return QStringLiteral("espera");
-    case ColorPuerto::amarillo:
-        return QStringLiteral("conectando");
-    case ColorPuerto::rojo:
-        break;
-    }
-    return QStringLiteral("cerrado");
-}
-
 QTreeWidgetItem* nodo(QTreeWidgetItem* padre, const QString& clave, const QString& texto) {
     auto* elemento = new QTreeWidgetItem(padre, {texto});
     elemento->setData(0, Qt::UserRole, clave);
@@ -211,7 +196,7 @@ void FrmConexionesPuentes::colorear(Lado lado, ColorPuerto color) {
         elemento->setFont(0, negrita);
     }
     nodosPuerto_[i]->setForeground(0, colorDe(color));
-    nodosPuerto_[i]->setText(1, estadoDe(color));
+    nodosPuerto_[i]->setText(1, textoDe(color).section(u':', 0, 0)); // a colour is never the only sign
     const QColor fondo = fondoDeEstado(palette());
     nodosPuerto_[i]->setBackground(0, fondo.isValid() ? QBrush(fondo) : QBrush());
     if (color == ColorPuerto::azul || color == ColorPuerto::verde) {

@@ -153,7 +153,7 @@ private Q_SLOTS:
         auto cliente = p.conectar(Lado::uno);
         p.tic();
         QCOMPARE(p.color(0), QColor(0, 128, 0));
-        QCOMPARE(p.nodo(0).text(1), QStringLiteral("conectado")); // not by its colour alone
+        QCOMPARE(p.nodo(0).text(1), QStringLiteral("Conectado")); // not by its colour alone
         QCOMPARE(p.color(1), QColor(0, 0, 128));
         cliente.reset();
         QTRY_COMPARE(p.estado(Lado::uno), WinsockState::closing);
