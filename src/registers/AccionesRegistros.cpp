@@ -29,6 +29,7 @@ AccionesRegistros::AccionesRegistros(Esclavos& esclavos, Anotaciones& anotacione
       formatos_(new QMenu(QStringLiteral("&Formato de los registros"), &ventana)),
       grupoFormatos_(new QActionGroup(this)) {
     resaltar_->setCheckable(true);
+    resaltar_->setShortcut(Qt::CTRL | Qt::Key_L);
     resaltar_->setChecked(anotaciones.resaltarCambios);
     resaltar_->setToolTip(QStringLiteral("Azul: un maestro; verde: el script; naranja: a mano"));
     connect(resaltar_, &QAction::toggled, this, &AccionesRegistros::alternarResaltado);
@@ -47,6 +48,8 @@ void AccionesRegistros::crearFormatos() {
     for (const NombreFormato& formato : formatosRegistro) {
         auto* accion = formatos_->addAction(deUtf8(formato.titulo));
         accion->setCheckable(true);
+        accion->setShortcut(
+            QKeySequence(Qt::CTRL | static_cast<Qt::Key>(Qt::Key_1 + grupoFormatos_->actions().size())));
         accion->setChecked(formato.formato == FormatoRegistro::decimal);
         accion->setData(static_cast<int>(formato.formato));
         grupoFormatos_->addAction(accion);

@@ -96,6 +96,9 @@ void FrmGrafica::construir() {
     auto* todo = new QVBoxLayout(this);
     todo->addWidget(vista_, 1);
     todo->addLayout(mandos);
+    QWidget* const orden[] = {vista_, cmbTiempo_, chPausa_, imagen, csv};
+    for (std::size_t i = 1; i < std::size(orden); ++i)
+        setTabOrder(orden[i - 1], orden[i]);
     vista_->setFocus();
 }
 
