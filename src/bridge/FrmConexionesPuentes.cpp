@@ -78,11 +78,11 @@ FrmConexionesPuentes::FrmConexionesPuentes(QWidget& principal, Puente& puente)
     divisor->addWidget(crearMonitores());
     divisor->setStretchFactor(1, 1);
     divisor->setHandleWidth(entreZonas);
-    divisor->setSizes({180, 620});
+    divisor->setSizes({260, 620});
     auto* diseno = new QVBoxLayout(this);
     diseno->addWidget(divisor, 1);
     diseno->addWidget(crearBotones());
-    resize(860, 520);
+    resize(920, 520);
 
     timerVerificarEstado_.setObjectName(QStringLiteral("timerVerificarEstado"));
     connect(&timerVerificarEstado_, &QTimer::timeout, this, [this] { puente_.verificarEstado(); });

@@ -111,6 +111,9 @@ class TestFrmTxRx : public QObject {
         for (const QString& campo : campos)
             argumentos << "-e" << campo;
         QProcess programa;
+        QProcessEnvironment entorno = QProcessEnvironment::systemEnvironment();
+        entorno.insert(QStringLiteral("LC_ALL"), QStringLiteral("C"));
+        programa.setProcessEnvironment(entorno);
         programa.start(QStringLiteral("tshark"), argumentos);
         if (!programa.waitForFinished(60000) || programa.exitCode() != 0)
             qWarning("tshark: %s", programa.readAllStandardError().constData());

@@ -335,6 +335,7 @@ private Q_SLOTS:
                                       "Error",
                                       "Último error",
                                       "RETENIDO",
+                                      "la pantalla ha dejado de responder",
                                       "Conectado",
                                       "Desborde"};
         std::set<QString> usadas;

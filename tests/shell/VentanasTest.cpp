@@ -13,6 +13,9 @@
 #include <QStyleOptionButton>
 #include <QToolButton>
 
+#include <algorithm>
+#include <utility>
+
 class TestVentanas : public QObject {
     Q_OBJECT
 
@@ -95,6 +98,15 @@ private Q_SLOTS:
                     orden << actual;
                 actual = actual->nextInFocusChain();
             } while (actual != ventana);
+            // The order is a ring: it begins where the eye does.
+            std::rotate(orden.begin(),
+                        std::min_element(orden.begin(), orden.end(),
+                                         [ventana](const QWidget* a, const QWidget* b) {
+                                             const QPoint uno = a->mapTo(ventana, QPoint());
+                                             const QPoint otro = b->mapTo(ventana, QPoint());
+                                             return std::pair(uno.y(), uno.x()) < std::pair(otro.y(), otro.x());
+                                         }),
+                        orden.end());
             QStringList nombres;
             for (const QWidget* uno : orden)
                 nombres << uno->objectName();
