@@ -50,6 +50,7 @@ FrmMW::FrmMW(Esclavos& esclavos, QWidget* padre)
     campos->addRow(QStringLiteral("&Dirección:"), TxtDireccion_);
     campos->addRow(QStringLiteral("&Valor:"), TxtValor_);
 
+    QWidget* const filaDeBits = crearBits(); // before the buttons: Tab goes from the fields to them
     auto* botones = new QHBoxLayout;
     botones->addStretch();
     QPushButton* ok = crearBoton(this, "BtnOk", QStringLiteral("&Aceptar"));
@@ -64,7 +65,7 @@ FrmMW::FrmMW(Esclavos& esclavos, QWidget* padre)
 
     auto* todo = new QVBoxLayout(this);
     todo->addLayout(campos);
-    todo->addWidget(crearBits());
+    todo->addWidget(filaDeBits);
     todo->addWidget(lblC2_);
     todo->addWidget(LblBinario_);
     todo->addLayout(botones);
@@ -83,7 +84,7 @@ QLineEdit* FrmMW::crearTexto(const char* nombre, const QString& nombreAccesible)
 
 // Bit 0 stands rightmost, bit 15 leftmost.
 QWidget* FrmMW::crearBits() {
-    auto* fila = new QWidget;
+    auto* fila = new QWidget(this);
     auto* caja = new QHBoxLayout(fila);
     caja->setContentsMargins(0, 0, 0, 0);
     caja->setDirection(QBoxLayout::LeftToRight);
