@@ -98,15 +98,14 @@ private Q_SLOTS:
                     orden << actual;
                 actual = actual->nextInFocusChain();
             } while (actual != ventana);
-            // The order is a ring: it begins where the eye does.
-            std::rotate(orden.begin(),
-                        std::min_element(orden.begin(), orden.end(),
-                                         [ventana](const QWidget* a, const QWidget* b) {
-                                             const QPoint uno = a->mapTo(ventana, QPoint());
-                                             const QPoint otro = b->mapTo(ventana, QPoint());
-                                             return std::pair(uno.y(), uno.x()) < std::pair(otro.y(), otro.x());
-                                         }),
-                        orden.end());
+            // The order is a ring: it begins where the eye does, at the left of the uppermost row.
+            const auto lugar = [ventana](const QWidget* control) {
+                const QPoint centro = control->mapTo(ventana, QPoint(0, std::min(control->height(), 30) / 2));
+                return std::pair(centro.y() / 30, centro.x());
+            };
+            const auto primero = std::min_element(
+                orden.begin(), orden.end(), [&](const QWidget* a, const QWidget* b) { return lugar(a) < lugar(b); });
+            std::rotate(orden.begin(), primero, orden.end());
             QStringList nombres;
             for (const QWidget* uno : orden)
                 nombres << uno->objectName();
