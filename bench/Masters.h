@@ -26,9 +26,9 @@ public:
     // Runs for that long and until the last answer has come, and returns how many requests were answered. Adds the
     // latency of each to latencies(). Throws std::runtime_error on a wrong answer or one that takes five seconds.
     std::size_t run(std::chrono::nanoseconds duration);
-    // Each asks once in every `period`, evenly spread, for that many periods. Latencies and exceptions as above; an
-    // answer that has not come when its master's next request is due is an exception too.
-    void runPaced(std::chrono::nanoseconds period, std::size_t periods);
+    // Each asks once in every `period`, evenly spread, for that many periods. Latencies and exceptions as above. A
+    // master whose answer has not come when its next request is due leaves that one out; returns how many were.
+    std::size_t runPaced(std::chrono::nanoseconds period, std::size_t periods);
     const std::vector<std::chrono::nanoseconds>& latencies() const { return latencies_; }
 
 private:

@@ -74,7 +74,8 @@ void Peer::reset() {
 }
 
 bool runUntil(Reactor& reactor, const std::function<bool()>& condition) {
-    const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(10);
+    // Generous: 100 MB take their time on a machine that does twenty other things.
+    const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(90);
     while (!condition()) {
         if (std::chrono::steady_clock::now() > deadline)
             return false;
