@@ -267,12 +267,11 @@ class Bridge:
             with contextlib.suppress(TimeoutError):
                 two.recv(1)
                 break
-        self.soak.stopped.wait(0.5)
-        two.setblocking(False)
-        with contextlib.suppress(BlockingIOError):
-            two.recv(4096)
         for side in (one, two):
             side.settimeout(PATIENCE)
+        one.sendall(b"!")
+        while receive(two, 1) != b"!":  # what was asked before may still be on its way
+            pass
 
     def relay(self, source, target):
         total = self.random.randrange(1, 60) * len(self.BLOCK)

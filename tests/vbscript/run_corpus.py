@@ -126,7 +126,7 @@ def scripts_of(paths):
 def main():
     parser = argparse.ArgumentParser(description="run a corpus of scripts and check what they print")
     parser.add_argument("--jobs", type=int, default=2, help="scripts run at a time (default 2)")
-    parser.add_argument("--limit", type=float, default=10, help="seconds that one script may take (default 10)")
+    parser.add_argument("--limit", type=float, default=60, help="seconds that one script may take (default 60)")
     parser.add_argument("binary", help="the esclavo-script executable")
     parser.add_argument("paths", nargs="+", help="folders (searched whole) or single scripts")
     arguments = parser.parse_args()
