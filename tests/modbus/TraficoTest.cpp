@@ -1,10 +1,11 @@
 // The traffic kept for a capture file: what is kept, in which order, how much; the list of slaves, lines in
 // hexadecimal.
 
+#include "modbus/Trafico.h"
+
 #include "HandlerFixture.h"
 #include "modbus/ArchivoPcap.h"
 #include "modbus/FiltroTramas.h"
-#include "modbus/Trafico.h"
 
 #include <gtest/gtest.h>
 #include <vector>
