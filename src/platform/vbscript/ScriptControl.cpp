@@ -30,22 +30,22 @@ std::u16string_view lineOf(std::u16string_view text, std::uint32_t number) {
 } // namespace
 
 ScriptControl::ScriptControl(Host& host)
-    : m_host(host), m_vm(std::make_unique<Vm>(host, library())), m_ceiling(m_vm->memoryCeiling) {}
+    : host_(host), vm_(std::make_unique<Vm>(host, library())), ceiling_(vm_->memoryCeiling) {}
 
 ScriptControl::~ScriptControl() = default;
 
 void ScriptControl::addObject(std::u16string_view name, Ref<Object> object) {
-    m_vm->addObject(name, *object);
-    m_objects.push_back({std::u16string(name), std::move(object)});
+    vm_->addObject(name, *object);
+    objects_.push_back({std::u16string(name), std::move(object)});
 }
 
 void ScriptControl::removeObject(std::u16string_view name) {
-    m_vm->removeObject(name);
-    std::erase_if(m_objects, [name](const Added& added) { return equalNoCase(added.name, name); });
+    vm_->removeObject(name);
+    std::erase_if(objects_, [name](const Added& added) { return equalNoCase(added.name, name); });
 }
 
 void ScriptControl::globals(const std::function<void(std::u16string_view, const Value&, Context&)>& visit) {
-    m_vm->visitVariables([&](std::u16string_view name, const Value& value) { visit(name, value, *m_vm); });
+    vm_->visitVariables([&](std::u16string_view name, const Value& value) { visit(name, value, *vm_); });
 }
 
 bool ScriptControl::addCode(std::string_view utf8) {
@@ -78,15 +78,15 @@ bool ScriptControl::guarded(Work work) {
 
 // What must do where not even the text of an error finds room.
 bool ScriptControl::failForMemory() noexcept {
-    m_failure.number = static_cast<std::int32_t>(ErrorNumber::OutOfMemory);
-    m_failure.description.clear();
-    m_failure.source.clear();
-    m_failure.lineText.clear();
-    m_failure.line = m_failure.column = 0;
+    failure_.number = static_cast<std::int32_t>(ErrorNumber::OutOfMemory);
+    failure_.description.clear();
+    failure_.source.clear();
+    failure_.lineText.clear();
+    failure_.line = failure_.column = 0;
     try {
-        m_failure.description = errorText(m_failure.number).view();
+        failure_.description = errorText(failure_.number).view();
     } catch (...) { // the number must do
-        m_failure.description.clear();
+        failure_.description.clear();
     }
     return false;
 }
@@ -95,31 +95,31 @@ bool ScriptControl::failForMemory() noexcept {
 bool ScriptControl::fail(std::int32_t number, std::u16string_view text, std::uint32_t line, std::uint32_t column,
                          ScriptFailure described) {
     const MemoryCeiling room(std::numeric_limits<std::size_t>::max()); // error 7 has a text, too
-    m_failure = std::move(described);
-    m_failure.number = number;
-    m_failure.line = line;
-    m_failure.column = column;
-    if (m_failure.description.empty()) {
-        m_failure.description = errorText(number).view();
+    failure_ = std::move(described);
+    failure_.number = number;
+    failure_.line = line;
+    failure_.column = column;
+    if (failure_.description.empty()) {
+        failure_.description = errorText(number).view();
     }
-    if (m_failure.source.empty()) {
-        m_failure.source = errorSource(number).view();
+    if (failure_.source.empty()) {
+        failure_.source = errorSource(number).view();
     }
     if (line > 0) {
-        m_failure.lineText = lineOf(text, line);
+        failure_.lineText = lineOf(text, line);
     }
     return false;
 }
 
 bool ScriptControl::run(std::u16string_view text) {
-    m_failure = {};
-    if (m_vm->idle()) {
-        m_vm->stopRequested = 0; // meant for an earlier text that had ended by then
+    failure_ = {};
+    if (vm_->idle()) {
+        vm_->stopRequested = 0; // meant for an earlier text that had ended by then
     }
-    const MemoryCeiling ceiling(m_ceiling);
+    const MemoryCeiling ceiling(ceiling_);
     try {
-        m_vm->runPass(m_vm->unitOf(text));
-        m_failure = {}; // a text that ran inside this one may have failed
+        vm_->runPass(vm_->unitOf(text));
+        failure_ = {}; // a text that ran inside this one may have failed
         return true;
     } catch (const CompileError& failure) {
         return fail(static_cast<std::int32_t>(failure.number), text, failure.position.line, failure.position.column);
@@ -134,10 +134,10 @@ bool ScriptControl::run(std::u16string_view text) {
 }
 
 bool ScriptControl::compile(std::u16string_view text) {
-    m_failure = {};
-    const MemoryCeiling ceiling(m_ceiling);
+    failure_ = {};
+    const MemoryCeiling ceiling(ceiling_);
     try {
-        m_vm->compiler().check(text);
+        vm_->compiler().check(text);
         return true;
     } catch (const CompileError& failure) {
         return fail(static_cast<std::int32_t>(failure.number), text, failure.position.line, failure.position.column);
@@ -149,28 +149,28 @@ bool ScriptControl::compile(std::u16string_view text) {
 }
 
 void ScriptControl::setTimeout(std::chrono::milliseconds timeout) {
-    m_timeout = timeout;
-    m_vm->timeoutMilliseconds = static_cast<double>(timeout.count());
+    timeout_ = timeout;
+    vm_->timeoutMilliseconds = static_cast<double>(timeout.count());
 }
 
 void ScriptControl::setMemoryCeiling(std::size_t bytes) {
-    m_ceiling = bytes;
-    m_vm->memoryCeiling = bytes;
+    ceiling_ = bytes;
+    vm_->memoryCeiling = bytes;
 }
 
 void ScriptControl::stop() noexcept {
-    m_vm->stopRequested = 1;
+    vm_->stopRequested = 1;
 }
 
 void ScriptControl::reset() {
-    m_vm.reset();
-    m_vm = std::make_unique<Vm>(m_host, library());
-    m_vm->timeoutMilliseconds = static_cast<double>(m_timeout.count());
-    m_vm->memoryCeiling = m_ceiling;
-    for (const Added& added : m_objects) {
-        m_vm->addObject(added.name, *added.object);
+    vm_.reset();
+    vm_ = std::make_unique<Vm>(host_, library());
+    vm_->timeoutMilliseconds = static_cast<double>(timeout_.count());
+    vm_->memoryCeiling = ceiling_;
+    for (const Added& added : objects_) {
+        vm_->addObject(added.name, *added.object);
     }
-    m_failure = {};
+    failure_ = {};
 }
 
 } // namespace vbs

@@ -60,8 +60,8 @@ public:
     bool check(std::u16string_view text);
 
     // The error state of the addCode() or check() that ended last.
-    const ScriptFailure& error() const noexcept { return m_failure; }
-    void clearError() { m_failure = {}; }
+    const ScriptFailure& error() const noexcept { return failure_; }
+    void clearError() { failure_ = {}; }
 
     // Shows every variable of the global scope that scripts have made, in the order in which they came up; no
     // constants, procedures or added objects. Runs nothing of a script, and `visit` must not either; the value is to be
@@ -89,12 +89,12 @@ private:
     template <class Work>
     bool guarded(Work work);
 
-    Host& m_host;
-    std::unique_ptr<Vm> m_vm;
-    std::vector<Added> m_objects;
-    std::chrono::milliseconds m_timeout{0};
-    std::size_t m_ceiling;
-    ScriptFailure m_failure;
+    Host& host_;
+    std::unique_ptr<Vm> vm_;
+    std::vector<Added> objects_;
+    std::chrono::milliseconds timeout_{0};
+    std::size_t ceiling_;
+    ScriptFailure failure_;
 };
 
 } // namespace vbs

@@ -172,7 +172,7 @@ TEST_F(EngineLife, aHundredThousandPassesLeaveMemoryFlat) {
 // Hands out what another engine left to its host.
 class Legacy final : public NativeObject<Legacy> {
 public:
-    explicit Legacy(std::vector<Value> values) : m_values(std::move(values)) {}
+    explicit Legacy(std::vector<Value> values) : values_(std::move(values)) {}
     static std::span<const Member> members() {
         static constexpr Member table[] = {{u"Item", &Legacy::item, readOnly, 1, 1}};
         return table;
@@ -181,9 +181,9 @@ public:
 
 private:
     Value item(Context& context, Access /*access*/, Arguments arguments) {
-        return m_values.at(static_cast<std::size_t>(toLong(context, arguments[0])));
+        return values_.at(static_cast<std::size_t>(toLong(context, arguments[0])));
     }
-    std::vector<Value> m_values;
+    std::vector<Value> values_;
 };
 
 TEST_F(EngineLife, whatAHostKeepsOfAnEngineThatHasGoneOnlyFails) {

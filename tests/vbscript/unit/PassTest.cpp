@@ -19,15 +19,15 @@ using namespace std::chrono_literals;
 // A clock that runs a tenth of a millisecond each time it is asked, and boxes that take as long as the user likes.
 class Desk final : public Host {
 public:
-    double monotonicMilliseconds() override { return m_now += 0.1; }
+    double monotonicMilliseconds() override { return now_ += 0.1; }
     int messageBox(std::u16string_view /*text*/, int /*buttons*/, std::u16string_view /*title*/) override {
-        m_now += boxMilliseconds;
+        now_ += boxMilliseconds;
         whileBoxIsOpen();
         return 1;
     }
     std::u16string inputBox(std::u16string_view /*prompt*/, std::u16string_view /*title*/,
                             std::u16string_view /*start*/) override {
-        m_now += boxMilliseconds;
+        now_ += boxMilliseconds;
         return u"ok";
     }
     void longRun(std::chrono::milliseconds elapsed) override {
@@ -41,7 +41,7 @@ public:
     std::vector<std::chrono::milliseconds> elapsedAtLongRun;
 
 private:
-    double m_now = 0;
+    double now_ = 0;
 };
 
 constexpr const char* endless = "On Error Resume Next\nDo\nLoop";

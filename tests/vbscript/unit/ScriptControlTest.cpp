@@ -52,10 +52,10 @@ private:
 // A clock that runs a millisecond each time it is asked.
 class FastClock final : public Host {
 public:
-    double monotonicMilliseconds() override { return m_now += 1.0; }
+    double monotonicMilliseconds() override { return now_ += 1.0; }
 
 private:
-    double m_now = 0.0;
+    double now_ = 0.0;
 };
 
 class ScriptControlTest : public testing::Test {

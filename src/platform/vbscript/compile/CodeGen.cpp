@@ -9,7 +9,7 @@
 namespace vbs {
 
 CodeGen::CodeGen(UnitScope& scope, const ProcedureDecl& decl, Procedure& procedure, const ScriptClass* owner)
-    : m_scope(scope), m_decl(decl), m_procedure(procedure), m_owner(owner) {
+    : scope_(scope), decl_(decl), procedure_(procedure), owner_(owner) {
     procedure.unit = &scope.unit;
     procedure.name = decl.name;
     procedure.form = decl.kind;
@@ -24,106 +24,105 @@ CodeGen::CodeGen(UnitScope& scope, const ProcedureDecl& decl, Procedure& procedu
 
 void CodeGen::addCaptured(LocalName name) {
     newLocal(name.symbol, true);
-    m_locals[name.symbol].kind = name.kind;
-    m_locals[name.symbol].fixedArray = name.fixedArray;
-    ++m_procedure.parameters;
-    m_procedure.byValue.push_back(false);
+    locals_[name.symbol].kind = name.kind;
+    locals_[name.symbol].fixedArray = name.fixedArray;
+    ++procedure_.parameters;
+    procedure_.byValue.push_back(false);
 }
 
 void CodeGen::generate() {
     layOut();
     prologue();
-    block(m_decl.body);
-    bind(m_exit);
+    block(decl_.body);
+    bind(exit_);
     emit(encode(Opcode::Return));
-    specialize(m_procedure.code, m_procedure.constants);
-    m_procedure.firstTemporary = static_cast<std::uint16_t>(m_hiddenEnd);
-    m_procedure.registers = static_cast<std::uint16_t>(m_highest);
-    m_procedure.plainParameters = m_procedure.anyByValue ? UINT16_MAX : m_procedure.parameters;
-    if (m_decl.dynamicScope) {
-        for (const Symbol symbol : m_localOrder) {
-            const Local& local = m_locals.at(symbol);
+    specialize(procedure_.code, procedure_.constants);
+    procedure_.firstTemporary = static_cast<std::uint16_t>(hiddenEnd_);
+    procedure_.registers = static_cast<std::uint16_t>(highest_);
+    procedure_.plainParameters = procedure_.anyByValue ? UINT16_MAX : procedure_.parameters;
+    if (decl_.dynamicScope) {
+        for (const Symbol symbol : localOrder_) {
+            const Local& local = locals_.at(symbol);
             const auto kind = local.literal != nullptr      ? LocalName::Kind::Constant
                               : local.late != Globals::none ? LocalName::Kind::Late
                                                             : local.kind;
-            m_procedure.locals.push_back({{symbol, kind}, static_cast<std::uint16_t>(indexOf(local.operand))});
+            procedure_.locals.push_back({{symbol, kind}, static_cast<std::uint16_t>(indexOf(local.operand))});
         }
     }
 }
 
 std::size_t CodeGen::newLocal(Symbol symbol, bool mayRefer, const Expr* literal) {
-    if (m_nextLocal >= maxIndex / 2) {
+    if (nextLocal_ >= maxIndex / 2) {
         refuse(ErrorNumber::ProcedureTooLarge);
     }
-    m_locals[symbol] = {operandOf(Place::Frame, m_nextLocal), mayRefer, literal};
-    m_localOrder.push_back(symbol);
-    return m_nextLocal++;
+    locals_[symbol] = {operandOf(Place::Frame, nextLocal_), mayRefer, literal};
+    localOrder_.push_back(symbol);
+    return nextLocal_++;
 }
 
 // Parameters are in place; then come the result, the variables, the constants and the slots of statements.
 void CodeGen::layOut() {
     using PK = ProcedureDecl::Kind;
-    const bool isMain = m_decl.kind == PK::Main;
+    const bool isMain = decl_.kind == PK::Main;
     const bool answers =
-        m_decl.kind == PK::Function || m_decl.kind == PK::PropertyGet || (isMain && m_decl.name != noSymbol);
+        decl_.kind == PK::Function || decl_.kind == PK::PropertyGet || (isMain && decl_.name != noSymbol);
     if (answers) {
-        m_procedure.resultSlot = static_cast<int>(newLocal(m_decl.name, false));
+        procedure_.resultSlot = static_cast<int>(newLocal(decl_.name, false));
     }
-    if (!isMain || m_procedure.localText) {
-        for (const Variable& variable : m_decl.variables) {
-            if (!m_locals.contains(variable.name)) {
+    if (!isMain || procedure_.localText) {
+        for (const Variable& variable : decl_.variables) {
+            if (!locals_.contains(variable.name)) {
                 newLocal(variable.name, false);
             }
         }
     }
     if (!isMain) {
-        for (const ConstDecl& decl : m_decl.constants) {
+        for (const ConstDecl& decl : decl_.constants) {
             const std::size_t index = newLocal(decl.name, false, decl.value);
-            m_localConstants.emplace_back(decl.value, operandOf(Place::Frame, index));
+            localConstants_.emplace_back(decl.value, operandOf(Place::Frame, index));
         }
         addImplicitLocals();
     }
-    m_hidden = m_nextLocal;
-    m_hiddenEnd = m_hidden + m_decl.hiddenSlots;
-    m_temporary = m_highest = m_hiddenEnd;
+    hidden_ = nextLocal_;
+    hiddenEnd_ = hidden_ + decl_.hiddenSlots;
+    temporary_ = highest_ = hiddenEnd_;
 }
 
 // Undeclared names that the procedure assigns are its own, unless a global of that name is known.
 void CodeGen::addImplicitLocals() {
-    m_scope.at = m_decl.at;
+    scope_.at = decl_.at;
     const auto consider = [this](Symbol symbol) {
-        if (!m_locals.contains(symbol) && !isMember(symbol) &&
-            m_scope.resolve(symbol).kind == Resolved::Kind::Unknown) {
+        if (!locals_.contains(symbol) && !isMember(symbol) && scope_.resolve(symbol).kind == Resolved::Kind::Unknown) {
             newLocal(symbol, false);
-            m_scope.unit.assumedLocal.push_back(symbol);
+            scope_.unit.assumedLocal.push_back(symbol);
         }
     };
-    std::for_each(m_decl.redimmed.begin(), m_decl.redimmed.end(), consider);
-    if (m_scope.ast.optionExplicit) {
+    std::for_each(decl_.redimmed.begin(), decl_.redimmed.end(), consider);
+    if (scope_.ast.optionExplicit) {
         return;
     }
-    std::for_each(m_decl.assigned.begin(), m_decl.assigned.end(), consider);
-    const std::unordered_set<Symbol> called(m_decl.called.begin(), m_decl.called.end());
-    for (const Passed& passed : m_decl.passed) {
+    std::for_each(decl_.assigned.begin(), decl_.assigned.end(), consider);
+    const std::unordered_set<Symbol> called(decl_.called.begin(), decl_.called.end());
+    for (const Passed& passed : decl_.passed) {
         const bool toIntrinsic =
-            passed.callee != noSymbol && m_scope.resolve(passed.callee).kind == Resolved::Kind::Intrinsic;
-        const bool known = m_locals.contains(passed.name);
+            passed.callee != noSymbol && scope_.resolve(passed.callee).kind == Resolved::Kind::Intrinsic;
+        const bool known = locals_.contains(passed.name);
         if (!toIntrinsic && !called.contains(passed.name)) {
             consider(passed.name);
         }
-        if (!known && m_locals.contains(passed.name)) {
-            m_locals[passed.name].late = m_scope.slotOf(passed.name);
+        if (!known && locals_.contains(passed.name)) {
+            locals_[passed.name].late = scope_.slotOf(passed.name);
         }
     }
 }
 
 bool CodeGen::isMember(Symbol symbol) const {
-    return m_owner != nullptr && m_owner->find(symbol) != nullptr;
+    return owner_ != nullptr && owner_->find(symbol) != nullptr;
 }
 
 Resolved CodeGen::resolve(Symbol symbol) {
     Resolved r;
-    if (const auto local = m_locals.find(symbol); local != m_locals.end()) {
+    if (const auto local = locals_.find(symbol); local != locals_.end()) {
         using LK = LocalName::Kind;
         r.literal = local->second.literal;
         r.kind = r.literal != nullptr || local->second.kind == LK::Constant ? Resolved::Kind::Constant
@@ -135,8 +134,8 @@ Resolved CodeGen::resolve(Symbol symbol) {
         r.slot = local->second.late;
         return r;
     }
-    if (m_owner != nullptr) {
-        if (const ClassMember* member = m_owner->find(symbol); member != nullptr) {
+    if (owner_ != nullptr) {
+        if (const ClassMember* member = owner_->find(symbol); member != nullptr) {
             const bool field = member->field >= 0;
             if (field && static_cast<std::size_t>(member->field) > maxIndex) {
                 refuse(ErrorNumber::ProcedureTooLarge);
@@ -152,7 +151,7 @@ Resolved CodeGen::resolve(Symbol symbol) {
 
 // What the name means beyond the procedure and the class around it.
 Resolved CodeGen::resolveOutside(Symbol symbol) {
-    Resolved r = m_scope.resolve(symbol);
+    Resolved r = scope_.resolve(symbol);
     if (r.literal != nullptr) {
         r.operand = constantOf(*r.literal);
     } else if (r.local != nullptr) {
@@ -160,7 +159,7 @@ Resolved CodeGen::resolveOutside(Symbol symbol) {
         itself.type = Type::Procedure;
         itself.pointer = r.local;
         r.operand = constant(std::move(itself));
-    } else if (r.kind == Resolved::Kind::Variable && m_scope.isPassed(symbol)) {
+    } else if (r.kind == Resolved::Kind::Variable && scope_.isPassed(symbol)) {
         r.kind = Resolved::Kind::Unknown;
         r.passed = true;
     }
@@ -168,22 +167,22 @@ Resolved CodeGen::resolveOutside(Symbol symbol) {
 }
 
 bool CodeGen::isOwnResult(Symbol symbol) const {
-    return m_procedure.resultSlot >= 0 && symbol == m_decl.name;
+    return procedure_.resultSlot >= 0 && symbol == decl_.name;
 }
 
 // As a callee, the name of the function around is the function, not its result.
 Resolved CodeGen::resolveCallee(Symbol symbol) {
-    if (isOwnResult(symbol) && m_decl.kind != ProcedureDecl::Kind::Main) {
+    if (isOwnResult(symbol) && decl_.kind != ProcedureDecl::Kind::Main) {
         Resolved r;
-        if (m_owner != nullptr) {
+        if (owner_ != nullptr) {
             r.kind = Resolved::Kind::OwnMember;
-            r.member = m_owner->find(symbol);
+            r.member = owner_->find(symbol);
             return r;
         }
         return resolveOutside(symbol);
     }
-    const auto local = m_locals.find(symbol);
-    if (m_decl.kind == ProcedureDecl::Kind::Main && local != m_locals.end() &&
+    const auto local = locals_.find(symbol);
+    if (decl_.kind == ProcedureDecl::Kind::Main && local != locals_.end() &&
         local->second.kind < LocalName::Kind::Constant) {
         // The text of an Eval sees the result of the function that runs it under the function's name.
         const Resolved global = resolveOutside(symbol);
@@ -197,8 +196,8 @@ Resolved CodeGen::resolveCallee(Symbol symbol) {
 // Where the value of a name is that nothing has defined yet. In a procedure that uses Execute it is searched when the
 // instruction before its use runs.
 Operand CodeGen::unresolved(const Resolved& name, Use use) {
-    const bool checked = m_scope.ast.optionExplicit;
-    if (m_decl.dynamicScope && (m_decl.kind != ProcedureDecl::Kind::Main || m_procedure.localText)) {
+    const bool checked = scope_.ast.optionExplicit;
+    if (decl_.dynamicScope && (decl_.kind != ProcedureDecl::Kind::Main || procedure_.localText)) {
         const Operand to = newTemporary();
         emit(encode(Opcode::FindName, to, 0, name.operand, (checked ? 1U : 0U) | (use == Use::Assigned ? 4U : 0U)));
         return to;
@@ -210,16 +209,16 @@ Operand CodeGen::unresolved(const Resolved& name, Use use) {
 }
 
 Operand CodeGen::newTemporary() {
-    if (m_temporary >= maxIndex) {
+    if (temporary_ >= maxIndex) {
         refuse(ErrorNumber::ProcedureTooLarge);
     }
-    const Operand o = operandOf(Place::Frame, m_temporary++);
-    m_highest = std::max(m_highest, m_temporary);
+    const Operand o = operandOf(Place::Frame, temporary_++);
+    highest_ = std::max(highest_, temporary_);
     return o;
 }
 
 Operand CodeGen::newHidden() {
-    return operandOf(Place::Frame, m_hidden++);
+    return operandOf(Place::Frame, hidden_++);
 }
 
 Operand CodeGen::constantOf(const Expr& literal) {
@@ -233,27 +232,27 @@ Operand CodeGen::constant(Value value, bool computed) {
     const bool keyed = !text && (value.type <= Type::Long || value.type == Type::Double);
     // Doubles use their top bits; keep them apart from whole numbers by a key of their own.
     const std::uint64_t numberKey = value.type == Type::Double ? static_cast<std::uint64_t>(value.n) * 3 + 1 : key * 3;
-    auto& numbers = computed ? m_computedConstants : m_numberConstants;
+    auto& numbers = computed ? computedConstants_ : numberConstants_;
     std::u16string textKey;
     if (text) {
         textKey = value.text();
-        if (const auto found = m_textConstants.find(textKey); found != m_textConstants.end()) {
+        if (const auto found = textConstants_.find(textKey); found != textConstants_.end()) {
             return found->second;
         }
     } else if (keyed) {
         const auto found = numbers.find(numberKey);
         if (found != numbers.end()) {
-            const Value& known = m_procedure.constants[indexOf(found->second)];
+            const Value& known = procedure_.constants[indexOf(found->second)];
             if (known.type == value.type && known.n == value.n) {
                 return found->second;
             }
         }
     }
-    const std::size_t index = m_procedure.constants.size();
-    m_procedure.constants.push_back(std::move(value));
+    const std::size_t index = procedure_.constants.size();
+    procedure_.constants.push_back(std::move(value));
     if (computed) {
-        m_procedure.computed.resize(index + 1);
-        m_procedure.computed[index] = true;
+        procedure_.computed.resize(index + 1);
+        procedure_.computed[index] = true;
     }
     if (index > maxIndex) {
         if (index > static_cast<std::size_t>(maxJump)) {
@@ -265,7 +264,7 @@ Operand CodeGen::constant(Value value, bool computed) {
     }
     const Operand o = operandOf(Place::Constant, index);
     if (text) {
-        m_textConstants[textKey] = o;
+        textConstants_[textKey] = o;
     } else if (keyed) {
         numbers[numberKey] = o;
     }
@@ -273,36 +272,36 @@ Operand CodeGen::constant(Value value, bool computed) {
 }
 
 Operand CodeGen::textConstant(Symbol symbol) {
-    return constant(Value::ofString(std::u16string_view(m_scope.symbols.name(symbol))));
+    return constant(Value::ofString(std::u16string_view(scope_.symbols.name(symbol))));
 }
 
 // A place of its own, while there are any; then places with the same name share one.
 std::uint16_t CodeGen::site(Symbol symbol) {
-    const std::size_t index = m_procedure.sites.size();
+    const std::size_t index = procedure_.sites.size();
     if (index > 0xffff) {
-        const auto known = m_sites.find(symbol);
-        return known != m_sites.end() ? known->second : (refuse(ErrorNumber::ProcedureTooLarge), std::uint16_t{0});
+        const auto known = sites_.find(symbol);
+        return known != sites_.end() ? known->second : (refuse(ErrorNumber::ProcedureTooLarge), std::uint16_t{0});
     }
     MemberSite fresh;
     fresh.symbol = symbol;
-    m_procedure.sites.push_back(fresh);
-    return m_sites[symbol] = static_cast<std::uint16_t>(index);
+    procedure_.sites.push_back(fresh);
+    return sites_[symbol] = static_cast<std::uint16_t>(index);
 }
 
 std::uint16_t CodeGen::selfCall(const Procedure* procedure) {
     const auto [entry, added] =
-        m_selfCalls.try_emplace(procedure, static_cast<std::uint16_t>(m_procedure.selfCalls.size()));
+        selfCalls_.try_emplace(procedure, static_cast<std::uint16_t>(procedure_.selfCalls.size()));
     if (added) {
-        if (m_procedure.selfCalls.size() > 0xffff) {
+        if (procedure_.selfCalls.size() > 0xffff) {
             refuse(ErrorNumber::ProcedureTooLarge);
         }
-        m_procedure.selfCalls.push_back(procedure);
+        procedure_.selfCalls.push_back(procedure);
     }
     return entry->second;
 }
 
 void CodeGen::refuse(ErrorNumber number) const {
-    throw CompileError{number, m_procedure.marks.empty() ? m_decl.at : m_procedure.marks.back().at};
+    throw CompileError{number, procedure_.marks.empty() ? decl_.at : procedure_.marks.back().at};
 }
 
 void CodeGen::emitCall(Opcode op, Operand to, Operand b, Operand c, std::size_t count, Store store) {
@@ -313,8 +312,8 @@ void CodeGen::emitCall(Opcode op, Operand to, Operand b, Operand c, std::size_t 
 }
 
 std::size_t CodeGen::emit(Instruction instruction) {
-    m_procedure.code.push_back(instruction);
-    return m_procedure.code.size() - 1;
+    procedure_.code.push_back(instruction);
+    return procedure_.code.size() - 1;
 }
 
 std::size_t CodeGen::emitJump(Opcode op, Operand a, Operand b, Label& label) {
@@ -328,7 +327,7 @@ void CodeGen::emitJumpTo(Opcode op, Operand a, Operand b, std::size_t target) {
 
 void CodeGen::bind(Label& label) {
     for (const std::size_t at : label) {
-        patch(at, m_procedure.code.size());
+        patch(at, procedure_.code.size());
     }
     label.clear();
 }
@@ -338,23 +337,23 @@ void CodeGen::patch(std::size_t at, std::size_t target) {
     if (jump > maxJump || jump < -maxJump) {
         refuse(ErrorNumber::ProcedureTooLarge);
     }
-    Instruction& instruction = m_procedure.code[at];
+    Instruction& instruction = procedure_.code[at];
     instruction =
         (instruction & 0xffffffffffU) | (static_cast<Instruction>(static_cast<std::uint64_t>(jump) & 0xffffffU) << 40);
 }
 
 void CodeGen::beginMark(Position at) {
-    const auto here = static_cast<std::uint32_t>(m_procedure.code.size());
-    m_procedure.marks.push_back({here, here, at});
-    m_scope.at = at;
-    m_markOpen = true;
+    const auto here = static_cast<std::uint32_t>(procedure_.code.size());
+    procedure_.marks.push_back({here, here, at});
+    scope_.at = at;
+    markOpen_ = true;
 }
 
 // After an error in what was emitted since beginMark, Resume Next goes on here.
 void CodeGen::endMark() {
-    if (m_markOpen) {
-        m_procedure.marks.back().resume = static_cast<std::uint32_t>(m_procedure.code.size());
-        m_markOpen = false;
+    if (markOpen_) {
+        procedure_.marks.back().resume = static_cast<std::uint32_t>(procedure_.code.size());
+        markOpen_ = false;
     }
 }
 
@@ -369,8 +368,8 @@ void CodeGen::deliver(Operand from, Operand to, Store store) {
 }
 
 void CodeGen::prologue() {
-    for (const auto& [literal, operand] : m_localConstants) {
-        if (m_decl.dynamicScope) { // for Execute; code of this text holds the literal
+    for (const auto& [literal, operand] : localConstants_) {
+        if (decl_.dynamicScope) { // for Execute; code of this text holds the literal
             emit(encode(Opcode::Move, operand, constantOf(*literal)));
         }
     }

@@ -50,12 +50,12 @@ public:
     std::uint32_t slotOf(Symbol symbol, Position declared);
     Position at{1, 1}; // of what is being compiled
     // The procedure or class is no global: only this text and its scope know it.
-    void keepLocal(Symbol symbol, Callable* callable) { m_local[symbol] = callable; }
+    void keepLocal(Symbol symbol, Callable* callable) { local_[symbol] = callable; }
     // The name will be a global variable because the main text assigns it.
     void makeImplicit(Symbol symbol);
     // The same for a name that the text only reads and passes on: one that it runs may make it a function.
     void makePassed(Symbol symbol);
-    bool isPassed(Symbol symbol) const { return m_passed.contains(symbol); }
+    bool isPassed(Symbol symbol) const { return passed_.contains(symbol); }
     // Whether a call may assign the parameter's variable.
     bool writesParameter(const ProcedureDecl& procedure, std::size_t index);
 
@@ -68,13 +68,13 @@ public:
 private:
     bool mayWriteArgument(const ProcedureDecl& caller, std::size_t callerIndex, const Passed& passed);
 
-    std::unordered_map<Symbol, const ProcedureDecl*> m_procedures;
-    std::unordered_set<Symbol> m_classes;
-    std::unordered_set<Symbol> m_variables;
-    std::unordered_map<Symbol, const Expr*> m_constants;
-    std::unordered_set<Symbol> m_implicit;
-    std::unordered_set<Symbol> m_passed; // of those
-    std::unordered_map<Symbol, Callable*> m_local;
+    std::unordered_map<Symbol, const ProcedureDecl*> procedures_;
+    std::unordered_set<Symbol> classes_;
+    std::unordered_set<Symbol> variables_;
+    std::unordered_map<Symbol, const Expr*> constants_;
+    std::unordered_set<Symbol> implicit_;
+    std::unordered_set<Symbol> passed_; // of those
+    std::unordered_map<Symbol, Callable*> local_;
 };
 
 class CodeGen {
@@ -108,7 +108,7 @@ private:
     Operand unresolved(const Resolved& name, Use use = Use::Read);
     Operand newTemporary();
     Operand newHidden();
-    bool isTemporary(Operand o) const noexcept { return placeOf(o) == Place::Frame && indexOf(o) >= m_hiddenEnd; }
+    bool isTemporary(Operand o) const noexcept { return placeOf(o) == Place::Frame && indexOf(o) >= hiddenEnd_; }
     Operand constant(Value value, bool computed = false);
     Operand constantOf(const Expr& literal);
     Operand textConstant(Symbol symbol);
@@ -215,28 +215,28 @@ private:
     void eraseStatement(const Stmt& s);
     void prologue();
 
-    UnitScope& m_scope;
-    const ProcedureDecl& m_decl;
-    Procedure& m_procedure;
-    const ScriptClass* m_owner;
-    std::unordered_map<Symbol, Local> m_locals;
-    std::vector<Symbol> m_localOrder;
-    std::size_t m_nextLocal = 0;
-    std::size_t m_hidden = 0;
-    std::size_t m_hiddenEnd = 0;
-    std::size_t m_temporary = 0;
-    std::size_t m_highest = 0;
-    std::unordered_map<std::u16string, Operand> m_textConstants;
-    std::unordered_map<std::uint64_t, Operand> m_numberConstants;
-    std::unordered_map<std::uint64_t, Operand> m_computedConstants;
-    std::unordered_map<Symbol, std::uint16_t> m_sites; // the last of each name
-    std::unordered_map<const Procedure*, std::uint16_t> m_selfCalls;
-    std::vector<Operand> m_withs;
-    std::vector<Label*> m_exitDo;
-    std::vector<Label*> m_exitFor;
-    Label m_exit;
-    std::vector<std::pair<const Expr*, Operand>> m_localConstants;
-    bool m_markOpen = false;
+    UnitScope& scope_;
+    const ProcedureDecl& decl_;
+    Procedure& procedure_;
+    const ScriptClass* owner_;
+    std::unordered_map<Symbol, Local> locals_;
+    std::vector<Symbol> localOrder_;
+    std::size_t nextLocal_ = 0;
+    std::size_t hidden_ = 0;
+    std::size_t hiddenEnd_ = 0;
+    std::size_t temporary_ = 0;
+    std::size_t highest_ = 0;
+    std::unordered_map<std::u16string, Operand> textConstants_;
+    std::unordered_map<std::uint64_t, Operand> numberConstants_;
+    std::unordered_map<std::uint64_t, Operand> computedConstants_;
+    std::unordered_map<Symbol, std::uint16_t> sites_; // the last of each name
+    std::unordered_map<const Procedure*, std::uint16_t> selfCalls_;
+    std::vector<Operand> withs_;
+    std::vector<Label*> exitDo_;
+    std::vector<Label*> exitFor_;
+    Label exit_;
+    std::vector<std::pair<const Expr*, Operand>> localConstants_;
+    bool markOpen_ = false;
 };
 
 } // namespace vbs

@@ -6,7 +6,7 @@
 namespace vbs {
 
 void CodeGen::assign(const Expr* target, const Expr* value, Store store) {
-    const std::size_t mark = m_temporary;
+    const std::size_t mark = temporary_;
     switch (target->kind) {
     case Expr::Kind::Name:
         assignName(target, value, store);
@@ -24,7 +24,7 @@ void CodeGen::assign(const Expr* target, const Expr* value, Store store) {
     default:
         throw CompileError{ErrorNumber::SyntaxError, target->at};
     }
-    m_temporary = mark;
+    temporary_ = mark;
 }
 
 void CodeGen::assignName(const Expr* target, const Expr* value, Store store) {
@@ -35,7 +35,7 @@ void CodeGen::assignName(const Expr* target, const Expr* value, Store store) {
             raiseAtRun(ErrorNumber::TypeMismatch, noSymbol);
             return;
         }
-        if (m_decl.kind == ProcedureDecl::Kind::Main && isOwnResult(target->symbol)) {
+        if (decl_.kind == ProcedureDecl::Kind::Main && isOwnResult(target->symbol)) {
             store = Store::Raw; // Eval answers objects as they are
         }
         if (r.mayRefer) {
@@ -63,17 +63,17 @@ void CodeGen::assignName(const Expr* target, const Expr* value, Store store) {
 // Whether the name was declared with bounds: here, in the main text if it is a global, or by a text that has run.
 bool CodeGen::isFixedArray(Symbol symbol) {
     const auto fixed = [symbol](const Variable& v) { return v.name == symbol && !v.sizes.empty(); };
-    const auto local = m_locals.find(symbol);
-    if (local == m_locals.end() && isMember(symbol)) {
-        return std::any_of(m_owner->fields.begin(), m_owner->fields.end(), fixed);
+    const auto local = locals_.find(symbol);
+    if (local == locals_.end() && isMember(symbol)) {
+        return std::any_of(owner_->fields.begin(), owner_->fields.end(), fixed);
     }
-    const bool isLocal = local != m_locals.end();
-    const std::vector<Variable>& variables = isLocal ? m_decl.variables : m_scope.ast.main.variables;
+    const bool isLocal = local != locals_.end();
+    const std::vector<Variable>& variables = isLocal ? decl_.variables : scope_.ast.main.variables;
     if (std::any_of(variables.begin(), variables.end(), fixed)) {
         return true;
     }
-    const std::uint32_t slot = isLocal ? Globals::none : m_scope.globals.find(symbol);
-    return isLocal ? local->second.fixedArray : slot != Globals::none && m_scope.globals.holdsFixedArray(slot);
+    const std::uint32_t slot = isLocal ? Globals::none : scope_.globals.find(symbol);
+    return isLocal ? local->second.fixedArray : slot != Globals::none && scope_.globals.holdsFixedArray(slot);
 }
 
 // name(args) = value, object.name(args) = value, or something deeper
@@ -154,9 +154,9 @@ void CodeGen::storeDeep(const Road& road, Operand indexes, Operand from, Store s
         }
         counts.push_back(static_cast<std::int32_t>(level->size()));
     }
-    m_procedure.shapes.push_back(std::move(counts));
+    procedure_.shapes.push_back(std::move(counts));
     emit(encode(Opcode::SetDeep, road.base, indexes, from, packed(0, store)));
-    emit(m_procedure.shapes.size() - 1);
+    emit(procedure_.shapes.size() - 1);
 }
 
 void CodeGen::storeElement(Operand base, const std::vector<Expr*>& args, const Expr* value, Store store) {

@@ -16,8 +16,8 @@ Operand nextTo(Operand o, std::size_t by) noexcept {
 
 // The member of the class around that `Me.name` means, or null.
 const ClassMember* CodeGen::ownMember(const Expr* e) {
-    return m_owner != nullptr && e->kind == Expr::Kind::Member && e->a != nullptr && e->a->kind == Expr::Kind::Me
-               ? m_owner->find(e->symbol)
+    return owner_ != nullptr && e->kind == Expr::Kind::Member && e->a != nullptr && e->a->kind == Expr::Kind::Me
+               ? owner_->find(e->symbol)
                : nullptr;
 }
 
@@ -26,13 +26,13 @@ const ClassMember* CodeGen::ownMember(const Expr* e) {
 const ClassMember* CodeGen::ownIndexed(const Expr* e) {
     const ClassMember* own = ownMember(e);
     const bool plain = own != nullptr && own->field >= 0 && !own->isPrivate &&
-                       !m_owner->fields[static_cast<std::size_t>(own->field)].array;
+                       !owner_->fields[static_cast<std::size_t>(own->field)].array;
     return plain ? nullptr : own;
 }
 
 // e: callee e->a with e->args
 void CodeGen::callTo(const Expr* e, Operand to, Store store) {
-    const std::size_t mark = m_temporary;
+    const std::size_t mark = temporary_;
     const Expr* callee = e->a;
     if (callee->kind == Expr::Kind::Name) {
         callNameTo(e, resolveCallee(callee->symbol), to, store);
@@ -41,7 +41,7 @@ void CodeGen::callTo(const Expr* e, Operand to, Store store) {
     } else {
         indexTo(expr(callee), e->args, to, store);
     }
-    m_temporary = mark;
+    temporary_ = mark;
 }
 
 void CodeGen::callNameTo(const Expr* e, const Resolved& callee, Operand to, Store store) {
@@ -75,7 +75,7 @@ void CodeGen::callNameTo(const Expr* e, const Resolved& callee, Operand to, Stor
 }
 
 Operand CodeGen::contiguous(const std::vector<Expr*>& args) {
-    const Operand first = operandOf(Place::Frame, m_temporary);
+    const Operand first = operandOf(Place::Frame, temporary_);
     for (const Expr* argument : args) {
         const Operand place = newTemporary();
         exprTo(argument, place, Store::Raw);
@@ -112,7 +112,7 @@ void CodeGen::indexTo(Operand base, const std::vector<Expr*>& args, Operand to, 
 void CodeGen::intrinsicTo(const Expr* e, const Builtin& builtin, Operand to, Store store) {
     const std::size_t count = e->args.size();
     if (count < builtin.least || (count > builtin.most && builtin.most != anyNumber)) {
-        raiseAtRun(ErrorNumber::WrongArgumentCount, m_scope.symbols.intern(builtin.name));
+        raiseAtRun(ErrorNumber::WrongArgumentCount, scope_.symbols.intern(builtin.name));
         return;
     }
     const bool used = store != Store::Discard;
@@ -126,7 +126,7 @@ void CodeGen::intrinsicTo(const Expr* e, const Builtin& builtin, Operand to, Sto
 }
 
 void CodeGen::emitIntrinsic(const Expr* e, const Builtin& builtin, std::size_t count, Operand to, Store store) {
-    const auto index = static_cast<Operand>(&builtin - m_scope.library.builtins.data());
+    const auto index = static_cast<Operand>(&builtin - scope_.library.builtins.data());
     if (count == 1 && e->args[0]->kind != Expr::Kind::Missing) {
         const Operand argument = expr(e->args[0]);
         emit(encode(Opcode::CallIntrinsic1, to, argument, index, packed(1, store)));
@@ -184,7 +184,7 @@ bool CodeGen::isNativeObject(const Expr* e) {
     }
     const Resolved r = resolve(e->symbol);
     return r.kind == Resolved::Kind::Constant && placeOf(r.operand) == Place::Global &&
-           m_scope.globals.kind(static_cast<std::uint32_t>(indexOf(r.operand))) == GlobalKind::Object;
+           scope_.globals.kind(static_cast<std::uint32_t>(indexOf(r.operand))) == GlobalKind::Object;
 }
 
 void CodeGen::ownMemberTo(const ClassMember& member, const std::vector<Expr*>& args, Operand to, Store store) {
@@ -218,20 +218,20 @@ CodeGen::Prepared CodeGen::arguments(const std::vector<Expr*>& args, const Resol
     for (std::size_t i = 0; i < args.size(); ++i) {
         if (needsCopyBack(args[i], i, callee, passing)) {
             const Operand holder = newTemporary();
-            const Operand first = operandOf(Place::Frame, m_temporary);
+            const Operand first = operandOf(Place::Frame, temporary_);
             contiguous(args[i]->args);
             prepared.copyBacks.push_back({args[i], holder, first});
-            const std::size_t mark = m_temporary;
-            const Operand indexes = operandOf(Place::Frame, m_temporary);
+            const std::size_t mark = temporary_;
+            const Operand indexes = operandOf(Place::Frame, temporary_);
             for (std::size_t k = 0; k < args[i]->args.size(); ++k) {
                 emit(encode(Opcode::Copy, newTemporary(), nextTo(first, k))); // the originals wait for the way home
             }
             emit(encode(Opcode::IndexN, holder, *plainVariable(args[i]->a), indexes,
                         packed(args[i]->args.size(), Store::Raw)));
-            m_temporary = mark;
+            temporary_ = mark;
         }
     }
-    prepared.first = operandOf(Place::Frame, m_temporary);
+    prepared.first = operandOf(Place::Frame, temporary_);
     std::size_t next = 0;
     for (std::size_t i = 0; i < args.size(); ++i) {
         const Operand place = newTemporary();
@@ -252,17 +252,17 @@ void CodeGen::argumentTo(const Expr* e, Operand to, bool byValue) {
     if (!byValue && e->kind == Expr::Kind::Name) {
         const Resolved r = resolve(e->symbol);
         if (r.late) {
-            const std::size_t mark = m_temporary;
+            const std::size_t mark = temporary_;
             lateTo(r, to);
-            m_temporary = mark;
+            temporary_ = mark;
             return;
         }
         if (r.kind == Resolved::Kind::Variable || r.passed) {
             emit(encode(Opcode::Reference, to, r.operand));
             if (r.passed) {
-                const std::size_t mark = m_temporary;
+                const std::size_t mark = temporary_;
                 emit(encode(Opcode::GetName, to, newTemporary(), to, packed(1, Store::Raw)));
-                m_temporary = mark;
+                temporary_ = mark;
             }
             return;
         }
@@ -285,7 +285,7 @@ bool CodeGen::passedByValue(const std::vector<Expr*>& args, std::size_t i, const
     const auto same = std::count_if(args.begin(), args.end(), [argument](const Expr* other) {
         return other->kind == Expr::Kind::Name && other->symbol == argument->symbol;
     });
-    return local && !r.mayRefer && same == 1 && !m_decl.dynamicScope && !m_scope.writesParameter(*callee->procedure, i);
+    return local && !r.mayRefer && same == 1 && !decl_.dynamicScope && !scope_.writesParameter(*callee->procedure, i);
 }
 
 bool CodeGen::needsCopyBack(const Expr* e, std::size_t i, const Resolved* callee, Passing passing) {
@@ -298,7 +298,7 @@ bool CodeGen::needsCopyBack(const Expr* e, std::size_t i, const Resolved* callee
         return false;
     }
     if (callee != nullptr && callee->procedure != nullptr && i < callee->procedure->parameters.size()) {
-        return !callee->procedure->parameters[i].byValue && m_scope.writesParameter(*callee->procedure, i);
+        return !callee->procedure->parameters[i].byValue && scope_.writesParameter(*callee->procedure, i);
     }
     return callee == nullptr || callee->kind == Resolved::Kind::Unknown || callee->kind == Resolved::Kind::Callable;
 }

@@ -118,7 +118,7 @@ Operand CodeGen::expr(const Expr* e) {
 }
 
 void CodeGen::exprTo(const Expr* e, Operand to, Store store) {
-    const std::size_t mark = m_temporary;
+    const std::size_t mark = temporary_;
     switch (e->kind) {
     case Expr::Kind::Literal:
     case Expr::Kind::Missing:
@@ -154,7 +154,7 @@ void CodeGen::exprTo(const Expr* e, Operand to, Store store) {
             emit(encode(e->kind == Expr::Kind::Negate ? Opcode::Negate : Opcode::Not, to, operand));
         }
     }
-    m_temporary = mark;
+    temporary_ = mark;
 }
 
 void CodeGen::literalTo(const Expr* e, Operand to, Store store) {
@@ -180,11 +180,11 @@ void CodeGen::nameTo(const Expr* e, Operand to, Store store) {
 }
 
 Operand CodeGen::withObject() {
-    if (m_withs.empty()) {
+    if (withs_.empty()) {
         raiseAtRun(ErrorNumber::InvalidReference, noSymbol);
         return newTemporary();
     }
-    return m_withs.back();
+    return withs_.back();
 }
 
 void CodeGen::memberTo(const Expr* e, Operand to, Store store) {
@@ -197,9 +197,9 @@ void CodeGen::memberTo(const Expr* e, Operand to, Store store) {
 }
 
 void CodeGen::newTo(const Expr* e, Operand to, Store store) {
-    const std::u16string& name = m_scope.symbols.folded(e->symbol);
-    const auto local = m_locals.find(e->symbol);
-    const bool captured = local != m_locals.end() && local->second.kind == LocalName::Kind::Callable;
+    const std::u16string& name = scope_.symbols.folded(e->symbol);
+    const auto local = locals_.find(e->symbol);
+    const bool captured = local != locals_.end() && local->second.kind == LocalName::Kind::Callable;
     const Resolved r = captured ? resolve(e->symbol) : resolveOutside(e->symbol);
     if (name == u"regexp") { // a class of that name in the script does not hide it
         emit(encode(Opcode::NewNamed, to, 0, textConstant(e->symbol), packed(0, store)));
@@ -222,12 +222,12 @@ void CodeGen::binaryTo(const Expr* e, Operand to) {
          left = left->a) {
         row.push_back(left);
     }
-    const std::size_t mark = m_temporary;
+    const std::size_t mark = temporary_;
     Operand left = leftOperand(row.back()->a, row.back()->b);
     for (std::size_t i = row.size(); i-- > 0;) {
         const Operand right = expr(row[i]->b);
         if (i > 0) {
-            m_temporary = mark;
+            temporary_ = mark;
         }
         const Operand result = i > 0 ? newTemporary() : to;
         emit(encode(opcodeOf(row[i]->op), result, left, right));
@@ -251,7 +251,7 @@ bool CodeGen::joinTo(const Expr* e, Operand to) {
     const auto target = plainVariable(parts[0]);
     const bool grows = target == to && std::none_of(parts.begin() + 1, parts.end(),
                                                     [&](const Expr* part) { return mayChange(parts[0], part); });
-    const Operand start = operandOf(Place::Frame, m_temporary);
+    const Operand start = operandOf(Place::Frame, temporary_);
     std::size_t count = 0;
     for (const Expr* part : parts) {
         if (!grows || part != parts[0]) {
@@ -284,7 +284,7 @@ bool CodeGen::mayChange(const Expr* variable, const Expr* by) {
         return false;
     }
     if (r.kind == Resolved::Kind::Variable && placeOf(r.operand) == Place::Frame && !r.mayRefer && !r.late &&
-        !m_decl.dynamicScope) {
+        !decl_.dynamicScope) {
         return passesName(by, variable->symbol);
     }
     return runsUserCode(by);
@@ -322,7 +322,7 @@ bool CodeGen::passesName(const Expr* e, Symbol symbol) {
 }
 
 void CodeGen::jumpUnless(const Expr* condition, Label& label) {
-    const std::size_t mark = m_temporary;
+    const std::size_t mark = temporary_;
     condition = withoutParentheses(condition);
     if (const auto op = jumpOf(*condition, Opcode::UnlessEqual)) {
         const Operand left = leftOperand(condition->a, condition->b);
@@ -332,11 +332,11 @@ void CodeGen::jumpUnless(const Expr* condition, Label& label) {
         const Operand value = expr(condition);
         emitJump(Opcode::JumpUnless, value, 0, label);
     }
-    m_temporary = mark;
+    temporary_ = mark;
 }
 
 void CodeGen::jumpIfTo(const Expr* condition, std::size_t target) {
-    const std::size_t mark = m_temporary;
+    const std::size_t mark = temporary_;
     condition = withoutParentheses(condition);
     if (const auto op = jumpOf(*condition, Opcode::JumpEqual)) {
         const Operand left = leftOperand(condition->a, condition->b);
@@ -345,7 +345,7 @@ void CodeGen::jumpIfTo(const Expr* condition, std::size_t target) {
     } else {
         emitJumpTo(Opcode::JumpIf, expr(condition), 0, target);
     }
-    m_temporary = mark;
+    temporary_ = mark;
 }
 
 void CodeGen::jumpUnlessTo(const Expr* condition, std::size_t target) {

@@ -12,7 +12,7 @@ void CodeGen::block(const Block& statements) {
 }
 
 void CodeGen::statement(const Stmt& s) {
-    const std::size_t temporaries = m_temporary;
+    const std::size_t temporaries = temporary_;
     beginMark(s.at);
     switch (s.kind) {
     case Stmt::Kind::Assign:
@@ -67,15 +67,15 @@ void CodeGen::statement(const Stmt& s) {
         break;
     }
     endMark();
-    m_temporary = temporaries;
+    temporary_ = temporaries;
 }
 
 void CodeGen::dimStatement(const Stmt& s) {
     for (std::size_t i = s.first; i < s.first + s.count; ++i) {
-        const Variable& variable = m_decl.variables[i];
+        const Variable& variable = decl_.variables[i];
         if (variable.array) {
-            m_procedure.shapes.push_back(variable.sizes);
-            const auto shape = static_cast<Operand>(m_procedure.shapes.size() - 1);
+            procedure_.shapes.push_back(variable.sizes);
+            const auto shape = static_cast<Operand>(procedure_.shapes.size() - 1);
             emit(encode(Opcode::MakeArray, resolve(variable.name).operand, 0, shape));
         }
     }
@@ -102,31 +102,31 @@ void CodeGen::ifStatement(const Stmt& s) {
 }
 
 void CodeGen::selectStatement(const Stmt& s) {
-    const std::size_t hidden = m_hidden;
+    const std::size_t hidden = hidden_;
     const Operand value = newHidden();
-    if (m_decl.resumesNext) {
+    if (decl_.resumesNext) {
         emit(encode(Opcode::Clear, value));
     }
     exprTo(s.value, value, Store::Let);
-    const std::size_t header = m_procedure.marks.size() - 1;
+    const std::size_t header = procedure_.marks.size() - 1;
     endMark();
     Label end;
     for (const CaseBranch& branch : s.cases) {
         beginMark(branch.at);
-        const std::size_t mark = m_procedure.marks.size() - 1;
+        const std::size_t mark = procedure_.marks.size() - 1;
         Label body;
         for (const Expr* candidate : branch.values) {
-            const std::size_t temporaries = m_temporary;
+            const std::size_t temporaries = temporary_;
             emitJump(Opcode::JumpEqual, value, expr(candidate), body);
-            m_temporary = temporaries;
+            temporary_ = temporaries;
         }
         Label next;
         emitJump(Opcode::Jump, 0, 0, next);
         bind(body);
         endMark();
-        m_procedure.marks[mark].resume = static_cast<std::uint32_t>(m_procedure.code.size());
+        procedure_.marks[mark].resume = static_cast<std::uint32_t>(procedure_.code.size());
         if (&branch == &s.cases.front()) {
-            m_procedure.marks[header].resume = static_cast<std::uint32_t>(m_procedure.code.size());
+            procedure_.marks[header].resume = static_cast<std::uint32_t>(procedure_.code.size());
         }
         block(branch.body);
         emitJump(Opcode::Jump, 0, 0, end);
@@ -135,7 +135,7 @@ void CodeGen::selectStatement(const Stmt& s) {
     block(s.otherwise);
     bind(end);
     emit(encode(Opcode::Clear, value));
-    m_hidden = hidden;
+    hidden_ = hidden;
 }
 
 // The variable that a loop assigns. What cannot be assigned fails here, and `instead` takes its place.
@@ -155,16 +155,16 @@ Operand CodeGen::counterOf(Symbol symbol, Operand instead) {
 // The search for a loop's variable in a temporary, which an error in the body may have given up.
 void CodeGen::searchAgain(Symbol symbol, Operand variable) {
     if (isTemporary(variable)) {
-        emit(encode(Opcode::FindName, variable, 0, resolve(symbol).operand, m_scope.ast.optionExplicit ? 1 : 0));
+        emit(encode(Opcode::FindName, variable, 0, resolve(symbol).operand, scope_.ast.optionExplicit ? 1 : 0));
     }
 }
 
 void CodeGen::forStatement(const Stmt& s) {
-    const std::size_t hiddenMark = m_hidden;
+    const std::size_t hiddenMark = hidden_;
     const Operand limit = newHidden();
     const Operand step = newHidden();
     const Operand start = newHidden();
-    if (m_decl.resumesNext) {
+    if (decl_.resumesNext) {
         emit(encode(Opcode::Clear, step)); // Next after a failed header finds a loop that was never set up
     }
     const Operand variable = counterOf(s.target->symbol, start);
@@ -178,38 +178,38 @@ void CodeGen::forStatement(const Stmt& s) {
     Label exit;
     emitJump(Opcode::ForPrepare, variable, limit, exit);
     endMark();
-    m_exitFor.push_back(&exit);
-    const std::size_t body = m_procedure.code.size();
+    exitFor_.push_back(&exit);
+    const std::size_t body = procedure_.code.size();
     block(s.body);
-    m_exitFor.pop_back();
+    exitFor_.pop_back();
     beginMark(s.closing);
     searchAgain(s.target->symbol, variable);
-    const bool byOne = s.step == nullptr && !m_decl.resumesNext; // the step is sure to be there
+    const bool byOne = s.step == nullptr && !decl_.resumesNext; // the step is sure to be there
     emitJumpTo(byOne ? Opcode::ForNext : Opcode::ForLoop, variable, limit, body);
     endMark();
     bind(exit);
-    m_hidden = hiddenMark;
+    hidden_ = hiddenMark;
 }
 
 void CodeGen::forEachStatement(const Stmt& s) {
-    const std::size_t hiddenMark = m_hidden;
+    const std::size_t hiddenMark = hidden_;
     const Operand iterator = newHidden();
-    if (m_decl.resumesNext) {
+    if (decl_.resumesNext) {
         emit(encode(Opcode::Clear, iterator)); // Next after a failed header leaves at once
     }
     const Operand variable = counterOf(s.target->symbol, iterator);
-    const std::size_t temporaries = m_temporary;
+    const std::size_t temporaries = temporary_;
     const Operand collection = expr(s.value);
     emit(encode(Opcode::EachPrepare, iterator, collection));
-    m_temporary = temporaries; // above a variable that is searched
+    temporary_ = temporaries; // above a variable that is searched
     Label next;
     emitJump(Opcode::Jump, 0, 0, next);
     endMark();
     Label exit;
-    m_exitFor.push_back(&exit);
-    const std::size_t body = m_procedure.code.size();
+    exitFor_.push_back(&exit);
+    const std::size_t body = procedure_.code.size();
     block(s.body);
-    m_exitFor.pop_back();
+    exitFor_.pop_back();
     bind(next);
     beginMark(s.closing);
     searchAgain(s.target->symbol, variable);
@@ -217,7 +217,7 @@ void CodeGen::forEachStatement(const Stmt& s) {
     endMark();
     bind(exit);
     emit(encode(Opcode::Clear, iterator));
-    m_hidden = hiddenMark;
+    hidden_ = hiddenMark;
 }
 
 // The test stands below the body; after an error in it, Resume Next goes on inside the loop.
@@ -225,13 +225,13 @@ void CodeGen::whileStatement(const Stmt& s) {
     Label test;
     emitJump(Opcode::Jump, 0, 0, test);
     endMark();
-    const std::size_t body = m_procedure.code.size();
+    const std::size_t body = procedure_.code.size();
     block(s.body);
     bind(test);
     beginMark(s.at);
     jumpIfTo(s.value, body);
     endMark();
-    m_procedure.marks.back().resume = static_cast<std::uint32_t>(body);
+    procedure_.marks.back().resume = static_cast<std::uint32_t>(body);
 }
 
 void CodeGen::doStatement(const Stmt& s) {
@@ -242,10 +242,10 @@ void CodeGen::doStatement(const Stmt& s) {
         emitJump(Opcode::Jump, 0, 0, test);
     }
     endMark();
-    m_exitDo.push_back(&exit);
-    const std::size_t body = m_procedure.code.size();
+    exitDo_.push_back(&exit);
+    const std::size_t body = procedure_.code.size();
     block(s.body);
-    m_exitDo.pop_back();
+    exitDo_.pop_back();
     bind(test);
     beginMark(before ? s.at : s.closing);
     if (s.test == LoopTest::None) {
@@ -257,41 +257,41 @@ void CodeGen::doStatement(const Stmt& s) {
     }
     endMark();
     if (before) {
-        m_procedure.marks.back().resume = static_cast<std::uint32_t>(body);
+        procedure_.marks.back().resume = static_cast<std::uint32_t>(body);
     }
     bind(exit);
 }
 
 void CodeGen::withStatement(const Stmt& s) {
-    const std::size_t hiddenMark = m_hidden;
+    const std::size_t hiddenMark = hidden_;
     const Operand object = newHidden();
-    if (m_decl.resumesNext) {
+    if (decl_.resumesNext) {
         emit(encode(Opcode::Clear, object));
     }
     exprTo(s.value, object, Store::Set);
     endMark();
-    m_withs.push_back(object);
+    withs_.push_back(object);
     block(s.body);
-    m_withs.pop_back();
+    withs_.pop_back();
     emit(encode(Opcode::Clear, object));
-    m_hidden = hiddenMark;
+    hidden_ = hiddenMark;
 }
 
 void CodeGen::exitStatement(const Stmt& s) {
     if (s.exit == ExitKind::Do) {
-        emitJump(Opcode::Jump, 0, 0, *m_exitDo.back());
+        emitJump(Opcode::Jump, 0, 0, *exitDo_.back());
     } else if (s.exit == ExitKind::For) {
-        emitJump(Opcode::Jump, 0, 0, *m_exitFor.back());
+        emitJump(Opcode::Jump, 0, 0, *exitFor_.back());
     } else {
         emit(encode(Opcode::ClearError));
-        emitJump(Opcode::Jump, 0, 0, m_exit);
+        emitJump(Opcode::Jump, 0, 0, exit_);
     }
 }
 
 void CodeGen::reDimStatement(const Stmt& s) {
     const Opcode op = s.preserve ? Opcode::ReDimPreserve : Opcode::ReDim;
     for (const Expr* target : s.targets) {
-        const std::size_t temporaries = m_temporary;
+        const std::size_t temporaries = temporary_;
         const auto variable = target->a->kind == Expr::Kind::Name ? resolve(target->a->symbol) : Resolved{};
         const bool named = target->a->kind == Expr::Kind::Name;
         if (named && variable.kind != Resolved::Kind::Variable && variable.kind != Resolved::Kind::Unknown) {
@@ -316,16 +316,16 @@ void CodeGen::reDimStatement(const Stmt& s) {
                 storeDeep(road, indexes, copy, Store::Let);
             }
         }
-        m_temporary = temporaries;
+        temporary_ = temporaries;
     }
 }
 
 void CodeGen::eraseStatement(const Stmt& s) {
     for (const Expr* target : s.targets) {
-        const std::size_t temporaries = m_temporary;
+        const std::size_t temporaries = temporary_;
         const Operand operand = expr(target);
         emit(encode(Opcode::Erase, operand));
-        m_temporary = temporaries;
+        temporary_ = temporaries;
     }
 }
 

@@ -243,10 +243,10 @@ void Compiler::check(std::u16string_view text) {
 }
 
 std::unique_ptr<Unit> Compiler::compileUnit(std::u16string_view text) {
-    auto unit = std::make_unique<Unit>(m_symbols, m_globals);
-    Parser parser(text, m_symbols);
+    auto unit = std::make_unique<Unit>(symbols_, globals_);
+    Parser parser(text, symbols_);
     const std::unique_ptr<Ast> ast = parser.parse();
-    UnitScope scope(*ast, m_symbols, m_globals, m_library, *unit);
+    UnitScope scope(*ast, symbols_, globals_, library_, *unit);
     declareGlobals(scope);
     compileDeclarations(scope, Reach::Global);
     CodeGen(scope, ast->main, unit->main, nullptr).generate();
@@ -255,10 +255,10 @@ std::unique_ptr<Unit> Compiler::compileUnit(std::u16string_view text) {
 }
 
 Unit* Compiler::compileLocal(std::u16string_view text, const LocalScope& localScope, std::vector<Symbol>& created) {
-    auto unit = std::make_unique<Unit>(m_symbols, m_globals);
-    Parser parser(text, m_symbols);
+    auto unit = std::make_unique<Unit>(symbols_, globals_);
+    Parser parser(text, symbols_);
     const std::unique_ptr<Ast> ast = parser.parse();
-    UnitScope scope(*ast, m_symbols, m_globals, m_library, *unit);
+    UnitScope scope(*ast, symbols_, globals_, library_, *unit);
     compileDeclarations(scope, Reach::Local);
     checkLocals(scope, localScope);
     CodeGen main(scope, ast->main, unit->main, localScope.owner);
@@ -276,12 +276,12 @@ Unit* Compiler::compileLocal(std::u16string_view text, const LocalScope& localSc
 }
 
 Unit* Compiler::compileExpression(std::u16string_view text, const LocalScope& localScope) {
-    auto unit = std::make_unique<Unit>(m_symbols, m_globals);
-    const Symbol result = m_symbols.intern(u"(eval)");
-    Parser parser(text, m_symbols);
+    auto unit = std::make_unique<Unit>(symbols_, globals_);
+    const Symbol result = symbols_.intern(u"(eval)");
+    Parser parser(text, symbols_);
     const std::unique_ptr<Ast> ast = parser.parseExpression(result);
     ast->main.name = result;
-    UnitScope scope(*ast, m_symbols, m_globals, m_library, *unit);
+    UnitScope scope(*ast, symbols_, globals_, library_, *unit);
     CodeGen main(scope, ast->main, unit->main, localScope.owner);
     for (const LocalName& name : localScope.names) {
         main.addCaptured(name);

@@ -23,7 +23,7 @@ struct LocalScope {
 class Compiler {
 public:
     Compiler(SymbolTable& symbols, Globals& globals, const Library& library) noexcept
-        : m_symbols(symbols), m_globals(globals), m_library(library) {}
+        : symbols_(symbols), globals_(globals), library_(library) {}
 
     // Throws CompileError; the unit has one reference, which is the caller's.
     Unit* compile(std::u16string_view text);
@@ -38,9 +38,9 @@ public:
 private:
     std::unique_ptr<Unit> compileUnit(std::u16string_view text);
 
-    SymbolTable& m_symbols;
-    Globals& m_globals;
-    const Library& m_library;
+    SymbolTable& symbols_;
+    Globals& globals_;
+    const Library& library_;
 };
 
 } // namespace vbs

@@ -23,14 +23,14 @@ public:
 
     static constexpr std::uint32_t none = 0xffffffff;
 
-    std::uint32_t find(Symbol symbol) const noexcept { return symbol < m_slots.size() ? m_slots[symbol] : none; }
-    bool full() const noexcept { return m_free == none && m_info.size() == capacity; }
+    std::uint32_t find(Symbol symbol) const noexcept { return symbol < slots_.size() ? slots_[symbol] : none; }
+    bool full() const noexcept { return free_ == none && info_.size() == capacity; }
     // The slot of a name, made if need be (Undefined); noted if somebody notes. Raises CompileError 1903 if full.
     std::uint32_t slotOf(Symbol symbol);
 
-    GlobalKind kind(std::uint32_t slot) const noexcept { return m_info[slot].kind; }
-    bool predefined(std::uint32_t slot) const noexcept { return m_info[slot].predefined; }
-    Symbol symbol(std::uint32_t slot) const noexcept { return m_info[slot].symbol; }
+    GlobalKind kind(std::uint32_t slot) const noexcept { return info_[slot].kind; }
+    bool predefined(std::uint32_t slot) const noexcept { return info_[slot].predefined; }
+    Symbol symbol(std::uint32_t slot) const noexcept { return info_[slot].symbol; }
     // From now on every slot that is asked for gets a holder and goes into `notes`, once; null ends that.
     void noteIn(std::vector<std::uint32_t>* notes) noexcept;
     // The last holder's release takes the slot back if nothing has defined it.
@@ -40,14 +40,14 @@ public:
         std::uint32_t pass = 0;
         bool array = false;
     };
-    Declared& declared(std::uint32_t slot) noexcept { return m_info[slot].declared; }
-    Declared declared(std::uint32_t slot) const noexcept { return m_info[slot].declared; }
+    Declared& declared(std::uint32_t slot) noexcept { return info_[slot].declared; }
+    Declared declared(std::uint32_t slot) const noexcept { return info_[slot].declared; }
     void define(std::uint32_t slot, GlobalKind kind, Value value, bool predefined = false);
 
     bool holdsFixedArray(std::uint32_t slot) const noexcept;
-    Value& operator[](std::uint32_t slot) noexcept { return m_values[slot]; }
-    Value* values() noexcept { return m_values; }
-    std::size_t size() const noexcept { return m_info.size(); }
+    Value& operator[](std::uint32_t slot) noexcept { return values_[slot]; }
+    Value* values() noexcept { return values_; }
+    std::size_t size() const noexcept { return info_.size(); }
 
 private:
     struct Info {
@@ -59,12 +59,12 @@ private:
         std::uint32_t round = 0; // of the notes that have it
         std::uint32_t nextFree = none;
     };
-    Value* m_values;
-    std::vector<Info> m_info;
-    std::vector<std::uint32_t> m_slots; // by symbol
-    std::uint32_t m_free = none;
-    std::vector<std::uint32_t>* m_notes = nullptr;
-    std::uint32_t m_round = 0;
+    Value* values_;
+    std::vector<Info> info_;
+    std::vector<std::uint32_t> slots_; // by symbol
+    std::uint32_t free_ = none;
+    std::vector<std::uint32_t>* notes_ = nullptr;
+    std::uint32_t round_ = 0;
 };
 
 // What a unit mentions: it holds every name and slot that is asked for between its making and close(), for as long as
@@ -79,11 +79,11 @@ public:
     void close() noexcept;
 
 private:
-    SymbolTable& m_symbols;
-    Globals& m_globals;
-    std::vector<Symbol> m_heldSymbols;
-    std::vector<std::uint32_t> m_heldSlots;
-    bool m_open = true;
+    SymbolTable& symbols_;
+    Globals& globals_;
+    std::vector<Symbol> heldSymbols_;
+    std::vector<std::uint32_t> heldSlots_;
+    bool open_ = true;
 };
 
 } // namespace vbs

@@ -10,28 +10,28 @@ UnitScope::UnitScope(const Ast& theAst, SymbolTable& theSymbols, Globals& theGlo
                      Unit& theUnit)
     : ast(theAst), symbols(theSymbols), globals(theGlobals), library(theLibrary), unit(theUnit) {
     for (const ProcedureDecl* procedure : ast.procedures) {
-        m_procedures[procedure->name] = procedure;
+        procedures_[procedure->name] = procedure;
     }
     for (const ClassDecl* decl : ast.classes) {
-        m_classes.insert(decl->name);
+        classes_.insert(decl->name);
     }
     for (const Variable& variable : ast.main.variables) {
-        m_variables.insert(variable.name);
+        variables_.insert(variable.name);
     }
     for (const ConstDecl& constant : ast.main.constants) {
-        m_constants.emplace(constant.name, constant.value);
+        constants_.emplace(constant.name, constant.value);
     }
 }
 
 void UnitScope::makeImplicit(Symbol symbol) {
-    if (m_implicit.insert(symbol).second) {
+    if (implicit_.insert(symbol).second) {
         unit.implicit.push_back(slotOf(symbol));
     }
 }
 
 void UnitScope::makePassed(Symbol symbol) {
     makeImplicit(symbol);
-    m_passed.insert(symbol);
+    passed_.insert(symbol);
 }
 
 std::uint32_t UnitScope::slotOf(Symbol symbol) {
@@ -48,11 +48,11 @@ std::uint32_t UnitScope::slotOf(Symbol symbol, Position declared) {
 
 Resolved UnitScope::resolve(Symbol symbol) {
     Resolved r;
-    const auto procedure = m_procedures.find(symbol);
+    const auto procedure = procedures_.find(symbol);
     const std::uint32_t existing = globals.find(symbol);
     const GlobalKind kind = existing == Globals::none ? GlobalKind::Undefined : globals.kind(existing);
-    const bool own = m_variables.contains(symbol) || m_constants.contains(symbol) || m_implicit.contains(symbol);
-    if (procedure == m_procedures.end() && !m_classes.contains(symbol) && !own && kind == GlobalKind::Undefined) {
+    const bool own = variables_.contains(symbol) || constants_.contains(symbol) || implicit_.contains(symbol);
+    if (procedure == procedures_.end() && !classes_.contains(symbol) && !own && kind == GlobalKind::Undefined) {
         const std::u16string& name = symbols.folded(symbol);
         r.special = name == u"execute"         ? Special::Execute
                     : name == u"executeglobal" ? Special::ExecuteGlobal
@@ -65,16 +65,16 @@ Resolved UnitScope::resolve(Symbol symbol) {
             return r;
         }
     }
-    if (const auto local = m_local.find(symbol); local != m_local.end()) {
+    if (const auto local = local_.find(symbol); local != local_.end()) {
         r.local = local->second;
     } else {
         r.slot = slotOf(symbol);
         r.operand = operandOf(Place::Global, r.slot);
     }
-    r.procedure = procedure != m_procedures.end() ? procedure->second : nullptr;
-    if (r.procedure != nullptr || m_classes.contains(symbol)) {
+    r.procedure = procedure != procedures_.end() ? procedure->second : nullptr;
+    if (r.procedure != nullptr || classes_.contains(symbol)) {
         r.kind = Resolved::Kind::Callable;
-    } else if (const auto constant = m_constants.find(symbol); constant != m_constants.end()) {
+    } else if (const auto constant = constants_.find(symbol); constant != constants_.end()) {
         r.kind = Resolved::Kind::Constant;
         r.literal = constant->second;
     } else if (own || kind != GlobalKind::Undefined) {

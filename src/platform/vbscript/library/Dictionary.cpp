@@ -19,13 +19,13 @@ Value wholeOrElement(Context& context, Value list, Arguments arguments) {
 
 } // namespace
 
-Dictionary::Dictionary(Context& context) : m_context(&context) {
+Dictionary::Dictionary(Context& context) : context_(&context) {
     context.adopt(*this);
 }
 
 Dictionary::~Dictionary() {
-    if (m_context != nullptr) {
-        m_context->abandon(*this);
+    if (context_ != nullptr) {
+        context_->abandon(*this);
     }
 }
 
@@ -48,7 +48,7 @@ std::span<const Dictionary::Member> Dictionary::members() {
 // Reading an item is what scripts do most, so it takes the shortest road.
 Value Dictionary::invoke(Context& context, int member, Access access, Arguments arguments) {
     if (member == defaultMember && access == Access::Get && arguments.size() == 1) {
-        return m_table.findOrAdd(arguments[0].deref());
+        return table_.findOrAdd(arguments[0].deref());
     }
     return NativeObject::invoke(context, member, access, arguments);
 }
@@ -58,12 +58,12 @@ std::unique_ptr<Enumerator> Dictionary::enumerate(Context& /*context*/) {
 }
 
 void Dictionary::dropContents() noexcept {
-    m_context = nullptr;
-    m_table.clear();
+    context_ = nullptr;
+    table_.clear();
 }
 
 Value Dictionary::item(Context& /*context*/, Access access, Arguments arguments) {
-    Value& found = m_table.findOrAdd(arguments[0].deref());
+    Value& found = table_.findOrAdd(arguments[0].deref());
     if (access == Access::Let || access == Access::Set) {
         found = arguments[1].deref();
         return {};
@@ -72,7 +72,7 @@ Value Dictionary::item(Context& /*context*/, Access access, Arguments arguments)
 }
 
 Value Dictionary::add(Context& /*context*/, Access /*access*/, Arguments arguments) {
-    if (!m_table.add(arguments[0].deref(), arguments[1].deref())) {
+    if (!table_.add(arguments[0].deref(), arguments[1].deref())) {
         raise(ErrorNumber::KeyAlreadyExists);
     }
     return {};
@@ -81,23 +81,23 @@ Value Dictionary::add(Context& /*context*/, Access /*access*/, Arguments argumen
 // 0 binary, 1 text, above that a locale's own order (text as well). Only an empty dictionary changes it.
 Value Dictionary::compareMode(Context& context, Access access, Arguments arguments) {
     if (access != Access::Let) {
-        return Value::ofLong(m_compareMode);
+        return Value::ofLong(compareMode_);
     }
     const std::int32_t mode = toLong(context, arguments[0]);
-    if (mode < 0 || m_table.count() > 0) {
+    if (mode < 0 || table_.count() > 0) {
         raise(ErrorNumber::InvalidCall);
     }
-    m_compareMode = mode;
-    m_table.setIgnoresCase(mode != 0);
+    compareMode_ = mode;
+    table_.setIgnoresCase(mode != 0);
     return {};
 }
 
 Value Dictionary::count(Context& /*context*/, Access /*access*/, Arguments /*arguments*/) {
-    return Value::ofLong(static_cast<std::int32_t>(m_table.count()));
+    return Value::ofLong(static_cast<std::int32_t>(table_.count()));
 }
 
 Value Dictionary::exists(Context& /*context*/, Access /*access*/, Arguments arguments) {
-    return Value::ofBoolean(m_table.find(arguments[0].deref()) != nullptr);
+    return Value::ofBoolean(table_.find(arguments[0].deref()) != nullptr);
 }
 
 Value Dictionary::items(Context& context, Access /*access*/, Arguments arguments) {
@@ -111,13 +111,13 @@ Value Dictionary::key(Context& /*context*/, Access access, Arguments arguments) 
     }
     const Value& old = arguments[0].deref();
     const Value& fresh = arguments[1].deref();
-    if (m_table.find(old) == nullptr) {
+    if (table_.find(old) == nullptr) {
         raise(ErrorNumber::ElementNotFound);
     }
-    if (m_table.find(fresh) != nullptr) {
+    if (table_.find(fresh) != nullptr) {
         raise(ErrorNumber::KeyAlreadyExists);
     }
-    m_table.rename(old, fresh);
+    table_.rename(old, fresh);
     return {};
 }
 
@@ -126,21 +126,21 @@ Value Dictionary::keys(Context& context, Access /*access*/, Arguments arguments)
 }
 
 Value Dictionary::remove(Context& /*context*/, Access /*access*/, Arguments arguments) {
-    if (!m_table.remove(arguments[0].deref())) {
+    if (!table_.remove(arguments[0].deref())) {
         raise(ErrorNumber::ElementNotFound);
     }
     return {};
 }
 
 Value Dictionary::removeAll(Context& /*context*/, Access /*access*/, Arguments /*arguments*/) {
-    m_table.clear();
+    table_.clear();
     return {};
 }
 
 Value Dictionary::list(Value KeyedTable::Entry::*part) const {
-    Value result = Value::ofArray(ArrayBlock::create(m_table.count()));
+    Value result = Value::ofArray(ArrayBlock::create(table_.count()));
     Value* out = result.array()->elements();
-    for (const KeyedTable::Entry& entry : m_table.entries()) {
+    for (const KeyedTable::Entry& entry : table_.entries()) {
         if (entry.alive) {
             *out++ = entry.*part;
         }

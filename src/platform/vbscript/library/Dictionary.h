@@ -34,10 +34,10 @@ private:
     // The keys or the items as an array.
     Value list(Value KeyedTable::Entry::*part) const;
 
-    MemoryCharge m_charge{sizeof(Dictionary)};
-    Context* m_context; // null once the engine has gone
-    KeyedTable m_table;
-    std::int32_t m_compareMode = 0;
+    MemoryCharge charge_{sizeof(Dictionary)};
+    Context* context_; // null once the engine has gone
+    KeyedTable table_;
+    std::int32_t compareMode_ = 0;
 };
 
 } // namespace vbs

@@ -116,10 +116,10 @@ std::span<const RegExp::Member> RegExp::members() {
 
 Value RegExp::pattern(Context& context, Access access, Arguments arguments) {
     if (access != Access::Let) {
-        return Value::ofString(m_pattern);
+        return Value::ofString(pattern_);
     }
-    m_pattern = toString(context, arguments[0]);
-    m_program.reset();
+    pattern_ = toString(context, arguments[0]);
+    program_.reset();
     return {};
 }
 
@@ -132,28 +132,28 @@ Value RegExp::flag(Context& context, Access access, Arguments arguments, bool& v
 }
 
 Value RegExp::global(Context& context, Access access, Arguments arguments) {
-    return flag(context, access, arguments, m_global);
+    return flag(context, access, arguments, global_);
 }
 
 Value RegExp::ignoreCase(Context& context, Access access, Arguments arguments) {
     if (access == Access::Let) {
-        m_program.reset();
+        program_.reset();
     }
-    return flag(context, access, arguments, m_ignoreCase);
+    return flag(context, access, arguments, ignoreCase_);
 }
 
 Value RegExp::multiline(Context& context, Access access, Arguments arguments) {
     if (access == Access::Let) {
-        m_program.reset();
+        program_.reset();
     }
-    return flag(context, access, arguments, m_multiline);
+    return flag(context, access, arguments, multiline_);
 }
 
 const std::shared_ptr<RegExpProgram>& RegExp::program() {
-    if (m_program == nullptr) {
-        m_program = std::make_shared<RegExpProgram>(m_pattern.view(), m_ignoreCase, m_multiline);
+    if (program_ == nullptr) {
+        program_ = std::make_shared<RegExpProgram>(pattern_.view(), ignoreCase_, multiline_);
     }
-    return m_program;
+    return program_;
 }
 
 // Calls function(program) for the first match, or for each one if Global is set. After an empty match the search goes
@@ -161,7 +161,7 @@ const std::shared_ptr<RegExpProgram>& RegExp::program() {
 template <class Function>
 void RegExp::eachMatch(Context& context, const String& text, Function function) {
     const std::shared_ptr<RegExpProgram> running = program();
-    const bool all = m_global;
+    const bool all = global_;
     std::size_t from = 0;
     while (from <= text.size() && running->match(context, text.view(), from)) {
         const Place whole = *running->group(0);

@@ -27,12 +27,12 @@ private:
     template <class Function>
     void eachMatch(Context& context, const String& text, Function function);
 
-    MemoryCharge m_charge{sizeof(RegExp)};
-    String m_pattern;
-    bool m_global = false;
-    bool m_ignoreCase = false;
-    bool m_multiline = false;
-    std::shared_ptr<RegExpProgram> m_program; // a search under way keeps the one it began with
+    MemoryCharge charge_{sizeof(RegExp)};
+    String pattern_;
+    bool global_ = false;
+    bool ignoreCase_ = false;
+    bool multiline_ = false;
+    std::shared_ptr<RegExpProgram> program_; // a search under way keeps the one it began with
 };
 
 } // namespace vbs

@@ -14,19 +14,19 @@ std::span<const ValueList::Member> ValueList::members() {
 }
 
 std::unique_ptr<Enumerator> ValueList::enumerate(Context& /*context*/) {
-    return std::make_unique<ArrayEnumerator>(m_array);
+    return std::make_unique<ArrayEnumerator>(array_);
 }
 
 Value ValueList::item(Context& context, Access /*access*/, Arguments arguments) {
     const std::int32_t index = toLong(context, arguments[0]);
-    if (index < 0 || static_cast<std::size_t>(index) >= m_array.array()->count()) {
+    if (index < 0 || static_cast<std::size_t>(index) >= array_.array()->count()) {
         raise(ErrorNumber::InvalidCall);
     }
-    return m_array.array()->elements()[index];
+    return array_.array()->elements()[index];
 }
 
 Value ValueList::count(Context& /*context*/, Access /*access*/, Arguments /*arguments*/) {
-    return Value::ofLong(static_cast<std::int32_t>(m_array.array()->count()));
+    return Value::ofLong(static_cast<std::int32_t>(array_.array()->count()));
 }
 
 std::span<const Match::Member> Match::members() {
@@ -40,20 +40,20 @@ std::span<const Match::Member> Match::members() {
 }
 
 Value Match::value(Context& /*context*/, Access /*access*/, Arguments /*arguments*/) {
-    return m_text;
+    return text_;
 }
 
 Value Match::firstIndex(Context& /*context*/, Access /*access*/, Arguments /*arguments*/) {
-    return Value::ofLong(m_firstIndex);
+    return Value::ofLong(firstIndex_);
 }
 
 Value Match::length(Context& /*context*/, Access /*access*/, Arguments /*arguments*/) {
-    return Value::ofLong(static_cast<std::int32_t>(m_text.text().size()));
+    return Value::ofLong(static_cast<std::int32_t>(text_.text().size()));
 }
 
 // SubMatches, or SubMatches(index) at once.
 Value Match::subMatches(Context& context, Access /*access*/, Arguments arguments) {
-    const auto list = makeObject<ValueList>(std::u16string_view(u"ISubMatches"), m_subMatches);
+    const auto list = makeObject<ValueList>(std::u16string_view(u"ISubMatches"), subMatches_);
     return arguments.empty() ? list.value() : list->invoke(context, defaultMember, Access::Get, arguments);
 }
 

@@ -14,26 +14,26 @@ namespace vbs {
 class ValueList : public NativeObject<ValueList> {
 public:
     // `name` for TypeName; `array`: the elements, an array value of one dimension.
-    ValueList(std::u16string_view name, Value array) : m_name(name), m_array(std::move(array)) {}
+    ValueList(std::u16string_view name, Value array) : name_(name), array_(std::move(array)) {}
 
     static std::span<const Member> members();
-    std::u16string_view typeName() const override { return m_name; }
+    std::u16string_view typeName() const override { return name_; }
     std::unique_ptr<Enumerator> enumerate(Context& context) override;
 
 private:
     Value item(Context& context, Access access, Arguments arguments);
     Value count(Context& context, Access access, Arguments arguments);
 
-    MemoryCharge m_charge{sizeof(ValueList)};
-    std::u16string_view m_name;
-    Value m_array;
+    MemoryCharge charge_{sizeof(ValueList)};
+    std::u16string_view name_;
+    Value array_;
 };
 
 class Match : public NativeObject<Match> {
 public:
     // `firstIndex` from 0; `subMatches`: an array value, Empty for a group that took no part.
     Match(Value text, std::int32_t firstIndex, Value subMatches)
-        : m_text(std::move(text)), m_firstIndex(firstIndex), m_subMatches(std::move(subMatches)) {}
+        : text_(std::move(text)), firstIndex_(firstIndex), subMatches_(std::move(subMatches)) {}
 
     static std::span<const Member> members();
     std::u16string_view typeName() const override { return u"IMatch2"; }
@@ -44,10 +44,10 @@ private:
     Value length(Context& context, Access access, Arguments arguments);
     Value subMatches(Context& context, Access access, Arguments arguments);
 
-    MemoryCharge m_charge{sizeof(Match)};
-    Value m_text;
-    std::int32_t m_firstIndex;
-    Value m_subMatches;
+    MemoryCharge charge_{sizeof(Match)};
+    Value text_;
+    std::int32_t firstIndex_;
+    Value subMatches_;
 };
 
 } // namespace vbs

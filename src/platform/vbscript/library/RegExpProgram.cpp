@@ -36,7 +36,7 @@ struct RegExpProgram::Library {
 };
 
 RegExpProgram::RegExpProgram(std::u16string_view pattern, bool ignoreCase, bool multiline)
-    : m_library(std::make_unique<Library>()) {
+    : library_(std::make_unique<Library>()) {
     // The library folds letters beyond ASCII only by their Unicode properties, which slow down the rest.
     const bool unicode = ignoreCase && namesBeyondAscii(pattern);
     const TranslatedPattern translated = translatePattern(pattern, multiline, unicode);
@@ -44,27 +44,27 @@ RegExpProgram::RegExpProgram(std::u16string_view pattern, bool ignoreCase, bool 
                                   (ignoreCase ? PCRE2_CASELESS : 0) | (unicode ? PCRE2_UCP : 0);
     int error = 0;
     PCRE2_SIZE where = 0;
-    m_library->code.reset(
+    library_->code.reset(
         pcre2_compile_16(units(translated.text), translated.text.size(), options, &error, &where, nullptr));
-    if (m_library->code == nullptr) {
+    if (library_->code == nullptr) {
         raise(error == PCRE2_ERROR_HEAP_FAILED ? ErrorNumber::OutOfMemory : ErrorNumber::RegexSyntax);
     }
-    m_library->places.reset(pcre2_match_data_create_from_pattern_16(m_library->code.get(), nullptr));
-    m_library->limits.reset(pcre2_match_context_create_16(nullptr));
-    if (m_library->places == nullptr || m_library->limits == nullptr) {
+    library_->places.reset(pcre2_match_data_create_from_pattern_16(library_->code.get(), nullptr));
+    library_->limits.reset(pcre2_match_context_create_16(nullptr));
+    if (library_->places == nullptr || library_->limits == nullptr) {
         raise(ErrorNumber::OutOfMemory);
     }
-    pcre2_set_match_limit_16(m_library->limits.get(), mostSteps);
-    pcre2_set_heap_limit_16(m_library->limits.get(), mostHeap);
-    m_groups = translated.groups;
+    pcre2_set_match_limit_16(library_->limits.get(), mostSteps);
+    pcre2_set_heap_limit_16(library_->limits.get(), mostHeap);
+    groups_ = translated.groups;
 }
 
 RegExpProgram::~RegExpProgram() = default;
 
 bool RegExpProgram::match(Context& context, std::u16string_view subject, std::size_t from) {
     context.spend(usualWork);
-    const int result = pcre2_match_16(m_library->code.get(), units(subject), subject.size(), from, 0,
-                                      m_library->places.get(), m_library->limits.get());
+    const int result = pcre2_match_16(library_->code.get(), units(subject), subject.size(), from, 0,
+                                      library_->places.get(), library_->limits.get());
     if (result >= 0) {
         return true;
     }
@@ -84,7 +84,7 @@ bool RegExpProgram::match(Context& context, std::u16string_view subject, std::si
 }
 
 std::optional<RegExpProgram::Place> RegExpProgram::group(int number) const noexcept {
-    const PCRE2_SIZE* bounds = pcre2_get_ovector_pointer_16(m_library->places.get());
+    const PCRE2_SIZE* bounds = pcre2_get_ovector_pointer_16(library_->places.get());
     const auto i = static_cast<std::size_t>(number) * 2;
     if (bounds[i] == PCRE2_UNSET) {
         return std::nullopt;

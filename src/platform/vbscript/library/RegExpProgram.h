@@ -18,7 +18,7 @@ public:
     RegExpProgram(const RegExpProgram&) = delete;
     RegExpProgram& operator=(const RegExpProgram&) = delete;
 
-    int groups() const noexcept { return m_groups; }
+    int groups() const noexcept { return groups_; }
 
     // Looks for the first match at or after `from` (code units). Raises 28 when it takes more steps than any sensible
     // pattern does, 7 when it takes too much memory.
@@ -33,8 +33,8 @@ public:
 
 private:
     struct Library;
-    std::unique_ptr<Library> m_library;
-    int m_groups = 0;
+    std::unique_ptr<Library> library_;
+    int groups_ = 0;
 };
 
 } // namespace vbs

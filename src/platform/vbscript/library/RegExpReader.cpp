@@ -59,7 +59,7 @@ void appendLiteral(std::u16string& out, char16_t c) {
 }
 
 char16_t PatternReader::escapedUnit() noexcept {
-    const char16_t c = m_pattern[m_at++];
+    const char16_t c = pattern_[at_++];
     switch (c) {
     case u'f':
         return u'\f';
@@ -72,7 +72,7 @@ char16_t PatternReader::escapedUnit() noexcept {
     case u'v':
         return u'\v';
     case u'c':
-        return m_at < m_pattern.size() && isLetter(m_pattern[m_at]) ? static_cast<char16_t>(m_pattern[m_at++] % 32) : c;
+        return at_ < pattern_.size() && isLetter(pattern_[at_]) ? static_cast<char16_t>(pattern_[at_++] % 32) : c;
     case u'x':
         return hexUnit(2).value_or(c);
     case u'u':
@@ -83,26 +83,26 @@ char16_t PatternReader::escapedUnit() noexcept {
 }
 
 std::optional<char16_t> PatternReader::hexUnit(std::size_t digits) noexcept {
-    if (m_at + digits > m_pattern.size()) {
+    if (at_ + digits > pattern_.size()) {
         return std::nullopt;
     }
     int code = 0;
     for (std::size_t i = 0; i < digits; ++i) {
-        const int value = hexValue(m_pattern[m_at + i]);
+        const int value = hexValue(pattern_[at_ + i]);
         if (value < 0) {
             return std::nullopt;
         }
         code = code * 16 + value;
     }
-    m_at += digits;
+    at_ += digits;
     return static_cast<char16_t>(code);
 }
 
 // Up to three octal digits, as far as the code stays below 256.
 char16_t PatternReader::octalUnit(char16_t first) noexcept {
     int code = first - u'0';
-    for (int i = 0; i < 2 && m_at < m_pattern.size() && isOctal(m_pattern[m_at]) && code < 32; ++i) {
-        code = code * 8 + (m_pattern[m_at++] - u'0');
+    for (int i = 0; i < 2 && at_ < pattern_.size() && isOctal(pattern_[at_]) && code < 32; ++i) {
+        code = code * 8 + (pattern_[at_++] - u'0');
     }
     return static_cast<char16_t>(code);
 }

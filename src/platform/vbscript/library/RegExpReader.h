@@ -20,26 +20,26 @@ void appendLiteral(std::u16string& out, char16_t c);
 
 class PatternReader {
 public:
-    explicit PatternReader(std::u16string_view pattern) noexcept : m_pattern(pattern) {}
+    explicit PatternReader(std::u16string_view pattern) noexcept : pattern_(pattern) {}
 
-    std::u16string_view pattern() const noexcept { return m_pattern; }
-    bool atEnd() const noexcept { return m_at >= m_pattern.size(); }
-    std::size_t place() const noexcept { return m_at; }
-    void goBackTo(std::size_t place) noexcept { m_at = place; }
+    std::u16string_view pattern() const noexcept { return pattern_; }
+    bool atEnd() const noexcept { return at_ >= pattern_.size(); }
+    std::size_t place() const noexcept { return at_; }
+    void goBackTo(std::size_t place) noexcept { at_ = place; }
 
     // The character `ahead` places further on, or 0 behind the end.
     char16_t peek(std::size_t ahead = 0) const noexcept {
-        return m_at + ahead < m_pattern.size() ? m_pattern[m_at + ahead] : u'\0';
+        return at_ + ahead < pattern_.size() ? pattern_[at_ + ahead] : u'\0';
     }
-    bool next(char16_t c) const noexcept { return !atEnd() && m_pattern[m_at] == c; }
+    bool next(char16_t c) const noexcept { return !atEnd() && pattern_[at_] == c; }
     bool take(char16_t c) noexcept {
         if (!next(c)) {
             return false;
         }
-        ++m_at;
+        ++at_;
         return true;
     }
-    char16_t takeAny() noexcept { return m_pattern[m_at++]; } // not at the end
+    char16_t takeAny() noexcept { return pattern_[at_++]; } // not at the end
 
     // Behind a backslash, not at the end: the character that the escape stands for. A letter without meaning stands for
     // itself.
@@ -49,8 +49,8 @@ private:
     std::optional<char16_t> hexUnit(std::size_t digits) noexcept;
     char16_t octalUnit(char16_t first) noexcept;
 
-    std::u16string_view m_pattern;
-    std::size_t m_at = 0;
+    std::u16string_view pattern_;
+    std::size_t at_ = 0;
 };
 
 } // namespace vbs

@@ -26,29 +26,29 @@ struct Quantifier {
 class Translator {
 public:
     Translator(std::u16string_view pattern, bool multiline, bool unicode)
-        : m_in(pattern), m_multiline(multiline), m_unicode(unicode) {}
+        : in_(pattern), multiline_(multiline), unicode_(unicode) {}
 
     TranslatedPattern translate() {
-        m_out.groups = countGroups();
-        while (!m_in.atEnd()) {
+        out_.groups = countGroups();
+        while (!in_.atEnd()) {
             term();
         }
-        if (m_depth > 0) {
+        if (depth_ > 0) {
             raise(ErrorNumber::RegexParenthesis);
         }
-        return std::move(m_out);
+        return std::move(out_);
     }
 
 private:
-    void put(std::u16string_view text) { m_out.text += text; }
+    void put(std::u16string_view text) { out_.text += text; }
 
-    void putLiteral(char16_t c) { appendLiteral(m_out.text, c); }
+    void putLiteral(char16_t c) { appendLiteral(out_.text, c); }
 
     // Groups that capture, wherever they stand: references may point forward.
     int countGroups() const {
         int groups = 0;
         bool inSet = false;
-        const std::u16string_view text = m_in.pattern();
+        const std::u16string_view text = in_.pattern();
         for (std::size_t i = 0; i < text.size(); ++i) {
             const char16_t c = text[i];
             if (c == u'\\') {
@@ -65,14 +65,14 @@ private:
     }
 
     void term() {
-        const char16_t c = m_in.takeAny();
-        const bool quantifiable = std::exchange(m_quantifiable, true);
+        const char16_t c = in_.takeAny();
+        const bool quantifiable = std::exchange(quantifiable_, true);
         switch (c) {
         case u'\\':
             escape();
             break;
         case u'[':
-            translateSet(m_in, m_out.text);
+            translateSet(in_, out_.text);
             break;
         case u'(':
             openGroup();
@@ -85,15 +85,15 @@ private:
             break;
         case u'|':
             put(u"|");
-            m_quantifiable = false;
+            quantifiable_ = false;
             break;
         case u'^':
-            put(m_multiline ? u"(?<![^\\n\\r])" : u"^");
-            m_quantifiable = false;
+            put(multiline_ ? u"(?<![^\\n\\r])" : u"^");
+            quantifiable_ = false;
             break;
         case u'$':
-            put(m_multiline ? u"(?![^\\n\\r])" : u"$");
-            m_quantifiable = false;
+            put(multiline_ ? u"(?![^\\n\\r])" : u"$");
+            quantifiable_ = false;
             break;
         case u'*':
         case u'+':
@@ -107,15 +107,15 @@ private:
     }
 
     void openGroup() {
-        ++m_depth;
-        m_quantifiable = false;
-        if (!m_in.take(u'?')) {
+        ++depth_;
+        quantifiable_ = false;
+        if (!in_.take(u'?')) {
             put(u"(");
-        } else if (m_in.take(u':')) {
+        } else if (in_.take(u':')) {
             put(u"(?:");
-        } else if (m_in.take(u'=')) {
+        } else if (in_.take(u'=')) {
             put(u"(?=");
-        } else if (m_in.take(u'!')) {
+        } else if (in_.take(u'!')) {
             put(u"(?!");
         } else {
             raise(ErrorNumber::RegexSyntax);
@@ -123,7 +123,7 @@ private:
     }
 
     void closeGroup() {
-        if (m_depth-- == 0) {
+        if (depth_-- == 0) {
             raise(ErrorNumber::RegexSyntax);
         }
         put(u")");
@@ -131,12 +131,12 @@ private:
 
     // The number at the present place; counts beyond every limit stop growing.
     std::optional<int> number() {
-        if (!isPatternDigit(m_in.peek())) {
+        if (!isPatternDigit(in_.peek())) {
             return std::nullopt;
         }
         int n = 0;
-        while (isPatternDigit(m_in.peek())) {
-            const int digit = m_in.takeAny() - u'0';
+        while (isPatternDigit(in_.peek())) {
+            const int digit = in_.takeAny() - u'0';
             n = n <= mostRepeats ? n * 10 + digit : n;
         }
         return n;
@@ -144,17 +144,17 @@ private:
 
     // What stands after "{", if it is a quantifier: n} n,} n,m}
     std::optional<Quantifier> braces() {
-        const std::size_t start = m_in.place();
+        const std::size_t start = in_.place();
         if (const auto least = number()) {
             std::optional<int> most = least;
-            if (m_in.take(u',')) {
+            if (in_.take(u',')) {
                 most = number();
             }
-            if (m_in.take(u'}')) {
+            if (in_.take(u'}')) {
                 return Quantifier{*least, most};
             }
         }
-        m_in.goBackTo(start);
+        in_.goBackTo(start);
         return std::nullopt;
     }
 
@@ -170,12 +170,12 @@ private:
         if (counted) {
             putCounted(*counted);
         } else {
-            m_out.text.push_back(sign);
+            out_.text.push_back(sign);
         }
-        if (m_in.take(u'?')) {
+        if (in_.take(u'?')) {
             put(u"?");
         }
-        m_quantifiable = false;
+        quantifiable_ = false;
     }
 
     void putCounted(const Quantifier& q) {
@@ -195,59 +195,59 @@ private:
 
     void putNumber(int n) {
         const std::string digits = std::to_string(n);
-        m_out.text.append(digits.begin(), digits.end());
+        out_.text.append(digits.begin(), digits.end());
     }
 
     // Outside a set, behind the backslash.
     void escape() {
-        if (m_in.atEnd()) {
+        if (in_.atEnd()) {
             raise(ErrorNumber::RegexSyntax);
         }
-        const char16_t c = m_in.peek();
+        const char16_t c = in_.peek();
         if (const auto characters = classCharacters(c); !characters.empty()) {
-            m_in.takeAny();
+            in_.takeAny();
             put(u"[");
             put(characters);
             put(u"]");
         } else if (c == u'b' || c == u'B') {
-            m_in.takeAny();
-            m_unicode ? put(c == u'b' ? wordBoundary : noWordBoundary) : put(c == u'b' ? u"\\b" : u"\\B");
+            in_.takeAny();
+            unicode_ ? put(c == u'b' ? wordBoundary : noWordBoundary) : put(c == u'b' ? u"\\b" : u"\\B");
         } else if (const int group = reference(); group > 0) {
             put(u"\\g{");
             putNumber(group);
             put(u"}");
         } else {
-            putLiteral(m_in.escapedUnit());
+            putLiteral(in_.escapedUnit());
         }
     }
 
     // Takes \1 to \99 as far as there are so many groups; else 0 and nothing taken.
     int reference() {
-        const int first = m_in.peek() - u'0';
+        const int first = in_.peek() - u'0';
         if (first < 1 || first > 9) {
             return 0;
         }
-        if (isPatternDigit(m_in.peek(1))) {
-            const int both = first * 10 + (m_in.peek(1) - u'0');
-            if (both <= m_out.groups) {
-                m_in.takeAny();
-                m_in.takeAny();
+        if (isPatternDigit(in_.peek(1))) {
+            const int both = first * 10 + (in_.peek(1) - u'0');
+            if (both <= out_.groups) {
+                in_.takeAny();
+                in_.takeAny();
                 return both;
             }
         }
-        if (first > m_out.groups) {
+        if (first > out_.groups) {
             return 0;
         }
-        m_in.takeAny();
+        in_.takeAny();
         return first;
     }
 
-    PatternReader m_in;
-    bool m_multiline;
-    bool m_unicode;
-    int m_depth = 0;
-    bool m_quantifiable = false; // whether a quantifier may stand here
-    TranslatedPattern m_out;
+    PatternReader in_;
+    bool multiline_;
+    bool unicode_;
+    int depth_ = 0;
+    bool quantifiable_ = false; // whether a quantifier may stand here
+    TranslatedPattern out_;
 };
 
 } // namespace

@@ -75,7 +75,7 @@ std::int32_t scriptErrorNumber(std::int32_t code) noexcept {
     }
 }
 
-ErrObject::ErrObject(Vm& vm) : m_vm(&vm) {
+ErrObject::ErrObject(Vm& vm) : vm_(&vm) {
     vm.adopt(*this);
 }
 
@@ -84,16 +84,16 @@ ErrObject::~ErrObject() {
 }
 
 void ErrObject::dropContents() noexcept {
-    if (m_vm != nullptr) {
-        std::exchange(m_vm, nullptr)->abandon(*this);
+    if (vm_ != nullptr) {
+        std::exchange(vm_, nullptr)->abandon(*this);
     }
 }
 
 ErrorState& ErrObject::state() const {
-    if (m_vm == nullptr) {
+    if (vm_ == nullptr) {
         raise(ErrorNumber::ObjectRequired);
     }
-    return m_vm->error;
+    return vm_->error;
 }
 
 Value ErrObject::number(Context& context, Access access, Arguments arguments) {

@@ -29,7 +29,7 @@ private:
 
     ErrorState& state() const;
 
-    Vm* m_vm; // null once the engine has gone
+    Vm* vm_; // null once the engine has gone
 };
 
 // The script's own number for a system result code; other numbers stay as they are.

@@ -18,7 +18,7 @@ public:
     void dropContents() noexcept override;
 
 private:
-    Vm* m_vm; // null once the engine has gone
+    Vm* vm_; // null once the engine has gone
 };
 
 } // namespace vbs

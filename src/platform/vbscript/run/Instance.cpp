@@ -15,13 +15,13 @@ std::size_t bytesOf(const ScriptClass& cls) noexcept {
 
 } // namespace
 
-Instance::Instance(Vm& vm, const ScriptClass& cls) : m_vm(&vm), m_class(&cls), m_charge(bytesOf(cls)) {
+Instance::Instance(Vm& vm, const ScriptClass& cls) : vm_(&vm), class_(&cls), charge_(bytesOf(cls)) {
     role = Role::Instance;
     shape = cls.shape;
-    m_fields = std::make_unique<Value[]>(cls.fields.size());
+    fields_ = std::make_unique<Value[]>(cls.fields.size());
     for (std::size_t i = 0; i < cls.fields.size(); ++i) {
         if (cls.fields[i].array) {
-            m_fields[i] = Value::ofArray(ArrayBlock::create(cls.fields[i].sizes, !cls.fields[i].sizes.empty()));
+            fields_[i] = Value::ofArray(ArrayBlock::create(cls.fields[i].sizes, !cls.fields[i].sizes.empty()));
         }
     }
     vm.retain(cls.unit);
@@ -29,61 +29,61 @@ Instance::Instance(Vm& vm, const ScriptClass& cls) : m_vm(&vm), m_class(&cls), m
 }
 
 Instance::~Instance() {
-    if (m_vm == nullptr) {
+    if (vm_ == nullptr) {
         return;
     }
-    m_vm->abandon(*this);
-    m_fields.reset();
-    m_vm->release(m_class->unit);
+    vm_->abandon(*this);
+    fields_.reset();
+    vm_->release(class_->unit);
 }
 
 std::u16string_view Instance::typeName() const {
-    return m_class != nullptr ? std::u16string_view(m_class->spelling) : u"Object";
+    return class_ != nullptr ? std::u16string_view(class_->spelling) : u"Object";
 }
 
 int Instance::resolve(std::u16string_view name) {
-    if (m_class == nullptr) {
+    if (class_ == nullptr) {
         return noMember;
     }
-    const auto found = m_class->index.find(m_vm->symbols().find(name));
-    return found != m_class->index.end() ? found->second : noMember;
+    const auto found = class_->index.find(vm_->symbols().find(name));
+    return found != class_->index.end() ? found->second : noMember;
 }
 
 Value Instance::invoke(Context& /*context*/, int member, Access access, Arguments arguments) {
-    if (m_vm == nullptr) {
+    if (vm_ == nullptr) {
         raise(ErrorNumber::ObjectRequired);
     }
-    if (member < 0 || static_cast<std::size_t>(member) >= m_class->members.size()) {
+    if (member < 0 || static_cast<std::size_t>(member) >= class_->members.size()) {
         raise(ErrorNumber::MemberNotFound);
     }
-    return m_vm->invokeInstance(*this, m_class->members[static_cast<std::size_t>(member)], access, arguments);
+    return vm_->invokeInstance(*this, class_->members[static_cast<std::size_t>(member)], access, arguments);
 }
 
 void Instance::dropContents() noexcept {
-    if (m_vm == nullptr) {
+    if (vm_ == nullptr) {
         return;
     }
     terminates = false;
-    for (std::size_t i = 0; i < m_class->fields.size(); ++i) {
-        m_fields[i].clear();
+    for (std::size_t i = 0; i < class_->fields.size(); ++i) {
+        fields_[i].clear();
     }
-    m_vm->abandon(*this);
+    vm_->abandon(*this);
     role = Role::Native;
     shape = nullptr;
-    std::exchange(m_vm, nullptr)->release(std::exchange(m_class, nullptr)->unit);
+    std::exchange(vm_, nullptr)->release(std::exchange(class_, nullptr)->unit);
 }
 
 bool Instance::postponesEnd() noexcept {
-    if (!terminates || m_class->terminate == nullptr) {
+    if (!terminates || class_->terminate == nullptr) {
         return false;
     }
     terminates = false;
     references = 1;
-    m_vm->awaitTermination(*this);
+    vm_->awaitTermination(*this);
     return true;
 }
 
-ProcedureReference::ProcedureReference(Vm& vm, const Procedure& procedure) : m_vm(&vm), m_procedure(&procedure) {
+ProcedureReference::ProcedureReference(Vm& vm, const Procedure& procedure) : vm_(&vm), procedure_(&procedure) {
     role = Role::ProcedureReference;
     vm.retain(procedure.unit);
     vm.adopt(*this);
@@ -94,35 +94,35 @@ ProcedureReference::~ProcedureReference() {
 }
 
 void ProcedureReference::dropContents() noexcept {
-    if (m_vm != nullptr) {
-        m_vm->abandon(*this);
+    if (vm_ != nullptr) {
+        vm_->abandon(*this);
         role = Role::Native;
-        std::exchange(m_vm, nullptr)->release(std::exchange(m_procedure, nullptr)->unit);
+        std::exchange(vm_, nullptr)->release(std::exchange(procedure_, nullptr)->unit);
     }
 }
 
 Value ProcedureReference::invoke(Context& /*context*/, int member, Access access, Arguments arguments) {
-    if (m_vm == nullptr) {
+    if (vm_ == nullptr) {
         raise(ErrorNumber::ObjectRequired);
     }
     if (member != defaultMember || access == Access::Let || access == Access::Set) {
         raise(ErrorNumber::MemberNotFound);
     }
-    return m_vm->callProcedure(*m_procedure, nullptr, arguments);
+    return vm_->callProcedure(*procedure_, nullptr, arguments);
 }
 
-Iterator::Iterator(const Value& array) : m_array(array) {
+Iterator::Iterator(const Value& array) : array_(array) {
     role = Role::Iterator;
-    ++m_array.array()->locks;
+    ++array_.array()->locks;
 }
 
-Iterator::Iterator(std::unique_ptr<Enumerator> enumerator) : m_enumerator(std::move(enumerator)) {
+Iterator::Iterator(std::unique_ptr<Enumerator> enumerator) : enumerator_(std::move(enumerator)) {
     role = Role::Iterator;
 }
 
 Iterator::~Iterator() {
-    if (m_array.isArray()) {
-        --m_array.array()->locks;
+    if (array_.isArray()) {
+        --array_.array()->locks;
     }
 }
 
@@ -131,14 +131,14 @@ Value Iterator::invoke(Context& /*context*/, int /*member*/, Access /*access*/, 
 }
 
 bool Iterator::next(Context& context, Value& element) {
-    if (m_enumerator != nullptr) {
-        return m_enumerator->next(context, element);
+    if (enumerator_ != nullptr) {
+        return enumerator_->next(context, element);
     }
-    const ArrayBlock& array = *m_array.array();
-    if (m_index >= array.count()) {
+    const ArrayBlock& array = *array_.array();
+    if (index_ >= array.count()) {
         return false;
     }
-    element = array.elements()[m_index++];
+    element = array.elements()[index_++];
     return true;
 }
 

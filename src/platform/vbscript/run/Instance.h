@@ -23,8 +23,8 @@ public:
     Value invoke(Context& context, int member, Access access, Arguments arguments) override;
     void dropContents() noexcept override;
 
-    const ScriptClass& cls() const noexcept { return *m_class; }
-    Value* fields() noexcept { return m_fields.get(); }
+    const ScriptClass& cls() const noexcept { return *class_; }
+    Value* fields() noexcept { return fields_.get(); }
     bool terminates = false; // Class_Initialize was reached, so Class_Terminate will run
 
 protected:
@@ -32,10 +32,10 @@ protected:
     bool postponesEnd() noexcept override;
 
 private:
-    Vm* m_vm; // null once the engine has gone, and so is the class
-    const ScriptClass* m_class;
-    const MemoryCharge m_charge;
-    std::unique_ptr<Value[]> m_fields;
+    Vm* vm_; // null once the engine has gone, and so is the class
+    const ScriptClass* class_;
+    const MemoryCharge charge_;
+    std::unique_ptr<Value[]> fields_;
 };
 
 class ProcedureReference final : public Object {
@@ -48,11 +48,11 @@ public:
     Value invoke(Context& context, int member, Access access, Arguments arguments) override;
     void dropContents() noexcept override;
 
-    const Procedure& procedure() const noexcept { return *m_procedure; }
+    const Procedure& procedure() const noexcept { return *procedure_; }
 
 private:
-    Vm* m_vm; // null once the engine has gone, and so is the procedure
-    const Procedure* m_procedure;
+    Vm* vm_; // null once the engine has gone, and so is the procedure
+    const Procedure* procedure_;
 };
 
 class Iterator final : public Object {
@@ -68,9 +68,9 @@ public:
     bool next(Context& context, Value& element);
 
 private:
-    Value m_array;
-    std::size_t m_index = 0;
-    std::unique_ptr<Enumerator> m_enumerator;
+    Value array_;
+    std::size_t index_ = 0;
+    std::unique_ptr<Enumerator> enumerator_;
 };
 
 } // namespace vbs

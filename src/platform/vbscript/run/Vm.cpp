@@ -30,9 +30,9 @@ Value* mapStack(std::size_t registers) {
 } // namespace
 
 Vm::Vm(Host& theHost, const Library& library)
-    : Context(theHost), m_library(library), m_compiler(m_symbols, m_globals, library),
-      m_stack(mapStack(stackSize + stackSlack)), m_stackEnd(m_stack + stackSize),
-      m_frames(std::make_unique_for_overwrite<Frame[]>(maxFrames)) {
+    : Context(theHost), library_(library), compiler_(symbols_, globals_, library),
+      stack_(mapStack(stackSize + stackSlack)), stackEnd_(stack_ + stackSize),
+      frames_(std::make_unique_for_overwrite<Frame[]>(maxFrames)) {
     defineBuiltins();
 }
 
@@ -40,20 +40,20 @@ Vm::~Vm() {
     const MemoryCeiling ceiling(memoryCeiling);
     timeoutMilliseconds = 1000; // what Class_Terminate may still take
     startClock();
-    for (std::uint32_t slot = 0; slot < m_globals.size(); ++slot) {
-        if (m_globals.kind(slot) == GlobalKind::Variable) {
-            m_globals[slot].clear(); // Class_Terminate still finds everything else
+    for (std::uint32_t slot = 0; slot < globals_.size(); ++slot) {
+        if (globals_.kind(slot) == GlobalKind::Variable) {
+            globals_[slot].clear(); // Class_Terminate still finds everything else
             terminateDead();
         }
     }
-    for (std::uint32_t slot = 0; slot < m_globals.size(); ++slot) {
-        m_globals[slot].clear();
+    for (std::uint32_t slot = 0; slot < globals_.size(); ++slot) {
+        globals_[slot].clear();
         terminateDead();
     }
-    m_closing = true;
+    closing_ = true;
     Object* cyclic = nullptr; // all that are left, each with a reference more
-    while (m_adopted != nullptr) {
-        Object* object = m_adopted;
+    while (adopted_ != nullptr) {
+        Object* object = adopted_;
         abandon(*object);
         ++object->references;
         object->nextDead = std::exchange(cyclic, object);
@@ -66,43 +66,43 @@ Vm::~Vm() {
         --cyclic->references;
         cyclic = cyclic->nextDead;
     }
-    for (Unit* unit : m_recent) {
+    for (Unit* unit : recent_) {
         release(unit);
     }
-    for (const auto& [slot, unit] : m_owners) {
+    for (const auto& [slot, unit] : owners_) {
         release(unit);
     }
     freeRetired();
-    munmap(static_cast<void*>(m_stack), (stackSize + stackSlack) * sizeof(Value));
+    munmap(static_cast<void*>(stack_), (stackSize + stackSlack) * sizeof(Value));
 }
 
 void Vm::defineBuiltins() {
-    for (const NamedConstant& constant : m_library.constants) {
-        const Symbol symbol = m_symbols.intern(constant.name);
-        m_symbols.hold(symbol);
-        m_globals.define(m_globals.slotOf(symbol), GlobalKind::Constant, constant.value, true);
+    for (const NamedConstant& constant : library_.constants) {
+        const Symbol symbol = symbols_.intern(constant.name);
+        symbols_.hold(symbol);
+        globals_.define(globals_.slotOf(symbol), GlobalKind::Constant, constant.value, true);
     }
     const auto err = makeObject<ErrObject>(*this);
-    const Symbol symbol = m_symbols.intern(u"Err");
-    m_symbols.hold(symbol);
-    m_globals.define(m_globals.slotOf(symbol), GlobalKind::Object, err.value(), true);
+    const Symbol symbol = symbols_.intern(u"Err");
+    symbols_.hold(symbol);
+    globals_.define(globals_.slotOf(symbol), GlobalKind::Object, err.value(), true);
 }
 
 void Vm::addObject(std::u16string_view name, Object& object) {
-    define(m_globals.slotOf(m_symbols.intern(name)), GlobalKind::Object, Value::ofObject(&object));
+    define(globals_.slotOf(symbols_.intern(name)), GlobalKind::Object, Value::ofObject(&object));
 }
 
 void Vm::removeObject(std::u16string_view name) {
-    const std::uint32_t slot = m_globals.find(m_symbols.find(name));
-    if (slot != Globals::none && m_globals.kind(slot) == GlobalKind::Object && !m_globals.predefined(slot)) {
+    const std::uint32_t slot = globals_.find(symbols_.find(name));
+    if (slot != Globals::none && globals_.kind(slot) == GlobalKind::Object && !globals_.predefined(slot)) {
         define(slot, GlobalKind::Undefined, Value(Type::Undefined, 0));
     }
 }
 
 void Vm::visitVariables(const std::function<void(std::u16string_view name, const Value& value)>& visit) {
-    for (std::uint32_t slot = 0; slot < m_globals.size(); ++slot) {
-        if (m_globals.kind(slot) == GlobalKind::Variable) {
-            visit(m_symbols.name(m_globals.symbol(slot)), m_globals[slot]);
+    for (std::uint32_t slot = 0; slot < globals_.size(); ++slot) {
+        if (globals_.kind(slot) == GlobalKind::Variable) {
+            visit(symbols_.name(globals_.symbol(slot)), globals_[slot]);
         }
     }
 }
@@ -112,15 +112,15 @@ void Vm::visitVariables(const std::function<void(std::u16string_view name, const
 
 Value Vm::callProcedure(const Procedure& procedure, Instance* me, Arguments arguments) {
     poll(); // objects that make others as they go would never come to an end
-    const Reentry reentry(m_reentries, maxReentries);
+    const Reentry reentry(reentries_, maxReentries);
     Value* base = freeRegisters();
-    if (base + arguments.size() + procedure.registers > m_stackEnd) {
+    if (base + arguments.size() + procedure.registers > stackEnd_) {
         raise(ErrorNumber::OutOfStack);
     }
     for (std::size_t i = 0; i < arguments.size(); ++i) {
         base[i] = arguments[i];
     }
-    const std::size_t floor = m_depth;
+    const std::size_t floor = depth_;
     Value result;
     try {
         pushFrame(&procedure, base, arguments.size(), me, &result, Store::Raw);
@@ -152,7 +152,7 @@ Value Vm::defaultValue(const Value& object) {
         result = target->invoke(*this, Object::defaultMember, Access::Get, {});
     }
     if (result.isObject()) {
-        const Reentry reentry(m_reentries, maxReentries);
+        const Reentry reentry(reentries_, maxReentries);
         return defaultValue(result);
     }
     return result;
@@ -172,18 +172,18 @@ Value Vm::call(const Value& procedure, Arguments arguments) {
 }
 
 void Vm::adopt(Object& object) noexcept {
-    object.adoptedAfter = m_adopted;
-    if (m_adopted != nullptr) {
-        m_adopted->adoptedBefore = &object;
+    object.adoptedAfter = adopted_;
+    if (adopted_ != nullptr) {
+        adopted_->adoptedBefore = &object;
     }
-    m_adopted = &object;
+    adopted_ = &object;
 }
 
 void Vm::abandon(Object& object) noexcept {
-    if (object.adoptedBefore == nullptr && m_adopted != &object) {
+    if (object.adoptedBefore == nullptr && adopted_ != &object) {
         return; // left already, at the end of the engine
     }
-    (object.adoptedBefore != nullptr ? object.adoptedBefore->adoptedAfter : m_adopted) = object.adoptedAfter;
+    (object.adoptedBefore != nullptr ? object.adoptedBefore->adoptedAfter : adopted_) = object.adoptedAfter;
     if (object.adoptedAfter != nullptr) {
         object.adoptedAfter->adoptedBefore = object.adoptedBefore;
     }

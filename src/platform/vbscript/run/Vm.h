@@ -65,7 +65,7 @@ public:
     void spend(std::size_t work) override;
     void pauseClock() override;
     void resumeClock() noexcept override;
-    bool idle() const noexcept { return m_depth == 0; }
+    bool idle() const noexcept { return depth_ == 0; }
     [[noreturn]] void interrupt() override;
 
     ErrorState error;
@@ -74,8 +74,8 @@ public:
     std::size_t memoryCeiling = std::size_t{1024} * 1024 * 1024;
     volatile std::sig_atomic_t stopRequested = 0;
 
-    SymbolTable& symbols() noexcept { return m_symbols; }
-    Compiler& compiler() noexcept { return m_compiler; }
+    SymbolTable& symbols() noexcept { return symbols_; }
+    Compiler& compiler() noexcept { return compiler_; }
 
     // For Instance: running its event procedures and members.
     Value callProcedure(const Procedure& procedure, Instance* me, Arguments arguments);
@@ -140,7 +140,7 @@ private:
     void dropExtra(const Frame& frame) noexcept;
     bool mayRun(const Unit& unit) const noexcept;
     Value* freeRegisters() noexcept;
-    Frame& top() noexcept { return m_frames[m_depth - 1]; }
+    Frame& top() noexcept { return frames_[depth_ - 1]; }
     Frame& scopeFrame() noexcept;
     Made& made(Symbol symbol);
     void makeLocals(const Unit& unit);
@@ -219,17 +219,17 @@ private:
     void startClock();
     void freeRetired() noexcept;
 
-    const Library& m_library;
-    SymbolTable m_symbols;
-    Globals m_globals;
-    Compiler m_compiler;
-    Value m_globalScope; // what Me is outside classes, once it was asked for
-    Value* m_stack;
-    Value* m_stackEnd; // no frame may reach beyond
-    std::unique_ptr<Frame[]> m_frames;
-    std::size_t m_depth = 0;
-    int m_reentries = 0;
-    int m_budget = pollInterval;
+    const Library& library_;
+    SymbolTable symbols_;
+    Globals globals_;
+    Compiler compiler_;
+    Value globalScope_; // what Me is outside classes, once it was asked for
+    Value* stack_;
+    Value* stackEnd_; // no frame may reach beyond
+    std::unique_ptr<Frame[]> frames_;
+    std::size_t depth_ = 0;
+    int reentries_ = 0;
+    int budget_ = pollInterval;
     // The time of a pass; milliseconds of the host's clock.
     struct Clock {
         double started = 0;
@@ -241,33 +241,33 @@ private:
         ErrorNumber interruption = ErrorNumber::None;
     };
     class Pass;
-    Clock m_clock;
-    bool m_tellsLongRun = false;
+    Clock clock_;
+    bool tellsLongRun_ = false;
 
     // Texts that did not compile, the last ones first: they fail again without being compiled again.
     struct Refused {
         std::u16string text;
         CompileError error;
     };
-    std::list<Refused> m_refused;
+    std::list<Refused> refused_;
 
-    std::list<Unit*> m_recent; // most recently used first
+    std::list<Unit*> recent_; // most recently used first
     struct SameText {
         bool operator()(std::u16string_view a, std::u16string_view b) const noexcept { return sameUnits(a, b); }
     };
     std::unordered_map<std::u16string_view, std::list<Unit*>::iterator, std::hash<std::u16string_view>, SameText>
-        m_cache;
-    bool m_cacheStale = false;
-    std::uint32_t m_pass = 0; // counts the texts that the host runs; what they run in turn belongs to them
-    std::unordered_set<Symbol> m_assumedLocal;
-    Unit* m_retired = nullptr;                         // a list
-    std::unordered_map<std::uint32_t, Unit*> m_owners; // of global callables
-    Object* m_adopted = nullptr;                       // a list
-    bool m_closing = false;
+        cache_;
+    bool cacheStale_ = false;
+    std::uint32_t pass_ = 0; // counts the texts that the host runs; what they run in turn belongs to them
+    std::unordered_set<Symbol> assumedLocal_;
+    Unit* retired_ = nullptr;                         // a list
+    std::unordered_map<std::uint32_t, Unit*> owners_; // of global callables
+    Object* adopted_ = nullptr;                       // a list
+    bool closing_ = false;
 
     // Objects that wait for their Class_Terminate, in the order in which their last references went.
-    Instance* m_dead = nullptr;
-    Instance* m_lastDead = nullptr;
+    Instance* dead_ = nullptr;
+    Instance* lastDead_ = nullptr;
 };
 
 } // namespace vbs

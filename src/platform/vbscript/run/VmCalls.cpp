@@ -15,7 +15,7 @@ namespace vbs {
 
 void Vm::callIntrinsic1(Instruction instruction) {
     const Operand b = operandB(instruction);
-    const Builtin& builtin = m_library.builtins[operandC(instruction)];
+    const Builtin& builtin = library_.builtins[operandC(instruction)];
     Value argument = taken(b); // held: code of the script may run
     Value result = builtin.function(*this, {&argument, 1});
     deliver(std::move(result), at(operandA(instruction)), storeOf(instruction));
@@ -30,7 +30,7 @@ void Vm::callWide(Instruction instruction, Operand first, std::size_t count) {
     poll();
     switch (static_cast<Opcode>(instruction & 0xff)) {
     case Opcode::CallIntrinsic:
-        runIntrinsicRow(m_library.builtins[c], row, count, to, store);
+        runIntrinsicRow(library_.builtins[c], row, count, to, store);
         return;
     case Opcode::CallSelf:
         pushFrame(top().procedure->selfCalls[c], row, count, top().me, &to, store);
@@ -96,7 +96,7 @@ void Vm::callOther(Instruction instruction, std::size_t count) {
         return;
     }
     if (placeOf(c) == Place::Global) {
-        raise(ErrorNumber::TypeMismatch, m_symbols.name(m_globals.symbol(static_cast<std::uint32_t>(indexOf(c)))));
+        raise(ErrorNumber::TypeMismatch, symbols_.name(globals_.symbol(static_cast<std::uint32_t>(indexOf(c)))));
     }
     raise(ErrorNumber::TypeMismatch);
 }
@@ -105,10 +105,10 @@ void Vm::callOther(Instruction instruction, std::size_t count) {
 void Vm::findName(Instruction instruction) {
     const auto slot = static_cast<std::uint32_t>(indexOf(operandC(instruction)));
     Value& to = at(operandA(instruction));
-    Value* found = &m_globals[slot];
+    Value* found = &globals_[slot];
     bool constant = false;
     if (auto* made = scopeFrame().extra; made != nullptr) {
-        if (const auto entry = made->find(m_globals.symbol(slot)); entry != made->end()) {
+        if (const auto entry = made->find(globals_.symbol(slot)); entry != made->end()) {
             found = &entry->second.value;
             constant = entry->second.kind == LocalName::Kind::Constant;
         }
@@ -118,10 +118,10 @@ void Vm::findName(Instruction instruction) {
     if (mode == 2 && found->type == Type::Undefined) {
         found = &at(operandB(instruction)).deref();
     }
-    const GlobalKind kind = m_globals.kind(slot);
-    constant = constant || (found == &m_globals[slot] && (kind == GlobalKind::Constant || kind == GlobalKind::Object));
+    const GlobalKind kind = globals_.kind(slot);
+    constant = constant || (found == &globals_[slot] && (kind == GlobalKind::Constant || kind == GlobalKind::Object));
     if ((mode & 4) != 0 && (constant || found->type == Type::Procedure)) {
-        raise(ErrorNumber::IllegalAssignment, m_symbols.name(m_globals.symbol(slot)));
+        raise(ErrorNumber::IllegalAssignment, symbols_.name(globals_.symbol(slot)));
     }
     if (mode == 2 && constant) {
         to = *found;

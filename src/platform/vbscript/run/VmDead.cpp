@@ -17,12 +17,12 @@ constinit thread_local Vm* engineWithDead = nullptr;
 
 void Vm::awaitTermination(Instance& instance) noexcept {
     instance.nextDead = nullptr;
-    if (m_dead == nullptr) {
-        m_dead = &instance;
+    if (dead_ == nullptr) {
+        dead_ = &instance;
     } else {
-        m_lastDead->nextDead = &instance;
+        lastDead_->nextDead = &instance;
     }
-    m_lastDead = &instance;
+    lastDead_ = &instance;
     engineWithDead = this;
 }
 
@@ -36,10 +36,10 @@ void Vm::overwrite(Value& to, Value value) noexcept {
 // Runs what waits. What ends by a Class_Terminate comes before what waited beside it.
 void Vm::terminateDead() noexcept {
     Instance* rest = nullptr;
-    while (m_reentries < maxReentries) { // else whoever stands further out goes on
-        if (m_dead != nullptr) {
-            m_lastDead->nextDead = rest;
-            rest = std::exchange(m_dead, nullptr);
+    while (reentries_ < maxReentries) { // else whoever stands further out goes on
+        if (dead_ != nullptr) {
+            lastDead_->nextDead = rest;
+            rest = std::exchange(dead_, nullptr);
             engineWithDead = nullptr;
         }
         if (rest == nullptr) {

@@ -73,9 +73,9 @@ void Vm::dispatch(std::size_t floor) {
     const Instruction* pc = frame->pc - 1;
     const void* const* table = labels;
     KEEP(table);
-    const Builtin* const intrinsics = m_library.builtins.data();
+    const Builtin* const intrinsics = library_.builtins.data();
     Value* base = frame->base;
-    char* places[4] = {startOf(Place::Frame, base), startOf(Place::Global, m_globals.values()),
+    char* places[4] = {startOf(Place::Frame, base), startOf(Place::Global, globals_.values()),
                        startOf(Place::Constant, frame->procedure->constants.data()),
                        startOf(Place::Field, frame->fields)};
 
@@ -118,11 +118,11 @@ void Vm::dispatch(std::size_t floor) {
     places[3] = startOf(Place::Field, frame->fields)
 #define LOAD                                                                                                           \
     BURY;                                                                                                              \
-    frame = &m_frames[m_depth - 1];                                                                                    \
+    frame = &frames_[depth_ - 1];                                                                                      \
     ENTER
 // After everything that may have dropped an object: its Class_Terminate runs before the next instruction.
 #define BURY                                                                                                           \
-    if (m_dead != nullptr) [[unlikely]] {                                                                              \
+    if (dead_ != nullptr) [[unlikely]] {                                                                               \
         terminateDead();                                                                                               \
     }
 #define SLOW(statement)                                                                                                \
@@ -134,7 +134,7 @@ void Vm::dispatch(std::size_t floor) {
     {                                                                                                                  \
         const std::int64_t jump = by;                                                                                  \
         pc += jump;                                                                                                    \
-        if (jump < 0 && m_budget-- <= 0) [[unlikely]] {                                                                \
+        if (jump < 0 && budget_-- <= 0) [[unlikely]] {                                                                 \
             SAVE;                                                                                                      \
             pollSlow();                                                                                                \
         }                                                                                                              \
@@ -143,7 +143,7 @@ void Vm::dispatch(std::size_t floor) {
 // The same where the jump is sure to lead back.
 #define GO_BACK(by)                                                                                                    \
     pc += by;                                                                                                          \
-    if (m_budget-- <= 0) [[unlikely]] {                                                                                \
+    if (budget_-- <= 0) [[unlikely]] {                                                                                 \
         SAVE;                                                                                                          \
         pollSlow();                                                                                                    \
     }
@@ -625,7 +625,7 @@ labelWide : {
 labelCall : {
     const Value& callee = R(C);
     SAVE;
-    if (m_budget-- <= 0) [[unlikely]] {
+    if (budget_-- <= 0) [[unlikely]] {
         pollSlow();
     }
     if (callee.type == Type::Procedure &&
@@ -642,7 +642,7 @@ labelCall : {
 
 labelCallSelf:
     SAVE;
-    if (m_budget-- <= 0) [[unlikely]] {
+    if (budget_-- <= 0) [[unlikely]] {
         pollSlow();
     }
     frame = pushFrame(frame->procedure->selfCalls[C], &R(B), X & 63, frame->me, &R(A), static_cast<Store>(X >> 6));
@@ -694,7 +694,7 @@ labelCallIntrinsic:
 labelCallMember : {
     const auto first = static_cast<Operand>(pc[1]);
     frame->pc = pc + 2;
-    if (m_budget-- <= 0) [[unlikely]] {
+    if (budget_-- <= 0) [[unlikely]] {
         pollSlow();
     }
     const Value& object = R(B).deref();
@@ -828,14 +828,14 @@ labelReturn : {
                 }
             }
             BURY;
-            --m_depth;
+            --depth_;
             if (me != nullptr) {
                 --me->references;
             }
             if (wanted) {
                 put(*to, base[slot].type, base[slot].n);
             }
-            if (m_depth == floor) {
+            if (depth_ == floor) {
                 return;
             }
             --frame;
@@ -845,7 +845,7 @@ labelReturn : {
     }
     SAVE;
     popFrame();
-    if (m_depth == floor) {
+    if (depth_ == floor) {
         return;
     }
     LOAD;

@@ -19,7 +19,7 @@ void Vm::makeNew(Instruction instruction) {
         if (placeOf(c) != Place::Global) {
             raise(ErrorNumber::ClassUndefined);
         }
-        raise(ErrorNumber::ClassUndefined, m_symbols.name(m_globals.symbol(static_cast<std::uint32_t>(indexOf(c)))));
+        raise(ErrorNumber::ClassUndefined, symbols_.name(globals_.symbol(static_cast<std::uint32_t>(indexOf(c)))));
     }
     const auto& cls = *static_cast<const ScriptClass*>(static_cast<const Callable*>(named.pointer));
     const auto instance = makeObject<Instance>(*this, cls);
@@ -31,7 +31,7 @@ void Vm::makeNew(Instruction instruction) {
 }
 
 void Vm::makeNamed(Instruction instruction) {
-    deliver(m_library.create(*this, at(operandC(instruction)).text()), at(operandA(instruction)), storeOf(instruction));
+    deliver(library_.create(*this, at(operandC(instruction)).text()), at(operandA(instruction)), storeOf(instruction));
 }
 
 void Vm::getRef(Instruction instruction) {
@@ -40,7 +40,7 @@ void Vm::getRef(Instruction instruction) {
     if (!given.isString()) {
         raise(ErrorNumber::TypeMismatch);
     }
-    const Value* named = findNamed(m_symbols.find(given.text()));
+    const Value* named = findNamed(symbols_.find(given.text()));
     const Procedure* procedure = named != nullptr ? procedureIn(*named) : nullptr;
     if (procedure == nullptr) {
         raise(ErrorNumber::InvalidCall);
@@ -55,8 +55,8 @@ const Value* Vm::findNamed(Symbol symbol) noexcept {
             return &entry->second.value;
         }
     }
-    const std::uint32_t slot = m_globals.find(symbol);
-    return slot == Globals::none ? nullptr : &m_globals[slot];
+    const std::uint32_t slot = globals_.find(symbol);
+    return slot == Globals::none ? nullptr : &globals_[slot];
 }
 
 void Vm::executeText(Instruction instruction) {
@@ -106,7 +106,7 @@ Vm::Made& Vm::made(Symbol symbol) {
     }
     const auto [entry, added] = frame.extra->try_emplace(symbol);
     if (added) {
-        m_symbols.hold(symbol);
+        symbols_.hold(symbol);
     }
     if (Unit* before = std::exchange(entry->second.unit, nullptr); before != nullptr) {
         release(before);
@@ -154,7 +154,7 @@ Value Vm::runLocalText(std::u16string_view text, bool expression) {
     }
     const LocalScope scope{names, frame.procedure->owner};
     std::vector<Symbol> created;
-    Unit* unit = expression ? m_compiler.compileExpression(text, scope) : m_compiler.compileLocal(text, scope, created);
+    Unit* unit = expression ? compiler_.compileExpression(text, scope) : compiler_.compileLocal(text, scope, created);
     const struct Release {
         Vm& vm;
         Unit* unit;
@@ -193,7 +193,7 @@ void Vm::raiseCompiled(Instruction instruction) {
 }
 
 void Vm::raiseUndefined(std::size_t slot) {
-    raise(ErrorNumber::VariableUndefined, m_symbols.name(m_globals.symbol(static_cast<std::uint32_t>(slot))));
+    raise(ErrorNumber::VariableUndefined, symbols_.name(globals_.symbol(static_cast<std::uint32_t>(slot))));
 }
 
 } // namespace vbs

@@ -11,15 +11,15 @@
 namespace vbs {
 
 Value* Vm::freeRegisters() noexcept {
-    return m_depth == 0 ? m_stack : top().base + top().procedure->registers;
+    return depth_ == 0 ? stack_ : top().base + top().procedure->registers;
 }
 
 // The rare parts of pushFrame: what must be refused, and arguments that go by value.
 void Vm::checkFrame(const Procedure* procedure, Value* base, std::size_t count) {
     if (count != procedure->parameters) {
-        raise(ErrorNumber::WrongArgumentCount, m_symbols.name(procedure->name == noSymbol ? 0 : procedure->name));
+        raise(ErrorNumber::WrongArgumentCount, symbols_.name(procedure->name == noSymbol ? 0 : procedure->name));
     }
-    if (m_depth == maxFrames || base + procedure->registers > m_stackEnd) {
+    if (depth_ == maxFrames || base + procedure->registers > stackEnd_) {
         raise(ErrorNumber::OutOfStack);
     }
     if (procedure->anyByValue) {
@@ -41,7 +41,7 @@ void Vm::clearRegisters(const Frame& frame, std::size_t from) noexcept {
 void Vm::dropExtra(const Frame& frame) noexcept {
     if (frame.extra != nullptr) {
         for (const auto& [symbol, made] : *frame.extra) {
-            m_symbols.release(symbol);
+            symbols_.release(symbol);
             if (made.unit != nullptr) {
                 release(made.unit);
             }
@@ -64,7 +64,7 @@ void Vm::popFrame() {
     Value* to = frame.result;
     const Store store = frame.store;
     Instance* me = frame.me;
-    --m_depth;
+    --depth_;
     Value releaseMe;
     if (me != nullptr) {
         releaseMe.type = Type::Object;
@@ -76,7 +76,7 @@ void Vm::popFrame() {
 }
 
 void Vm::unwindTo(std::size_t floor) noexcept {
-    while (m_depth > floor) {
+    while (depth_ > floor) {
         const Frame& frame = top();
         clearRegisters(frame, 0);
         dropExtra(frame);
@@ -85,7 +85,7 @@ void Vm::unwindTo(std::size_t floor) noexcept {
             me.type = Type::Object;
             me.counted = frame.me;
         }
-        --m_depth;
+        --depth_;
     }
 }
 
@@ -120,8 +120,8 @@ void Vm::run(std::size_t floor) {
 // gone.
 bool Vm::recover(ScriptError& failure, std::size_t floor) {
     locate(failure);
-    std::size_t depth = m_depth;
-    while (depth > floor && (m_clock.interrupted || !m_frames[depth - 1].resumeNext)) {
+    std::size_t depth = depth_;
+    while (depth > floor && (clock_.interrupted || !frames_[depth - 1].resumeNext)) {
         --depth;
     }
     unwindTo(depth);
@@ -141,10 +141,10 @@ bool Vm::recover(ScriptError& failure, std::size_t floor) {
 }
 
 void Vm::locate(ScriptError& failure) const {
-    if (failure.line != 0 || m_depth == 0) {
+    if (failure.line != 0 || depth_ == 0) {
         return;
     }
-    const Frame& frame = m_frames[m_depth - 1];
+    const Frame& frame = frames_[depth_ - 1];
     const auto pc = static_cast<std::size_t>(frame.pc - frame.procedure->code.data());
     if (const StatementMark* mark = frame.procedure->markAt(pc > 0 ? pc - 1 : 0); mark != nullptr) {
         failure.line = mark->at.line;

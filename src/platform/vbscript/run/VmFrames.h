@@ -28,31 +28,31 @@ inline void put(Value& to, Type type, std::int64_t payload) noexcept {
 // Counts a re-entry of the machine; error 28 when the stack of C++ would be at risk.
 class Reentry {
 public:
-    Reentry(int& counter, int most) : m_counter(counter) {
-        if (m_counter >= most) {
+    Reentry(int& counter, int most) : counter_(counter) {
+        if (counter_ >= most) {
             raise(ErrorNumber::OutOfStack);
         }
-        ++m_counter;
+        ++counter_;
     }
-    ~Reentry() { --m_counter; }
+    ~Reentry() { --counter_; }
     Reentry(const Reentry&) = delete;
     Reentry& operator=(const Reentry&) = delete;
 
 private:
-    int& m_counter;
+    int& counter_;
 };
 
 // `base` holds `count` arguments already. Raises 450 or 28.
 inline Vm::Frame* Vm::pushFrame(const Procedure* procedure, Value* base, std::size_t count, Instance* me, Value* result,
                                 Store store) {
-    if (count != procedure->plainParameters || m_depth == maxFrames || base + procedure->registers > m_stackEnd)
+    if (count != procedure->plainParameters || depth_ == maxFrames || base + procedure->registers > stackEnd_)
         [[unlikely]] {
         checkFrame(procedure, base, count);
     }
     for (Value* local = base + count; local < base + procedure->firstTemporary; ++local) {
         local->type = Type::Empty;
     }
-    Frame* frame = &m_frames[m_depth++];
+    Frame* frame = &frames_[depth_++];
     frame->procedure = procedure;
     frame->pc = procedure->code.data();
     frame->base = base;

@@ -28,7 +28,7 @@ const ClassMember& Vm::instanceMember(const Instance& instance, MemberSite& site
     if (site.shape != instance.shape) {
         const ClassMember* member = instance.cls().find(site.symbol);
         if (member == nullptr || member->isPrivate) {
-            raise(ErrorNumber::MemberNotFound, m_symbols.name(site.symbol));
+            raise(ErrorNumber::MemberNotFound, symbols_.name(site.symbol));
         }
         site.shape = instance.shape;
         site.field = member->field;
@@ -43,9 +43,9 @@ int Vm::nativeMember(Object& object, MemberSite& site) const {
     if (object.shape != nullptr && object.shape == site.shape) {
         return site.member;
     }
-    const int member = object.resolve(m_symbols.folded(site.symbol));
+    const int member = object.resolve(symbols_.folded(site.symbol));
     if (member == Object::noMember) {
-        raise(ErrorNumber::MemberNotFound, m_symbols.name(site.symbol));
+        raise(ErrorNumber::MemberNotFound, symbols_.name(site.symbol));
     }
     site.shape = object.shape;
     site.member = member;
@@ -73,7 +73,7 @@ void Vm::getMember(Instruction instruction) {
     }
     const Procedure* procedure = readerOf(member);
     if (procedure == nullptr) {
-        raise(ErrorNumber::WrongArgumentCount, m_symbols.name(site.symbol));
+        raise(ErrorNumber::WrongArgumentCount, symbols_.name(site.symbol));
     }
     pushFrame(procedure, freeRegisters(), 0, &instance, &to, store);
 }
@@ -103,7 +103,7 @@ void Vm::callMember(Instruction instruction, Operand firstOperand, std::size_t c
         return;
     }
     if (member.field < 0) {
-        raise(ErrorNumber::WrongArgumentCount, m_symbols.name(site.symbol));
+        raise(ErrorNumber::WrongArgumentCount, symbols_.name(site.symbol));
     }
     const Value& field = instance.fields()[member.field];
     if (count == 0) {
@@ -156,9 +156,9 @@ void Vm::setMemberN(Instruction instruction) {
     const std::size_t count = countOf(instruction);
     const Value keep = taken(operandA(instruction));
     settle(first, count + 1);
-    const std::size_t depth = m_depth;
+    const std::size_t depth = depth_;
     assignMember(&objectOf(keep), site, first, count, storeOf(instruction));
-    if (m_depth == depth) {
+    if (depth_ == depth) {
         consumeRow(first, count + 1);
     }
 }
@@ -199,7 +199,7 @@ void Vm::assignMember(Object* object, MemberSite& site, Value* first, std::size_
     if (procedure == nullptr) {
         // A property that hands out an object or array may still be assigned through.
         raise(count == 0 || readerOf(member) == nullptr ? ErrorNumber::MemberNotFound : ErrorNumber::WrongArgumentCount,
-              m_symbols.name(site.symbol));
+              symbols_.name(site.symbol));
     }
     pushFrame(procedure, first, count + 1, &instance, nullptr, Store::Discard);
 }
@@ -234,24 +234,24 @@ Value Vm::invokeInstance(Instance& instance, const ClassMember& member, Access a
 void Vm::makeMe(Instruction instruction) {
     Value me = Value::ofObject(top().me);
     if (top().me == nullptr) {
-        if (m_globalScope.isEmpty()) {
-            m_globalScope = makeObject<GlobalScope>(*this).value();
+        if (globalScope_.isEmpty()) {
+            globalScope_ = makeObject<GlobalScope>(*this).value();
         }
-        me = m_globalScope;
+        me = globalScope_;
     }
     deliver(std::move(me), at(operandA(instruction)), storeOf(instruction));
 }
 
 std::uint32_t Vm::definedGlobal(std::u16string_view name) {
-    const std::uint32_t slot = m_globals.find(m_symbols.find(name));
-    return slot == Globals::none || m_globals[slot].type == Type::Undefined ? Globals::none : slot;
+    const std::uint32_t slot = globals_.find(symbols_.find(name));
+    return slot == Globals::none || globals_[slot].type == Type::Undefined ? Globals::none : slot;
 }
 
 Value Vm::useGlobal(std::uint32_t slot, Access access, Arguments arguments) {
     const bool assigns = access == Access::Let || access == Access::Set;
-    const GlobalKind kind = m_globals.kind(slot);
-    if (m_globals[slot].type == Type::Procedure) { // code compiled before may have put a value over a procedure
-        const auto& callable = *static_cast<const Callable*>(m_globals[slot].pointer);
+    const GlobalKind kind = globals_.kind(slot);
+    if (globals_[slot].type == Type::Procedure) { // code compiled before may have put a value over a procedure
+        const auto& callable = *static_cast<const Callable*>(globals_[slot].pointer);
         if (assigns || callable.kind != Callable::Kind::Procedure) {
             raise(ErrorNumber::MemberNotFound);
         }
@@ -264,17 +264,17 @@ Value Vm::useGlobal(std::uint32_t slot, Access access, Arguments arguments) {
     const Store store = access == Access::Set ? Store::Set : Store::Let;
     Value result;
     if (assigns && !indexes.empty()) {
-        setIndex(m_globals[slot], indexes, arguments.back(), store);
+        setIndex(globals_[slot], indexes, arguments.back(), store);
     } else if (assigns && kind != GlobalKind::Variable) {
         raise(ErrorNumber::IllegalAssignment);
-    } else if (assigns && m_globals[slot].isArray() && m_globals[slot].array()->fixed()) {
+    } else if (assigns && globals_[slot].isArray() && globals_[slot].array()->fixed()) {
         raise(ErrorNumber::TypeMismatch);
     } else if (assigns) {
-        deliver(arguments[0], m_globals[slot], store);
+        deliver(arguments[0], globals_[slot], store);
     } else if (indexes.empty()) {
-        result = m_globals[slot];
+        result = globals_[slot];
     } else {
-        getIndex(result, m_globals[slot], indexes, Store::Raw);
+        getIndex(result, globals_[slot], indexes, Store::Raw);
     }
     return result;
 }

@@ -61,7 +61,7 @@ Value& Vm::at(Operand o) noexcept {
     case Place::Frame:
         return top().base[indexOf(o)];
     case Place::Global:
-        return m_globals.values()[indexOf(o)];
+        return globals_.values()[indexOf(o)];
     case Place::Constant:
         return const_cast<Value&>(top().procedure->constants[indexOf(o)]);
     default:

@@ -15,25 +15,25 @@ constexpr std::size_t maxCachedText = std::size_t{16} * 1024 * 1024; // code uni
 } // namespace
 
 Unit* Vm::unitOf(std::u16string_view text) {
-    if (m_cacheStale) {
+    if (cacheStale_) {
         forgetCache(nullptr);
     }
-    if (!m_recent.empty() && sameUnits(m_recent.front()->text, text)) { // a pass over an unchanged text
-        return m_recent.front();
+    if (!recent_.empty() && sameUnits(recent_.front()->text, text)) { // a pass over an unchanged text
+        return recent_.front();
     }
-    if (const auto found = m_cache.find(text); found != m_cache.end()) {
-        m_recent.splice(m_recent.begin(), m_recent, found->second);
-        return m_recent.front();
+    if (const auto found = cache_.find(text); found != cache_.end()) {
+        recent_.splice(recent_.begin(), recent_, found->second);
+        return recent_.front();
     }
-    for (const Refused& refused : m_refused) {
+    for (const Refused& refused : refused_) {
         if (sameUnits(refused.text, text)) {
             throw CompileError(refused.error);
         }
     }
     Unit* unit = compiled(text);
-    m_assumedLocal.insert(unit->assumedLocal.begin(), unit->assumedLocal.end());
-    m_recent.push_front(unit);
-    m_cache.emplace(unit->text, m_recent.begin());
+    assumedLocal_.insert(unit->assumedLocal.begin(), unit->assumedLocal.end());
+    recent_.push_front(unit);
+    cache_.emplace(unit->text, recent_.begin());
     trimCache();
     return unit;
 }
@@ -42,16 +42,16 @@ Unit* Vm::unitOf(std::u16string_view text) {
 Unit* Vm::compiled(std::u16string_view text) {
     constexpr std::size_t maxRefused = 8;
     try {
-        Unit* unit = m_compiler.compile(text);
+        Unit* unit = compiler_.compile(text);
         unit->text = text;
         return unit;
     } catch (const CompileError& failure) {
         if (failure.number == ErrorNumber::TooManyNames || failure.number == ErrorNumber::OutOfMemoryCompiling) {
             throw; // may be better next time
         }
-        m_refused.push_front({std::u16string(text), failure});
-        if (m_refused.size() > maxRefused) {
-            m_refused.pop_back();
+        refused_.push_front({std::u16string(text), failure});
+        if (refused_.size() > maxRefused) {
+            refused_.pop_back();
         }
         throw;
     }
@@ -60,94 +60,94 @@ Unit* Vm::compiled(std::u16string_view text) {
 // The most recent unit always stays.
 void Vm::trimCache() {
     std::size_t size = 0;
-    for (const Unit* unit : m_recent) {
+    for (const Unit* unit : recent_) {
         size += unit->text.size();
     }
-    while (m_recent.size() > 1 && (m_recent.size() > maxCachedUnits || size > maxCachedText)) {
-        Unit* oldest = m_recent.back();
+    while (recent_.size() > 1 && (recent_.size() > maxCachedUnits || size > maxCachedText)) {
+        Unit* oldest = recent_.back();
         size -= oldest->text.size();
-        m_cache.erase(oldest->text);
-        m_recent.pop_back();
+        cache_.erase(oldest->text);
+        recent_.pop_back();
         release(oldest);
     }
 }
 
 void Vm::forgetCache(const Unit* except) {
-    for (auto it = m_recent.begin(); it != m_recent.end();) {
+    for (auto it = recent_.begin(); it != recent_.end();) {
         Unit* unit = *it;
         if (unit == except) {
             ++it;
             continue;
         }
-        m_cache.erase(unit->text);
-        it = m_recent.erase(it);
+        cache_.erase(unit->text);
+        it = recent_.erase(it);
         release(unit);
     }
-    m_cacheStale = false;
+    cacheStale_ = false;
 }
 
 // Whether a frame may be running code of the unit. Of a deep stack only so much is known that it may.
 bool Vm::mayRun(const Unit& unit) const noexcept {
     constexpr std::size_t maxLook = 64;
-    return m_depth > maxLook || std::any_of(m_frames.get(), m_frames.get() + m_depth,
-                                            [&unit](const Frame& frame) { return frame.procedure->unit == &unit; });
+    return depth_ > maxLook || std::any_of(frames_.get(), frames_.get() + depth_,
+                                           [&unit](const Frame& frame) { return frame.procedure->unit == &unit; });
 }
 
 void Vm::release(Unit* unit) noexcept {
     if (--unit->references == 0) {
-        if (m_closing || !mayRun(*unit)) {
+        if (closing_ || !mayRun(*unit)) {
             delete unit;
         } else {
-            unit->nextRetired = std::exchange(m_retired, unit); // its code may be running
+            unit->nextRetired = std::exchange(retired_, unit); // its code may be running
         }
     }
 }
 
 // Gives a global a new meaning. Texts compiled with the old meaning in mind are compiled again when they come back.
 void Vm::define(std::uint32_t slot, GlobalKind kind, Value value, Unit* owner) {
-    const GlobalKind old = m_globals.kind(slot);
-    const Symbol symbol = m_globals.symbol(slot);
+    const GlobalKind old = globals_.kind(slot);
+    const Symbol symbol = globals_.symbol(slot);
     if (old != kind) {
-        m_refused.clear(); // what a text means depends on what its names are
-        m_cacheStale = m_cacheStale || old != GlobalKind::Undefined || m_assumedLocal.contains(symbol) ||
-                       m_library.find(m_symbols.folded(symbol)) != nullptr;
+        refused_.clear(); // what a text means depends on what its names are
+        cacheStale_ = cacheStale_ || old != GlobalKind::Undefined || assumedLocal_.contains(symbol) ||
+                      library_.find(symbols_.folded(symbol)) != nullptr;
     }
     Unit* before = nullptr;
     if (owner != nullptr) {
-        before = std::exchange(m_owners[slot], owner); // may fail, and then nothing has changed
+        before = std::exchange(owners_[slot], owner); // may fail, and then nothing has changed
         ++owner->references;
-    } else if (const auto owned = m_owners.find(slot); owned != m_owners.end()) {
+    } else if (const auto owned = owners_.find(slot); owned != owners_.end()) {
         before = owned->second;
-        m_owners.erase(owned);
+        owners_.erase(owned);
     }
     if (old == GlobalKind::Undefined) {
-        m_symbols.hold(symbol); // for good
+        symbols_.hold(symbol); // for good
     }
-    m_globals.define(slot, kind, std::move(value));
+    globals_.define(slot, kind, std::move(value));
     if (before != nullptr) {
         release(before);
     }
 }
 
 void Vm::freeRetired() noexcept {
-    while (m_retired != nullptr) {
-        delete std::exchange(m_retired, m_retired->nextRetired);
+    while (retired_ != nullptr) {
+        delete std::exchange(retired_, retired_->nextRetired);
     }
 }
 
 // A text that another one runs declares beside what that pass has declared so far. A new pass starts afresh.
 void Vm::checkLater(const Unit& unit) {
-    const auto ofThisPass = [this](std::uint32_t slot) { return m_globals.declared(slot).pass == m_pass; };
+    const auto ofThisPass = [this](std::uint32_t slot) { return globals_.declared(slot).pass == pass_; };
     const auto used = [this](std::uint32_t slot) { // without a declaration
-        return m_globals.declared(slot).pass == 0 && m_globals.values()[slot].type != Type::Empty;
+        return globals_.declared(slot).pass == 0 && globals_.values()[slot].type != Type::Empty;
     };
     for (const auto& [slot, value] : unit.constants) {
-        if (m_globals.kind(slot) == GlobalKind::Variable && (ofThisPass(slot) || used(slot))) {
+        if (globals_.kind(slot) == GlobalKind::Variable && (ofThisPass(slot) || used(slot))) {
             throw CompileError{ErrorNumber::NameRedefined, {1, 1}};
         }
     }
     for (const std::uint32_t slot : unit.arrays) {
-        if (m_globals.kind(slot) == GlobalKind::Variable && ofThisPass(slot) && m_globals.declared(slot).array) {
+        if (globals_.kind(slot) == GlobalKind::Variable && ofThisPass(slot) && globals_.declared(slot).array) {
             raise(ErrorNumber::TypeMismatch);
         }
     }
@@ -155,7 +155,7 @@ void Vm::checkLater(const Unit& unit) {
 
 void Vm::bind(Unit* unit) {
     for (const auto& [slot, callable] : unit->callables) {
-        if (m_globals[slot].type == Type::Procedure && m_globals[slot].pointer == callable) {
+        if (globals_[slot].type == Type::Procedure && globals_[slot].pointer == callable) {
             continue;
         }
         Value value;
@@ -167,18 +167,18 @@ void Vm::bind(Unit* unit) {
         define(slot, GlobalKind::Constant, value);
     }
     for (const std::uint32_t slot : unit->variables) {
-        if (m_globals.kind(slot) != GlobalKind::Variable) {
+        if (globals_.kind(slot) != GlobalKind::Variable) {
             define(slot, GlobalKind::Variable, {});
         }
-        if (m_globals.declared(slot).pass != m_pass) {
-            m_globals.declared(slot) = {m_pass, false};
+        if (globals_.declared(slot).pass != pass_) {
+            globals_.declared(slot) = {pass_, false};
         }
     }
     for (const std::uint32_t slot : unit->arrays) {
-        m_globals.declared(slot).array = true;
+        globals_.declared(slot).array = true;
     }
     for (const std::uint32_t slot : unit->implicit) {
-        if (m_globals.kind(slot) == GlobalKind::Undefined) {
+        if (globals_.kind(slot) == GlobalKind::Undefined) {
             define(slot, GlobalKind::Variable, {});
         }
     }
@@ -187,27 +187,27 @@ void Vm::bind(Unit* unit) {
 // The clock of a pass; that of the pass around it is put back at the end. A stop is meant for both.
 class Vm::Pass {
 public:
-    explicit Pass(Vm& vm) : m_vm(vm), m_around(vm.m_clock), m_inner(!vm.idle()) {
+    explicit Pass(Vm& vm) : vm_(vm), around_(vm.clock_), inner_(!vm.idle()) {
         vm.startClock();
-        if (!m_inner) {
+        if (!inner_) {
             vm.error = {};
         }
     }
     ~Pass() {
-        const Clock own = std::exchange(m_vm.m_clock, m_around);
-        if (m_inner && own.interrupted && own.interruption == ErrorNumber::Stopped) {
-            m_vm.m_clock.interrupted = true;
-            m_vm.m_clock.interruption = own.interruption;
+        const Clock own = std::exchange(vm_.clock_, around_);
+        if (inner_ && own.interrupted && own.interruption == ErrorNumber::Stopped) {
+            vm_.clock_.interrupted = true;
+            vm_.clock_.interruption = own.interruption;
         }
-        m_vm.m_budget = m_vm.m_clock.interrupted ? 0 : pollInterval;
+        vm_.budget_ = vm_.clock_.interrupted ? 0 : pollInterval;
     }
     Pass(const Pass&) = delete;
     Pass& operator=(const Pass&) = delete;
 
 private:
-    Vm& m_vm;
-    const Clock m_around;
-    const bool m_inner;
+    Vm& vm_;
+    const Clock around_;
+    const bool inner_;
 };
 
 void Vm::runPass(Unit* unit) {
@@ -216,25 +216,25 @@ void Vm::runPass(Unit* unit) {
 }
 
 void Vm::runUnit(Unit* unit) {
-    const Reentry reentry(m_reentries, maxReentries);
+    const Reentry reentry(reentries_, maxReentries);
     retain(unit);
     const struct Release {
         Vm& vm;
         Unit* unit;
         ~Release() {
             vm.release(unit);
-            if (vm.m_depth == 0) {
+            if (vm.depth_ == 0) {
                 vm.freeRetired();
             }
         }
     } releaseAtEnd{*this, unit};
-    if (m_depth == 0) {
-        ++m_pass;
+    if (depth_ == 0) {
+        ++pass_;
     } else {
         checkLater(*unit);
     }
     bind(unit);
-    const std::size_t floor = m_depth;
+    const std::size_t floor = depth_;
     pushFrame(&unit->main, freeRegisters(), 0, nullptr, nullptr, Store::Discard);
     run(floor);
 }

@@ -12,74 +12,74 @@ namespace {
 class Lowered {
 public:
     explicit Lowered(std::u16string_view name) {
-        char16_t* low = m_short.data();
-        if (name.size() > m_short.size()) {
-            m_long.resize(name.size());
-            low = m_long.data();
+        char16_t* low = short_.data();
+        if (name.size() > short_.size()) {
+            long_.resize(name.size());
+            low = long_.data();
         }
         std::transform(name.begin(), name.end(), low, toLower);
-        m_view = {low, name.size()};
+        view_ = {low, name.size()};
     }
     Lowered(const Lowered&) = delete;
     Lowered& operator=(const Lowered&) = delete;
-    std::u16string_view view() const noexcept { return m_view; }
+    std::u16string_view view() const noexcept { return view_; }
 
 private:
-    std::array<char16_t, 64> m_short;
-    std::u16string m_long;
-    std::u16string_view m_view;
+    std::array<char16_t, 64> short_;
+    std::u16string long_;
+    std::u16string_view view_;
 };
 
 } // namespace
 
 Symbol SymbolTable::intern(std::u16string_view name) {
     const Lowered low(name);
-    auto entry = m_index.find(low.view());
-    const bool added = entry == m_index.end();
+    auto entry = index_.find(low.view());
+    const bool added = entry == index_.end();
     if (added) {
-        if (m_free == noSymbol) {
-            m_info.emplace_back();
-            m_info.back().nextFree = std::exchange(m_free, static_cast<Symbol>(m_info.size() - 1));
+        if (free_ == noSymbol) {
+            info_.emplace_back();
+            info_.back().nextFree = std::exchange(free_, static_cast<Symbol>(info_.size() - 1));
         }
-        entry = m_index.emplace(low.view(), m_free).first;
+        entry = index_.emplace(low.view(), free_).first;
     }
-    Info& info = m_info[entry->second];
+    Info& info = info_[entry->second];
     if (added) {
-        m_free = info.nextFree;
+        free_ = info.nextFree;
         info.folded = &entry->first;
         info.spelling = name;
         info.round = 0;
     }
-    if (m_notes != nullptr && info.round != m_round) {
-        m_notes->push_back(entry->second);
-        info.round = m_round;
+    if (notes_ != nullptr && info.round != round_) {
+        notes_->push_back(entry->second);
+        info.round = round_;
         ++info.holders;
     }
     return entry->second;
 }
 
 Symbol SymbolTable::find(std::u16string_view name) const {
-    const auto found = m_index.find(Lowered(name).view());
-    return found != m_index.end() ? found->second : noSymbol;
+    const auto found = index_.find(Lowered(name).view());
+    return found != index_.end() ? found->second : noSymbol;
 }
 
 void SymbolTable::noteIn(std::vector<Symbol>* notes) noexcept {
-    m_notes = notes;
-    ++m_round;
+    notes_ = notes;
+    ++round_;
 }
 
 void SymbolTable::release(Symbol s) noexcept {
-    Info& info = m_info[s];
+    Info& info = info_[s];
     if (--info.holders == 0) {
-        m_index.erase(m_index.find(*info.folded));
+        index_.erase(index_.find(*info.folded));
         info.spelling = {};
-        info.nextFree = std::exchange(m_free, s);
+        info.nextFree = std::exchange(free_, s);
     }
 }
 
 Expr* Ast::expr(Expr::Kind kind, Position at) {
     charge(sizeof(Expr));
-    Expr& e = m_exprs.add();
+    Expr& e = exprs_.add();
     e.kind = kind;
     e.at = at;
     return &e;
@@ -87,7 +87,7 @@ Expr* Ast::expr(Expr::Kind kind, Position at) {
 
 Stmt* Ast::stmt(Stmt::Kind kind, Position at) {
     charge(sizeof(Stmt));
-    Stmt& s = m_stmts.add();
+    Stmt& s = stmts_.add();
     s.kind = kind;
     s.at = at;
     return &s;
@@ -95,12 +95,12 @@ Stmt* Ast::stmt(Stmt::Kind kind, Position at) {
 
 ProcedureDecl* Ast::procedure() {
     charge(sizeof(ProcedureDecl));
-    return &m_procedures.emplace_back();
+    return &procedures_.emplace_back();
 }
 
 ClassDecl* Ast::classDecl() {
     charge(sizeof(ClassDecl));
-    return &m_classes.emplace_back();
+    return &classes_.emplace_back();
 }
 
 } // namespace vbs

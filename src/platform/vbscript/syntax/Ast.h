@@ -29,14 +29,14 @@ public:
     Symbol intern(std::u16string_view name);
     // The same without making one; noSymbol if there is none.
     Symbol find(std::u16string_view name) const;
-    const std::u16string& name(Symbol s) const { return m_info[s].spelling; }  // as first written
-    const std::u16string& folded(Symbol s) const { return *m_info[s].folded; } // in small letters
+    const std::u16string& name(Symbol s) const { return info_[s].spelling; }  // as first written
+    const std::u16string& folded(Symbol s) const { return *info_[s].folded; } // in small letters
     // A number that was never given before.
-    std::uintptr_t nextSerial() noexcept { return ++m_serial; }
+    std::uintptr_t nextSerial() noexcept { return ++serial_; }
 
     // From now on every name that is interned gets a holder and goes into `notes`, once; null ends that.
     void noteIn(std::vector<Symbol>* notes) noexcept;
-    void hold(Symbol s) noexcept { ++m_info[s].holders; }
+    void hold(Symbol s) noexcept { ++info_[s].holders; }
     void release(Symbol s) noexcept; // the last holder's release forgets the name
 
 private:
@@ -60,12 +60,12 @@ private:
         bool operator()(std::u16string_view a, std::u16string_view b) const noexcept { return sameUnits(a, b); }
     };
 
-    std::unordered_map<std::u16string, Symbol, Hash, Same> m_index; // by the name in small letters
-    std::vector<Info> m_info;
-    Symbol m_free = noSymbol;
-    std::vector<Symbol>* m_notes = nullptr;
-    std::uint32_t m_round = 0;
-    std::uintptr_t m_serial = 0;
+    std::unordered_map<std::u16string, Symbol, Hash, Same> index_; // by the name in small letters
+    std::vector<Info> info_;
+    Symbol free_ = noSymbol;
+    std::vector<Symbol>* notes_ = nullptr;
+    std::uint32_t round_ = 0;
+    std::uintptr_t serial_ = 0;
 };
 
 struct Position {
@@ -254,21 +254,21 @@ template <class Node>
 class Nodes {
 public:
     Node& add() {
-        if (m_rows.empty() || m_rows.back().size() == m_rows.back().capacity()) {
-            const std::size_t length = m_rows.empty() ? 4 : std::min<std::size_t>(2 * m_rows.back().size(), 512);
-            m_rows.emplace_back().reserve(length);
+        if (rows_.empty() || rows_.back().size() == rows_.back().capacity()) {
+            const std::size_t length = rows_.empty() ? 4 : std::min<std::size_t>(2 * rows_.back().size(), 512);
+            rows_.emplace_back().reserve(length);
         }
-        return m_rows.back().emplace_back();
+        return rows_.back().emplace_back();
     }
 
 private:
-    std::vector<std::vector<Node>> m_rows; // none grows beyond what is reserved
+    std::vector<std::vector<Node>> rows_; // none grows beyond what is reserved
 };
 
 // One parsed text.
 struct Ast {
     Ast() = default;
-    ~Ast() { releaseMemory(m_charged); }
+    ~Ast() { releaseMemory(charged_); }
     Ast(const Ast&) = delete;
     Ast& operator=(const Ast&) = delete;
 
@@ -286,14 +286,14 @@ private:
     // Trees count as memory of the script: error 7 when the ceiling is passed.
     void charge(std::size_t bytes) {
         chargeMemory(bytes);
-        m_charged += bytes;
+        charged_ += bytes;
     }
 
-    std::size_t m_charged = 0;
-    Nodes<Expr> m_exprs;
-    Nodes<Stmt> m_stmts;
-    std::deque<ProcedureDecl> m_procedures;
-    std::deque<ClassDecl> m_classes;
+    std::size_t charged_ = 0;
+    Nodes<Expr> exprs_;
+    Nodes<Stmt> stmts_;
+    std::deque<ProcedureDecl> procedures_;
+    std::deque<ClassDecl> classes_;
 };
 
 } // namespace vbs

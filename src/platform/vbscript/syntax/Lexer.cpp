@@ -32,30 +32,30 @@ bool isNamePart(char16_t c) noexcept {
 Token Lexer::next() {
     Token token;
     token.spaceBefore = skipBlanks();
-    token.offset = static_cast<std::uint32_t>(m_position);
-    token.line = m_line;
-    token.column = static_cast<std::uint32_t>(m_position - m_lineStart + 1);
+    token.offset = static_cast<std::uint32_t>(position_);
+    token.line = line_;
+    token.column = static_cast<std::uint32_t>(position_ - lineStart_ + 1);
     if (atEnd()) {
         return token;
     }
     scan(token);
-    token.length = static_cast<std::uint32_t>(m_position - token.offset);
+    token.length = static_cast<std::uint32_t>(position_ - token.offset);
     token.spaceAfter = atEnd() || isBlank(at(0)) || isLineEnd(at(0));
-    m_afterDot = token.sign == Token::Sign::Dot;
-    m_afterOperand = token.kind == Token::Kind::Identifier || token.kind == Token::Kind::Number ||
-                     token.kind == Token::Kind::Text || token.kind == Token::Kind::Date ||
-                     token.sign == Token::Sign::Close;
+    afterDot_ = token.sign == Token::Sign::Dot;
+    afterOperand_ = token.kind == Token::Kind::Identifier || token.kind == Token::Kind::Number ||
+                    token.kind == Token::Kind::Text || token.kind == Token::Kind::Date ||
+                    token.sign == Token::Sign::Close;
     return token;
 }
 
 bool Lexer::skipBlanks() {
-    const std::size_t start = m_position;
+    const std::size_t start = position_;
     while (!atEnd() && (isBlank(at(0)) || skipContinuation())) {
         if (isBlank(at(0))) {
-            ++m_position;
+            ++position_;
         }
     }
-    return m_position != start;
+    return position_ != start;
 }
 
 // An underscore, blanks and the end of the line: the statement goes on.
@@ -67,10 +67,10 @@ bool Lexer::skipContinuation() {
     while (isBlank(at(ahead))) {
         ++ahead;
     }
-    if (m_position + ahead < m_text.size() && !isLineEnd(at(ahead))) {
+    if (position_ + ahead < text_.size() && !isLineEnd(at(ahead))) {
         return false;
     }
-    m_position += ahead;
+    position_ += ahead;
     if (!atEnd()) {
         newLine();
     }
@@ -78,9 +78,9 @@ bool Lexer::skipContinuation() {
 }
 
 void Lexer::newLine() {
-    m_position += at(0) == u'\r' && at(1) == u'\n' ? 2 : 1;
-    ++m_line;
-    m_lineStart = m_position;
+    position_ += at(0) == u'\r' && at(1) == u'\n' ? 2 : 1;
+    ++line_;
+    lineStart_ = position_;
 }
 
 void Lexer::bad(Token& token, ErrorNumber error) {
@@ -113,20 +113,20 @@ void Lexer::scan(Token& token) {
 void Lexer::scanComment(Token& token) {
     token.kind = Token::Kind::Comment;
     while (!atEnd() && !isLineEnd(at(0))) {
-        ++m_position;
+        ++position_;
     }
 }
 
 void Lexer::scanName(Token& token) {
-    const std::size_t start = m_position;
+    const std::size_t start = position_;
     while (!atEnd() && isNamePart(at(0))) {
-        ++m_position;
+        ++position_;
     }
-    token.text = m_text.substr(start, m_position - start);
+    token.text = text_.substr(start, position_ - start);
     token.kind = Token::Kind::Identifier;
     if (token.text.size() > longestName) {
         bad(token, ErrorNumber::IdentifierTooLong);
-    } else if (!m_afterDot) {
+    } else if (!afterDot_) {
         token.word = wordOf(token.text);
         if (token.word != Word::None) {
             token.kind = Token::Kind::Keyword;
@@ -137,17 +137,17 @@ void Lexer::scanName(Token& token) {
 }
 
 void Lexer::scanBracketed(Token& token) {
-    const std::size_t start = ++m_position;
+    const std::size_t start = ++position_;
     while (!atEnd() && at(0) != u']' && !isLineEnd(at(0))) {
-        ++m_position;
+        ++position_;
     }
-    token.text = m_text.substr(start, m_position - start);
+    token.text = text_.substr(start, position_ - start);
     token.kind = Token::Kind::Identifier;
     if (at(0) != u']' || atEnd()) {
         bad(token, ErrorNumber::ExpectedRightBracket);
         return;
     }
-    ++m_position;
+    ++position_;
     if (token.text.size() > longestName) {
         bad(token, ErrorNumber::IdentifierTooLong);
     }
@@ -155,7 +155,7 @@ void Lexer::scanBracketed(Token& token) {
 
 void Lexer::scanText(Token& token) {
     token.kind = Token::Kind::Text;
-    const std::size_t start = ++m_position;
+    const std::size_t start = ++position_;
     bool doubled = false;
     while (true) {
         if (atEnd() || isLineEnd(at(0))) {
@@ -167,12 +167,12 @@ void Lexer::scanText(Token& token) {
                 break;
             }
             doubled = true;
-            ++m_position;
+            ++position_;
         }
-        ++m_position;
+        ++position_;
     }
-    const std::u16string_view raw = m_text.substr(start, m_position - start);
-    ++m_position;
+    const std::u16string_view raw = text_.substr(start, position_ - start);
+    ++position_;
     if (!doubled) {
         token.value = Value::ofString(raw);
         return;
@@ -186,16 +186,16 @@ void Lexer::scanText(Token& token) {
 }
 
 void Lexer::scanDate(Token& token) {
-    const std::size_t start = ++m_position;
+    const std::size_t start = ++position_;
     while (!atEnd() && at(0) != u'#' && !isLineEnd(at(0))) {
-        ++m_position;
+        ++position_;
     }
-    const std::u16string_view written = m_text.substr(start, m_position - start);
+    const std::u16string_view written = text_.substr(start, position_ - start);
     if (at(0) != u'#') {
         bad(token, ErrorNumber::SyntaxError);
         return;
     }
-    ++m_position;
+    ++position_;
     token.kind = Token::Kind::Date;
     const auto date = parseDate(written, *builtinLocale(1033)); // literals are month/day/year everywhere
     if (date) {
@@ -263,7 +263,7 @@ void Lexer::scanOperator(Token& token) {
     default:
         bad(token, ErrorNumber::InvalidCharacter);
     }
-    m_position += length;
+    position_ += length;
 }
 
 } // namespace vbs

@@ -131,15 +131,15 @@ struct Token {
 class Lexer {
 public:
     // The text must outlive the lexer.
-    explicit Lexer(std::u16string_view text) noexcept : m_text(text) {}
+    explicit Lexer(std::u16string_view text) noexcept : text_(text) {}
 
     Token next();
 
 private:
     char16_t at(std::size_t ahead) const noexcept {
-        return m_position + ahead < m_text.size() ? m_text[m_position + ahead] : u'\0';
+        return position_ + ahead < text_.size() ? text_[position_ + ahead] : u'\0';
     }
-    bool atEnd() const noexcept { return m_position >= m_text.size(); }
+    bool atEnd() const noexcept { return position_ >= text_.size(); }
     bool skipBlanks();
     bool skipContinuation();
     void newLine();
@@ -154,12 +154,12 @@ private:
     void scanOperator(Token& token);
     static void bad(Token& token, ErrorNumber error);
 
-    std::u16string_view m_text;
-    std::size_t m_position = 0;
-    std::size_t m_lineStart = 0;
-    std::uint32_t m_line = 1;
-    bool m_afterDot = false;     // a keyword after a dot is a name
-    bool m_afterOperand = false; // an & after an operand joins texts
+    std::u16string_view text_;
+    std::size_t position_ = 0;
+    std::size_t lineStart_ = 0;
+    std::uint32_t line_ = 1;
+    bool afterDot_ = false;     // a keyword after a dot is a name
+    bool afterOperand_ = false; // an & after an operand joins texts
 };
 
 // A reserved word as the language reference spells it.

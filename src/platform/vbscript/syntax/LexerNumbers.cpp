@@ -16,29 +16,29 @@ int digitOf(char16_t c) noexcept {
 } // namespace
 
 void Lexer::scanDecimal(Token& token) {
-    const std::size_t start = m_position;
+    const std::size_t start = position_;
     bool whole = true;
     while (isDigit(at(0))) {
-        ++m_position;
+        ++position_;
     }
     if (at(0) == u'.') {
         whole = false;
-        ++m_position;
+        ++position_;
         while (isDigit(at(0))) {
-            ++m_position;
+            ++position_;
         }
     }
     if (at(0) == u'e' || at(0) == u'E') {
         const std::size_t sign = at(1) == u'+' || at(1) == u'-' ? 1 : 0;
         if (isDigit(at(1 + sign))) {
             whole = false;
-            m_position += 1 + sign;
+            position_ += 1 + sign;
             while (isDigit(at(0))) {
-                ++m_position;
+                ++position_;
             }
         }
     }
-    const std::u16string_view written = m_text.substr(start, m_position - start);
+    const std::u16string_view written = text_.substr(start, position_ - start);
     token.kind = Token::Kind::Number;
     constexpr std::size_t shortNumber = 9; // digits that any Long has room for
     if (whole && written.size() <= shortNumber) {
@@ -63,7 +63,7 @@ bool Lexer::scanRadix(Token& token) {
     const char16_t letter = toUpper(at(1));
     const bool hex = letter == u'H' && digitOf(at(2)) < 16;
     const bool lettered = hex || (letter == u'O' && digitOf(at(2)) < 8);
-    if (!lettered && (m_afterOperand || digitOf(at(1)) >= 8)) {
+    if (!lettered && (afterOperand_ || digitOf(at(1)) >= 8)) {
         return false;
     }
     const std::size_t first = lettered ? 2 : 1;
@@ -76,11 +76,11 @@ bool Lexer::scanRadix(Token& token) {
         fits = fits && bits <= 0xFFFFFFFFU;
         bits &= 0xFFFFFFFFFFU;
     }
-    if (m_afterOperand && isNamePart(at(ahead))) {
+    if (afterOperand_ && isNamePart(at(ahead))) {
         return false; // text &hello
     }
     const bool longMark = at(ahead) == u'&';
-    m_position += ahead + (longMark ? 1 : 0);
+    position_ += ahead + (longMark ? 1 : 0);
     token.kind = Token::Kind::Number;
     if (isDigit(at(0)) && !longMark) {
         bad(token, ErrorNumber::SyntaxError); // &38

@@ -6,58 +6,58 @@
 namespace vbs {
 
 Parser::Parser(std::u16string_view text, SymbolTable& symbols)
-    : m_lexer(text), m_symbols(symbols), m_execute(symbols.intern(u"execute")), m_eval(symbols.intern(u"eval")) {
-    m_procedure = &m_ast->main;
-    m_procedure->kind = ProcedureDecl::Kind::Main;
+    : lexer_(text), symbols_(symbols), execute_(symbols.intern(u"execute")), eval_(symbols.intern(u"eval")) {
+    procedure_ = &ast_->main;
+    procedure_->kind = ProcedureDecl::Kind::Main;
 }
 
-Parser::Nesting::Nesting(Parser& parser) : m_parser(parser) {
-    if (++parser.m_nesting > maxNesting) {
-        --parser.m_nesting;
+Parser::Nesting::Nesting(Parser& parser) : parser_(parser) {
+    if (++parser.nesting_ > maxNesting) {
+        --parser.nesting_;
         parser.fail(ErrorNumber::NestedTooDeep);
     }
 }
 
-Parser::Hidden::Hidden(Parser& parser, std::uint32_t slots) : m_parser(parser), m_slots(slots) {
-    parser.m_hidden += slots;
-    parser.m_procedure->hiddenSlots = std::max(parser.m_procedure->hiddenSlots, parser.m_hidden);
+Parser::Hidden::Hidden(Parser& parser, std::uint32_t slots) : parser_(parser), slots_(slots) {
+    parser.hidden_ += slots;
+    parser.procedure_->hiddenSlots = std::max(parser.procedure_->hiddenSlots, parser.hidden_);
 }
 
-Parser::Counter::Counter(Parser& parser, const Expr& variable) : m_parser(parser) {
-    const auto& open = parser.m_counters;
+Parser::Counter::Counter(Parser& parser, const Expr& variable) : parser_(parser) {
+    const auto& open = parser.counters_;
     if (std::find(open.begin(), open.end(), variable.symbol) != open.end()) {
         Parser::fail(ErrorNumber::InvalidForVariable, variable.at);
     }
-    parser.m_counters.push_back(variable.symbol);
+    parser.counters_.push_back(variable.symbol);
 }
 
 std::unique_ptr<Ast> Parser::parse() {
     advance();
     parseTopLevel();
-    return std::move(m_ast);
+    return std::move(ast_);
 }
 
 std::unique_ptr<Ast> Parser::parseExpression(Symbol result) {
     advance();
     skipSeparators();
-    Stmt* statement = m_ast->stmt(Stmt::Kind::Assign, here());
-    statement->target = m_ast->expr(Expr::Kind::Name, here());
+    Stmt* statement = ast_->stmt(Stmt::Kind::Assign, here());
+    statement->target = ast_->expr(Expr::Kind::Name, here());
     statement->target->symbol = result;
     statement->value = parseExpr();
     skipSeparators();
-    if (m_token.kind != Kind::End) {
+    if (token_.kind != Kind::End) {
         fail(ErrorNumber::ExpectedEndOfStatement);
     }
-    m_procedure->body.push_back(statement);
-    return std::move(m_ast);
+    procedure_->body.push_back(statement);
+    return std::move(ast_);
 }
 
 void Parser::advance() {
     do {
-        m_token = m_lexer.next();
-    } while (m_token.kind == Kind::Comment);
-    if (m_token.kind == Kind::Bad) {
-        fail(m_token.error);
+        token_ = lexer_.next();
+    } while (token_.kind == Kind::Comment);
+    if (token_.kind == Kind::Bad) {
+        fail(token_.error);
     }
 }
 
@@ -76,7 +76,7 @@ bool Parser::isName(const Token& token) noexcept {
 
 // The token after this one.
 Token Parser::peek() const {
-    return Lexer(m_lexer).next();
+    return Lexer(lexer_).next();
 }
 
 bool Parser::nextIs(std::initializer_list<Word> words) const {
@@ -90,7 +90,7 @@ bool Parser::nextIsName() const {
 
 // The line's end, a colon, or a word that closes a block: `x = 1 End If` needs no separator.
 bool Parser::isEndOfStatement() const noexcept {
-    return isEndOfLine() || m_token.kind == Kind::Colon || startsBlockEnd();
+    return isEndOfLine() || token_.kind == Kind::Colon || startsBlockEnd();
 }
 
 bool Parser::accept(Word word) {
@@ -125,7 +125,7 @@ Symbol Parser::takeName() {
     if (!isName()) {
         fail(ErrorNumber::ExpectedIdentifier);
     }
-    const Symbol symbol = m_symbols.intern(m_token.text);
+    const Symbol symbol = symbols_.intern(token_.text);
     advance();
     return symbol;
 }
@@ -137,7 +137,7 @@ void Parser::endStatement() {
 }
 
 void Parser::skipSeparators() {
-    while (m_token.kind == Kind::NewLine || m_token.kind == Kind::Colon) {
+    while (token_.kind == Kind::NewLine || token_.kind == Kind::Colon) {
         advance();
     }
 }

@@ -32,28 +32,28 @@ private:
 
     struct Nesting {
         explicit Nesting(Parser& parser);
-        ~Nesting() { --m_parser.m_nesting; }
+        ~Nesting() { --parser_.nesting_; }
         Nesting(const Nesting&) = delete;
         Nesting& operator=(const Nesting&) = delete;
-        Parser& m_parser;
+        Parser& parser_;
     };
     // Slots that a statement needs for its own bookkeeping while its body runs.
     struct Hidden {
         Hidden(Parser& parser, std::uint32_t slots);
-        ~Hidden() { m_parser.m_hidden -= m_slots; }
+        ~Hidden() { parser_.hidden_ -= slots_; }
         Hidden(const Hidden&) = delete;
         Hidden& operator=(const Hidden&) = delete;
-        Parser& m_parser;
-        std::uint32_t m_slots;
+        Parser& parser_;
+        std::uint32_t slots_;
     };
 
     // The variable of a For loop while its body is read; error 1040 if an outer loop counts with it.
     struct Counter {
         Counter(Parser& parser, const Expr& variable);
-        ~Counter() { m_parser.m_counters.pop_back(); }
+        ~Counter() { parser_.counters_.pop_back(); }
         Counter(const Counter&) = delete;
         Counter& operator=(const Counter&) = delete;
-        Parser& m_parser;
+        Parser& parser_;
     };
 
     // What is open around a procedure counts for nothing while its body is read; it is back when that ends, with an
@@ -63,13 +63,13 @@ private:
         ~Inside();
         Inside(const Inside&) = delete;
         Inside& operator=(const Inside&) = delete;
-        Parser& m_parser;
-        ProcedureDecl* m_outer;
-        std::uint32_t m_hidden;
-        int m_doLoops;
-        int m_forLoops;
-        int m_withs;
-        std::vector<Symbol> m_counters;
+        Parser& parser_;
+        ProcedureDecl* outer_;
+        std::uint32_t hidden_;
+        int doLoops_;
+        int forLoops_;
+        int withs_;
+        std::vector<Symbol> counters_;
     };
 
     // A place to read again from, and what was called there.
@@ -83,12 +83,12 @@ private:
     void advance();
     [[noreturn]] void fail(ErrorNumber error) const;
     [[noreturn]] static void fail(ErrorNumber error, Position at);
-    Position here() const noexcept { return {m_token.line, m_token.column}; }
-    bool is(Word word) const noexcept { return m_token.kind == Kind::Keyword && m_token.word == word; }
-    bool is(Sign sign) const noexcept { return m_token.kind == Kind::Operator && m_token.sign == sign; }
-    bool isName() const noexcept { return isName(m_token); }
+    Position here() const noexcept { return {token_.line, token_.column}; }
+    bool is(Word word) const noexcept { return token_.kind == Kind::Keyword && token_.word == word; }
+    bool is(Sign sign) const noexcept { return token_.kind == Kind::Operator && token_.sign == sign; }
+    bool isName() const noexcept { return isName(token_); }
     static bool isName(const Token& token) noexcept;
-    bool isEndOfLine() const noexcept { return m_token.kind == Kind::NewLine || m_token.kind == Kind::End; }
+    bool isEndOfLine() const noexcept { return token_.kind == Kind::NewLine || token_.kind == Kind::End; }
     bool isEndOfStatement() const noexcept;
     bool accept(Word word);
     bool accept(Sign sign);
@@ -166,19 +166,19 @@ private:
     static void checkShared(const ProcedureDecl& one, const ProcedureDecl& other);
     void declare(Symbol name, Position at);
 
-    Lexer m_lexer;
-    SymbolTable& m_symbols;
-    std::unique_ptr<Ast> m_ast = std::make_unique<Ast>();
-    Token m_token;
-    ProcedureDecl* m_procedure = nullptr; // the one whose body is being read
-    int m_nesting = 0;
-    std::uint32_t m_hidden = 0;
-    int m_doLoops = 0;
-    int m_forLoops = 0;
-    int m_withs = 0;
-    std::vector<Symbol> m_counters;
-    Symbol m_execute;
-    Symbol m_eval;
+    Lexer lexer_;
+    SymbolTable& symbols_;
+    std::unique_ptr<Ast> ast_ = std::make_unique<Ast>();
+    Token token_;
+    ProcedureDecl* procedure_ = nullptr; // the one whose body is being read
+    int nesting_ = 0;
+    std::uint32_t hidden_ = 0;
+    int doLoops_ = 0;
+    int forLoops_ = 0;
+    int withs_ = 0;
+    std::vector<Symbol> counters_;
+    Symbol execute_;
+    Symbol eval_;
 };
 
 } // namespace vbs

@@ -8,20 +8,20 @@ namespace {
 // Raises a counter while a construct is open.
 class Within {
 public:
-    explicit Within(int& counter) noexcept : m_counter(counter) { ++m_counter; }
-    ~Within() { --m_counter; }
+    explicit Within(int& counter) noexcept : counter_(counter) { ++counter_; }
+    ~Within() { --counter_; }
     Within(const Within&) = delete;
     Within& operator=(const Within&) = delete;
 
 private:
-    int& m_counter;
+    int& counter_;
 };
 
 } // namespace
 
 // If expr Then (line | block); `Then :` and nothing more is a line
 Stmt* Parser::parseIf() {
-    Stmt* statement = m_ast->stmt(Stmt::Kind::If, here());
+    Stmt* statement = ast_->stmt(Stmt::Kind::If, here());
     advance();
     parseCondition(*statement, statement->at);
     if (isEndOfLine()) {
@@ -62,7 +62,7 @@ void Parser::parseBranches(Stmt& statement, void (Parser::*body)(Block&)) {
 
 void Parser::parseLineStatements(Block& block) {
     while (true) {
-        while (m_token.kind == Kind::Colon) {
+        while (token_.kind == Kind::Colon) {
             advance();
         }
         if (isEndOfLine() || startsBlockEnd()) {
@@ -74,7 +74,7 @@ void Parser::parseLineStatements(Block& block) {
 
 // Select Case expr { Case expr {, expr} block } [Case Else block] End Select
 Stmt* Parser::parseSelect() {
-    Stmt* statement = m_ast->stmt(Stmt::Kind::Select, here());
+    Stmt* statement = ast_->stmt(Stmt::Kind::Select, here());
     advance();
     expect(Word::Case, ErrorNumber::ExpectedCase);
     statement->value = parseExpr();
@@ -108,8 +108,8 @@ Stmt* Parser::parseFor() {
     if (accept(Word::Each)) {
         return parseForEach(at);
     }
-    Stmt* statement = m_ast->stmt(Stmt::Kind::For, at);
-    statement->target = m_ast->expr(Expr::Kind::Name, here());
+    Stmt* statement = ast_->stmt(Stmt::Kind::For, at);
+    statement->target = ast_->expr(Expr::Kind::Name, here());
     statement->target->symbol = takeName();
     if (is(Sign::Dot) || is(Sign::Open)) {
         fail(ErrorNumber::InvalidForVariable);
@@ -125,7 +125,7 @@ Stmt* Parser::parseFor() {
     }
     endStatement();
     const Hidden hidden(*this, 3);
-    const Within loop(m_forLoops);
+    const Within loop(forLoops_);
     parseBlock(statement->body);
     statement->closing = here();
     expect(Word::Next, ErrorNumber::ExpectedNext);
@@ -134,8 +134,8 @@ Stmt* Parser::parseFor() {
 
 // For Each name In expr block Next
 Stmt* Parser::parseForEach(Position at) {
-    Stmt* statement = m_ast->stmt(Stmt::Kind::ForEach, at);
-    statement->target = m_ast->expr(Expr::Kind::Name, here());
+    Stmt* statement = ast_->stmt(Stmt::Kind::ForEach, at);
+    statement->target = ast_->expr(Expr::Kind::Name, here());
     statement->target->symbol = takeName();
     const Counter counter(*this, *statement->target);
     noteAssigned(statement->target);
@@ -143,7 +143,7 @@ Stmt* Parser::parseForEach(Position at) {
     statement->value = parseExpr();
     endStatement();
     const Hidden hidden(*this, 1);
-    const Within loop(m_forLoops);
+    const Within loop(forLoops_);
     parseBlock(statement->body);
     statement->closing = here();
     expect(Word::Next, ErrorNumber::ExpectedNext);
@@ -152,7 +152,7 @@ Stmt* Parser::parseForEach(Position at) {
 
 // While expr block Wend
 Stmt* Parser::parseWhile() {
-    Stmt* statement = m_ast->stmt(Stmt::Kind::While, here());
+    Stmt* statement = ast_->stmt(Stmt::Kind::While, here());
     advance();
     statement->value = parseExpr();
     endStatement();
@@ -164,7 +164,7 @@ Stmt* Parser::parseWhile() {
 
 // Do [While|Until expr] block Loop [While|Until expr]
 Stmt* Parser::parseDo() {
-    Stmt* statement = m_ast->stmt(Stmt::Kind::Do, here());
+    Stmt* statement = ast_->stmt(Stmt::Kind::Do, here());
     advance();
     if (is(Word::While) || is(Word::Until)) {
         statement->test = is(Word::While) ? LoopTest::WhileBefore : LoopTest::UntilBefore;
@@ -174,7 +174,7 @@ Stmt* Parser::parseDo() {
     if (!isEndOfStatement()) {
         fail(statement->value != nullptr ? ErrorNumber::ExpectedEndOfStatement : ErrorNumber::ExpectedWhileUntilOrEnd);
     }
-    const Within loop(m_doLoops);
+    const Within loop(doLoops_);
     parseBlock(statement->body);
     statement->closing = here();
     expect(Word::Loop, ErrorNumber::ExpectedLoop);
@@ -191,12 +191,12 @@ Stmt* Parser::parseDo() {
 
 // With expr block End With
 Stmt* Parser::parseWith() {
-    Stmt* statement = m_ast->stmt(Stmt::Kind::With, here());
+    Stmt* statement = ast_->stmt(Stmt::Kind::With, here());
     advance();
     statement->value = parseExpr();
     endStatement();
     const Hidden hidden(*this, 1);
-    const Within with(m_withs);
+    const Within with(withs_);
     parseBlock(statement->body);
     expect(Word::End, ErrorNumber::ExpectedEnd);
     expect(Word::With, ErrorNumber::ExpectedWith);

@@ -5,12 +5,12 @@ namespace vbs {
 
 void Parser::noteAssigned(const Expr* target) {
     if (target->kind == Expr::Kind::Name) {
-        m_procedure->assigned.push_back(target->symbol);
-        m_procedure->assignedAt.push_back(target->at);
+        procedure_->assigned.push_back(target->symbol);
+        procedure_->assignedAt.push_back(target->at);
     } else if (target->kind == Expr::Kind::Call) {
         for (const Expr* base = target; base != nullptr; base = base->a) {
             if (base->kind == Expr::Kind::Name) {
-                m_procedure->changed.push_back(base->symbol);
+                procedure_->changed.push_back(base->symbol);
             }
         }
     }
@@ -22,12 +22,12 @@ Stmt* Parser::parseAssignOrCall() {
     bool complete = false;
     Expr* head = parseStatementHead(complete);
     if (complete) {
-        Stmt* statement = m_ast->stmt(Stmt::Kind::Call, at);
+        Stmt* statement = ast_->stmt(Stmt::Kind::Call, at);
         statement->target = head;
         return statement;
     }
     if (accept(Sign::Equal)) {
-        Stmt* statement = m_ast->stmt(Stmt::Kind::Assign, at);
+        Stmt* statement = ast_->stmt(Stmt::Kind::Assign, at);
         statement->target = head;
         if (head->kind == Expr::Kind::Me) {
             fail(ErrorNumber::InvalidMe, at);
@@ -48,7 +48,7 @@ Expr* Parser::parseStatementHead(bool& complete) {
     while (true) {
         const Position at = here();
         if (is(Sign::Dot)) {
-            if (m_withs > 0 && m_token.spaceBefore && !m_token.spaceAfter) {
+            if (withs_ > 0 && token_.spaceBefore && !token_.spaceAfter) {
                 return e; // `p .x` inside With: .x is the first argument
             }
             bracket.reset();
@@ -56,7 +56,7 @@ Expr* Parser::parseStatementHead(bool& complete) {
             e = member(e, at);
         } else if (is(Sign::Open)) {
             if (!bracket || !bracket->token.spaceBefore) {
-                bracket = Bracket{m_lexer, m_token, e};
+                bracket = Bracket{lexer_, token_, e};
             }
             std::vector<Expr*> arguments = parseArguments();
             const bool inner = bracket->callee != e && bracket->token.spaceBefore;
@@ -68,8 +68,8 @@ Expr* Parser::parseStatementHead(bool& complete) {
                 return call(e, std::move(arguments), at); // `a(0) 5`
             }
             if (!is(Sign::Equal) && !is(Sign::Dot) && !is(Sign::Open)) {
-                m_lexer = bracket->lexer;
-                m_token = bracket->token;
+                lexer_ = bracket->lexer;
+                token_ = bracket->token;
                 return bracket->callee;
             }
             e = call(e, std::move(arguments), at);
@@ -81,7 +81,7 @@ Expr* Parser::parseStatementHead(bool& complete) {
 
 // Whether the token can only begin an expression.
 bool Parser::startsOperand() const noexcept {
-    switch (m_token.kind) {
+    switch (token_.kind) {
     case Kind::Number:
     case Kind::Text:
     case Kind::Date:
@@ -105,12 +105,12 @@ Expr* Parser::wholeCall(Expr* callee, std::vector<Expr*> arguments, Position at)
 }
 
 Stmt* Parser::finishCall(Expr* callee, Position at) {
-    Stmt* statement = m_ast->stmt(Stmt::Kind::Call, at);
+    Stmt* statement = ast_->stmt(Stmt::Kind::Call, at);
     std::vector<Expr*> arguments;
     if (!isEndOfStatement()) {
         do {
             const bool missing = is(Sign::Comma) || isEndOfStatement();
-            arguments.push_back(missing ? m_ast->expr(Expr::Kind::Missing, here()) : parseExpr());
+            arguments.push_back(missing ? ast_->expr(Expr::Kind::Missing, here()) : parseExpr());
         } while (accept(Sign::Comma));
     }
     if (callee->kind == Expr::Kind::Me) {
@@ -123,7 +123,7 @@ Stmt* Parser::finishCall(Expr* callee, Position at) {
 
 // Set target = expr
 Stmt* Parser::parseSet() {
-    Stmt* statement = m_ast->stmt(Stmt::Kind::Set, here());
+    Stmt* statement = ast_->stmt(Stmt::Kind::Set, here());
     advance();
     if (!isName() && !is(Word::Me) && !is(Sign::Dot)) {
         fail(ErrorNumber::ExpectedIdentifier);
@@ -146,7 +146,7 @@ Stmt* Parser::parseCall() {
         fail(ErrorNumber::ExpectedIdentifier);
     }
     Expr* target = grouped(parsePrimary());
-    Stmt* statement = m_ast->stmt(Stmt::Kind::Call, at);
+    Stmt* statement = ast_->stmt(Stmt::Kind::Call, at);
     statement->target = target->kind == Expr::Kind::Call ? target : call(target, {}, at);
     return statement;
 }

@@ -18,23 +18,23 @@ void Parser::parseTopLevel() {
     while (is(Word::Option)) {
         advance();
         expect(Word::Explicit, ErrorNumber::SyntaxError);
-        m_ast->optionExplicit = true;
+        ast_->optionExplicit = true;
         endStatement();
         skipSeparators();
     }
-    for (; m_token.kind != Kind::End; skipSeparators()) {
+    for (; token_.kind != Kind::End; skipSeparators()) {
         if (startsBlockEnd()) {
             fail(is(Word::Loop)   ? ErrorNumber::LoopWithoutDo
                  : is(Word::Next) ? ErrorNumber::UnexpectedNext
                                   : ErrorNumber::ExpectedStatement);
         }
-        parseItem(m_ast->main.body);
+        parseItem(ast_->main.body);
     }
 }
 
 bool Parser::parseDeclaration(Block& block) {
     if (is(Word::Sub) || is(Word::Function)) {
-        m_ast->procedures.push_back(parseProcedure(false, false));
+        ast_->procedures.push_back(parseProcedure(false, false));
     } else if (is(Word::Class)) {
         parseClass();
     } else if (is(Word::Public) || is(Word::Private)) {
@@ -56,7 +56,7 @@ void Parser::parseModified(Block& block) {
         fail(ErrorNumber::DefinedInsideClass);
     }
     if (is(Word::Sub) || is(Word::Function)) {
-        m_ast->procedures.push_back(parseProcedure(isPrivate, false));
+        ast_->procedures.push_back(parseProcedure(isPrivate, false));
         return;
     }
     block.push_back(accept(Word::Const) ? parseConst() : parseDim(isPrivate));
@@ -65,8 +65,8 @@ void Parser::parseModified(Block& block) {
 
 void Parser::declare(Symbol name, Position at) {
     const auto named = [name](const Parameter& parameter) { return parameter.name == name; };
-    const bool parameter = std::any_of(m_procedure->parameters.begin(), m_procedure->parameters.end(), named);
-    if (parameter || !m_procedure->declared.insert(name).second) {
+    const bool parameter = std::any_of(procedure_->parameters.begin(), procedure_->parameters.end(), named);
+    if (parameter || !procedure_->declared.insert(name).second) {
         fail(ErrorNumber::NameRedefined, at);
     }
 }
@@ -85,14 +85,14 @@ Variable Parser::parseVariable(bool isPrivate) {
         return variable;
     }
     do {
-        const bool whole = m_token.kind == Kind::Number && m_token.value.isWhole();
-        if (!whole || m_token.value.n < 0) {
+        const bool whole = token_.kind == Kind::Number && token_.value.isWhole();
+        if (!whole || token_.value.n < 0) {
             fail(ErrorNumber::ExpectedInteger);
         }
-        if (m_token.value.n == 0x7fffffff || variable.sizes.size() == 60) {
+        if (token_.value.n == 0x7fffffff || variable.sizes.size() == 60) {
             fail(ErrorNumber::TooManyArguments);
         }
-        variable.sizes.push_back(static_cast<std::int32_t>(m_token.value.n) + 1);
+        variable.sizes.push_back(static_cast<std::int32_t>(token_.value.n) + 1);
         advance();
     } while (accept(Sign::Comma));
     expect(Sign::Close, ErrorNumber::ExpectedRightParenthesis);
@@ -107,20 +107,20 @@ void Parser::parseVariables(std::vector<Variable>& into, bool isPrivate) {
 
 // Dim variable {, variable}; the names are hoisted to the procedure around
 Stmt* Parser::parseDim(bool isPrivate) {
-    Stmt* statement = m_ast->stmt(Stmt::Kind::Dim, here());
-    statement->first = m_procedure->variables.size();
+    Stmt* statement = ast_->stmt(Stmt::Kind::Dim, here());
+    statement->first = procedure_->variables.size();
     do {
         const Variable variable = parseVariable(isPrivate);
         declare(variable.name, variable.at);
-        m_procedure->variables.push_back(variable);
+        procedure_->variables.push_back(variable);
     } while (accept(Sign::Comma));
-    statement->count = m_procedure->variables.size() - statement->first;
+    statement->count = procedure_->variables.size() - statement->first;
     return statement;
 }
 
 // Const name = [sign] literal {, name = [sign] literal}; hoisted
 Stmt* Parser::parseConst() {
-    Stmt* statement = m_ast->stmt(Stmt::Kind::Const, here());
+    Stmt* statement = ast_->stmt(Stmt::Kind::Const, here());
     do {
         ConstDecl decl;
         decl.at = here();
@@ -128,7 +128,7 @@ Stmt* Parser::parseConst() {
         expect(Sign::Equal, ErrorNumber::ExpectedEqual);
         decl.value = parseLiteral();
         declare(decl.name, decl.at);
-        m_procedure->constants.push_back(decl);
+        procedure_->constants.push_back(decl);
     } while (accept(Sign::Comma));
     return statement;
 }
@@ -149,10 +149,10 @@ Expr* Parser::parseLiteral() {
 
 // Sub|Function|Property Get|Let|Set name [( parameters )] block End Sub|Function|Property
 ProcedureDecl* Parser::parseProcedure(bool isPrivate, bool isDefault) {
-    ProcedureDecl* procedure = m_ast->procedure();
+    ProcedureDecl* procedure = ast_->procedure();
     procedure->isPrivate = isPrivate;
     procedure->isDefault = isDefault;
-    const Word ending = m_token.word;
+    const Word ending = token_.word;
     advance();
     if (ending == Word::Property) {
         procedure->kind = is(Word::Get)   ? ProcedureDecl::Kind::PropertyGet
@@ -168,7 +168,7 @@ ProcedureDecl* Parser::parseProcedure(bool isPrivate, bool isDefault) {
     procedure->at = here();
     procedure->name = takeName();
     parseParameters(*procedure);
-    if (m_token.kind == Kind::Identifier && equalNoCase(m_token.text, u"as") && nextIsName()) {
+    if (token_.kind == Kind::Identifier && equalNoCase(token_.text, u"as") && nextIsName()) {
         fail(ErrorNumber::ExpectedEndOfStatement); // no type is ever declared
     }
     const bool assigns =
@@ -210,18 +210,17 @@ void Parser::parseParameters(ProcedureDecl& procedure) {
 }
 
 Parser::Inside::Inside(Parser& parser, ProcedureDecl& procedure)
-    : m_parser(parser), m_outer(std::exchange(parser.m_procedure, &procedure)),
-      m_hidden(std::exchange(parser.m_hidden, 0)), m_doLoops(std::exchange(parser.m_doLoops, 0)),
-      m_forLoops(std::exchange(parser.m_forLoops, 0)), m_withs(std::exchange(parser.m_withs, 0)),
-      m_counters(std::exchange(parser.m_counters, {})) {}
+    : parser_(parser), outer_(std::exchange(parser.procedure_, &procedure)), hidden_(std::exchange(parser.hidden_, 0)),
+      doLoops_(std::exchange(parser.doLoops_, 0)), forLoops_(std::exchange(parser.forLoops_, 0)),
+      withs_(std::exchange(parser.withs_, 0)), counters_(std::exchange(parser.counters_, {})) {}
 
 Parser::Inside::~Inside() {
-    m_parser.m_procedure = m_outer;
-    m_parser.m_hidden = m_hidden;
-    m_parser.m_doLoops = m_doLoops;
-    m_parser.m_forLoops = m_forLoops;
-    m_parser.m_withs = m_withs;
-    m_parser.m_counters = std::move(m_counters);
+    parser_.procedure_ = outer_;
+    parser_.hidden_ = hidden_;
+    parser_.doLoops_ = doLoops_;
+    parser_.forLoops_ = forLoops_;
+    parser_.withs_ = withs_;
+    parser_.counters_ = std::move(counters_);
 }
 
 void Parser::parseProcedureBody(ProcedureDecl& procedure, Word ending) {
@@ -240,20 +239,20 @@ void Parser::parseProcedureBody(ProcedureDecl& procedure, Word ending) {
 
 // Class name { member } End Class
 void Parser::parseClass() {
-    ClassDecl* decl = m_ast->classDecl();
+    ClassDecl* decl = ast_->classDecl();
     advance();
     decl->at = here();
     decl->name = takeName();
     endStatement();
     for (skipSeparators(); !is(Word::End); skipSeparators()) {
-        if (m_token.kind == Kind::End) {
+        if (token_.kind == Kind::End) {
             fail(ErrorNumber::ExpectedEnd);
         }
         parseClassMember(*decl);
     }
     advance();
     expect(Word::Class, ErrorNumber::ExpectedClass);
-    m_ast->classes.push_back(decl);
+    ast_->classes.push_back(decl);
 }
 
 // [Public|Private] [Default] (Sub|Function|Property ... | variables)   or   Dim variables
@@ -324,7 +323,7 @@ void Parser::checkClassMember(const ClassDecl& decl, const ProcedureDecl& proced
     if (procedure.isDefault && (procedure.kind == PK::PropertyLet || procedure.kind == PK::PropertySet)) {
         fail(ErrorNumber::DefaultOnlyOnGet, procedure.at);
     }
-    const std::u16string& name = m_symbols.folded(procedure.name);
+    const std::u16string& name = symbols_.folded(procedure.name);
     if ((name == u"class_initialize" || name == u"class_terminate") && !procedure.parameters.empty()) {
         fail(ErrorNumber::ClassEventArguments, procedure.at);
     }

@@ -83,7 +83,7 @@ OperatorInfo operatorOf(const Token& token) noexcept {
 Expr* Parser::parseBinary(int least) {
     Expr* left = parseUnary();
     while (true) {
-        const OperatorInfo info = operatorOf(m_token);
+        const OperatorInfo info = operatorOf(token_);
         if (info.precedence == 0 || info.precedence < least) {
             return left;
         }
@@ -122,11 +122,11 @@ Expr* Parser::parsePrimary() {
 // atom: literal | name | ( expr ) | .name | Me | New name
 Expr* Parser::parseAtom() {
     const Position at = here();
-    switch (m_token.kind) {
+    switch (token_.kind) {
     case Kind::Number:
     case Kind::Text:
     case Kind::Date: {
-        Expr* e = literal(m_token.value);
+        Expr* e = literal(token_.value);
         advance();
         return e;
     }
@@ -147,7 +147,7 @@ Expr* Parser::parseAtom() {
     default:
         fail(ErrorNumber::SyntaxError);
     }
-    const Word word = m_token.word;
+    const Word word = token_.word;
     if (isName()) {
         return nameExpr(at);
     }
@@ -164,9 +164,9 @@ Expr* Parser::parseAtom() {
     case Word::Nothing:
         return literal(Value::nothing());
     case Word::Me:
-        return m_ast->expr(Expr::Kind::Me, at);
+        return ast_->expr(Expr::Kind::Me, at);
     case Word::New: {
-        Expr* e = m_ast->expr(Expr::Kind::New, at);
+        Expr* e = ast_->expr(Expr::Kind::New, at);
         e->symbol = takeName();
         e->calls = true;
         return e;
@@ -184,7 +184,7 @@ Expr* Parser::parsePostfix(Expr* e) {
     for (bool first = true;; first = false) {
         const Position at = here();
         if (is(Sign::Dot) &&
-            !(m_withs > 0 && m_token.spaceBefore && !m_token.spaceAfter && e->kind == Expr::Kind::Literal)) {
+            !(withs_ > 0 && token_.spaceBefore && !token_.spaceAfter && e->kind == Expr::Kind::Literal)) {
             advance();
             e = member(e, at);
         } else if (is(Sign::Open) && (indexable || !first)) {
@@ -205,7 +205,7 @@ std::vector<Expr*> Parser::parseArguments() {
     }
     while (true) {
         const bool missing = is(Sign::Comma) || is(Sign::Close);
-        arguments.push_back(missing ? m_ast->expr(Expr::Kind::Missing, here()) : parseExpr());
+        arguments.push_back(missing ? ast_->expr(Expr::Kind::Missing, here()) : parseExpr());
         if (accept(Sign::Close)) {
             return arguments;
         }
@@ -214,29 +214,29 @@ std::vector<Expr*> Parser::parseArguments() {
 }
 
 Expr* Parser::literal(Value value) {
-    Expr* e = m_ast->expr(Expr::Kind::Literal, here());
+    Expr* e = ast_->expr(Expr::Kind::Literal, here());
     e->value = std::move(value);
     return e;
 }
 
 Expr* Parser::nameExpr(Position at) {
-    Expr* e = m_ast->expr(Expr::Kind::Name, at);
+    Expr* e = ast_->expr(Expr::Kind::Name, at);
     e->symbol = takeName();
     e->calls = true; // it may turn out to be a function
-    m_procedure->mentioned.push_back(e->symbol);
-    if (e->symbol == m_execute || e->symbol == m_eval) {
-        m_procedure->dynamicScope = true;
+    procedure_->mentioned.push_back(e->symbol);
+    if (e->symbol == execute_ || e->symbol == eval_) {
+        procedure_->dynamicScope = true;
     }
     return e;
 }
 
 // The name after a dot; any word will do.
 Expr* Parser::member(Expr* object, Position at) {
-    if (m_token.kind != Kind::Identifier && m_token.kind != Kind::Keyword) {
+    if (token_.kind != Kind::Identifier && token_.kind != Kind::Keyword) {
         fail(ErrorNumber::ExpectedIdentifier);
     }
-    Expr* e = m_ast->expr(Expr::Kind::Member, at);
-    e->symbol = m_symbols.intern(m_token.text);
+    Expr* e = ast_->expr(Expr::Kind::Member, at);
+    e->symbol = symbols_.intern(token_.text);
     e->a = object;
     e->calls = true;
     advance();
@@ -256,17 +256,17 @@ Expr* Parser::call(Expr* callee, std::vector<Expr*> arguments, Position at) {
     if (Expr* inner = grouped(callee); inner->kind == Expr::Kind::Name) {
         callee = inner;
     }
-    Expr* e = m_ast->expr(Expr::Kind::Call, at);
+    Expr* e = ast_->expr(Expr::Kind::Call, at);
     e->a = callee;
     e->args = std::move(arguments);
     e->calls = true;
     const Symbol name = callee->kind == Expr::Kind::Name ? callee->symbol : noSymbol;
     if (name != noSymbol) {
-        m_procedure->called.push_back(name);
+        procedure_->called.push_back(name);
     }
     for (std::size_t i = 0; i < e->args.size(); ++i) {
         if (e->args[i]->kind == Expr::Kind::Name) {
-            m_procedure->passed.push_back({e->args[i]->symbol, name, i, e->args[i]->at});
+            procedure_->passed.push_back({e->args[i]->symbol, name, i, e->args[i]->at});
         }
     }
     setHeight(*e);
@@ -274,7 +274,7 @@ Expr* Parser::call(Expr* callee, std::vector<Expr*> arguments, Position at) {
 }
 
 Expr* Parser::unary(Expr::Kind kind, Position at, Expr* operand) {
-    Expr* e = m_ast->expr(kind, at);
+    Expr* e = ast_->expr(kind, at);
     e->a = operand;
     e->calls = operand->calls;
     setHeight(*e);
@@ -282,7 +282,7 @@ Expr* Parser::unary(Expr::Kind kind, Position at, Expr* operand) {
 }
 
 Expr* Parser::binary(BinaryOp op, Position at, Expr* left, Expr* right) {
-    Expr* e = m_ast->expr(Expr::Kind::Binary, at);
+    Expr* e = ast_->expr(Expr::Kind::Binary, at);
     e->op = op;
     e->a = left;
     e->b = right;

@@ -5,10 +5,10 @@ namespace vbs {
 
 // A word that closes or divides the block around; what may stand there is for the owner of the block to say.
 bool Parser::startsBlockEnd() const noexcept {
-    if (m_token.kind != Kind::Keyword) {
+    if (token_.kind != Kind::Keyword) {
         return false;
     }
-    switch (m_token.word) {
+    switch (token_.word) {
     case Word::End:
     case Word::Else:
     case Word::ElseIf:
@@ -25,14 +25,14 @@ bool Parser::startsBlockEnd() const noexcept {
 // block: { statement separator }, up to a closing word or the end of the text
 void Parser::parseBlock(Block& block) {
     const Nesting nesting(*this);
-    for (skipSeparators(); m_token.kind != Kind::End && !startsBlockEnd(); skipSeparators()) {
+    for (skipSeparators(); token_.kind != Kind::End && !startsBlockEnd(); skipSeparators()) {
         parseItem(block);
     }
 }
 
 // A statement or, outside procedures, a declaration. `End Sub x = 1` needs no separator.
 void Parser::parseItem(Block& block) {
-    if (m_procedure == &m_ast->main && parseDeclaration(block)) {
+    if (procedure_ == &ast_->main && parseDeclaration(block)) {
         return;
     }
     block.push_back(parseStatement());
@@ -41,8 +41,8 @@ void Parser::parseItem(Block& block) {
 
 Stmt* Parser::parseStatement() {
     const Nesting nesting(*this);
-    const bool softWord = m_token.kind == Kind::Keyword && m_token.word >= Word::Default && !is(Word::Erase);
-    if (m_token.kind == Kind::Keyword && !softWord && !is(Word::Me)) {
+    const bool softWord = token_.kind == Kind::Keyword && token_.word >= Word::Default && !is(Word::Erase);
+    if (token_.kind == Kind::Keyword && !softWord && !is(Word::Me)) {
         return parseKeywordStatement();
     }
     if (isName() || is(Word::Me) || is(Sign::Dot)) {
@@ -53,7 +53,7 @@ Stmt* Parser::parseStatement() {
 
 Stmt* Parser::parseKeywordStatement() {
     const Position at = here();
-    switch (m_token.word) {
+    switch (token_.word) {
     case Word::Set:
         return parseSet();
     case Word::Let:
@@ -89,9 +89,9 @@ Stmt* Parser::parseKeywordStatement() {
         return parseConst();
     case Word::Stop:
         advance();
-        return m_ast->stmt(Stmt::Kind::Dim, at);
+        return ast_->stmt(Stmt::Kind::Dim, at);
     default:
-        fail(m_token.word == Word::Sub || m_token.word == Word::Function || m_token.word == Word::Class
+        fail(token_.word == Word::Sub || token_.word == Word::Function || token_.word == Word::Class
                  ? ErrorNumber::SyntaxError
                  : ErrorNumber::ExpectedStatement);
     }
@@ -99,17 +99,17 @@ Stmt* Parser::parseKeywordStatement() {
 
 // Exit Do|For|Sub|Function|Property
 Stmt* Parser::parseExit() {
-    Stmt* statement = m_ast->stmt(Stmt::Kind::Exit, here());
+    Stmt* statement = ast_->stmt(Stmt::Kind::Exit, here());
     advance();
     using PK = ProcedureDecl::Kind;
-    const PK kind = m_procedure->kind;
+    const PK kind = procedure_->kind;
     bool allowed = false;
     if (is(Word::Do)) {
         statement->exit = ExitKind::Do;
-        allowed = m_doLoops > 0;
+        allowed = doLoops_ > 0;
     } else if (is(Word::For)) {
         statement->exit = ExitKind::For;
-        allowed = m_forLoops > 0;
+        allowed = forLoops_ > 0;
     } else if (is(Word::Sub)) {
         statement->exit = ExitKind::Sub;
         allowed = kind == PK::Sub;
@@ -129,7 +129,7 @@ Stmt* Parser::parseExit() {
 
 // ReDim [Preserve] name ( expr {, expr} ) {, ...}
 Stmt* Parser::parseReDim() {
-    Stmt* statement = m_ast->stmt(Stmt::Kind::ReDim, here());
+    Stmt* statement = ast_->stmt(Stmt::Kind::ReDim, here());
     advance();
     statement->preserve = accept(Word::Preserve);
     do {
@@ -145,7 +145,7 @@ Stmt* Parser::parseReDim() {
         }
         noteAssigned(target->a);
         if (target->a->kind == Expr::Kind::Name) {
-            m_procedure->redimmed.push_back(target->a->symbol);
+            procedure_->redimmed.push_back(target->a->symbol);
         }
         statement->targets.push_back(target);
     } while (accept(Sign::Comma));
@@ -154,12 +154,12 @@ Stmt* Parser::parseReDim() {
 
 // Erase name {, name}
 Stmt* Parser::parseErase() {
-    Stmt* statement = m_ast->stmt(Stmt::Kind::Erase, here());
+    Stmt* statement = ast_->stmt(Stmt::Kind::Erase, here());
     advance();
     do {
         statement->targets.push_back(parsePrimary());
         if (statement->targets.back()->kind == Expr::Kind::Name) {
-            m_procedure->changed.push_back(statement->targets.back()->symbol);
+            procedure_->changed.push_back(statement->targets.back()->symbol);
         }
     } while (accept(Sign::Comma));
     return statement;
@@ -172,15 +172,15 @@ Stmt* Parser::parseOnError() {
     expect(Word::Error, ErrorNumber::SyntaxError);
     if (accept(Word::Resume)) {
         expect(Word::Next, ErrorNumber::ExpectedNext);
-        m_procedure->resumesNext = true;
-        return m_ast->stmt(Stmt::Kind::OnErrorResumeNext, at);
+        procedure_->resumesNext = true;
+        return ast_->stmt(Stmt::Kind::OnErrorResumeNext, at);
     }
     expect(Word::GoTo, ErrorNumber::SyntaxError);
-    if (m_token.kind != Kind::Number || m_token.value.type != Type::Integer || m_token.value.n != 0) {
+    if (token_.kind != Kind::Number || token_.value.type != Type::Integer || token_.value.n != 0) {
         fail(ErrorNumber::SyntaxError);
     }
     advance();
-    return m_ast->stmt(Stmt::Kind::OnErrorGoTo0, at);
+    return ast_->stmt(Stmt::Kind::OnErrorGoTo0, at);
 }
 
 } // namespace vbs

@@ -43,12 +43,12 @@ ArrayBlock* ArrayBlock::create(std::span<const std::int32_t> sizes, bool fixed) 
         raise(ErrorNumber::OutOfMemory);
     }
     auto* array = new (memory) ArrayBlock;
-    array->m_sizes = reinterpret_cast<std::int32_t*>(array + 1);
-    std::copy(sizes.begin(), sizes.end(), array->m_sizes);
-    array->m_dimensions = static_cast<std::uint8_t>(sizes.size());
-    array->m_count = array->m_capacity = count;
-    array->m_elements = elements;
-    array->m_fixed = fixed;
+    array->sizes_ = reinterpret_cast<std::int32_t*>(array + 1);
+    std::copy(sizes.begin(), sizes.end(), array->sizes_);
+    array->dimensions_ = static_cast<std::uint8_t>(sizes.size());
+    array->count_ = array->capacity_ = count;
+    array->elements_ = elements;
+    array->fixed_ = fixed;
     for (std::size_t i = 0; i < count; ++i) {
         new (elements + i) Value;
     }
@@ -64,59 +64,59 @@ ArrayBlock* ArrayBlock::create(std::size_t elements) {
 }
 
 ArrayBlock* ArrayBlock::clone(bool fixed) const {
-    ArrayBlock* copy = create(std::span<const std::int32_t>(m_sizes, m_dimensions), fixed);
-    std::copy_n(m_elements, m_count, copy->m_elements);
+    ArrayBlock* copy = create(std::span<const std::int32_t>(sizes_, dimensions_), fixed);
+    std::copy_n(elements_, count_, copy->elements_);
     return copy;
 }
 
 void ArrayBlock::free(ArrayBlock* array) noexcept {
-    for (std::size_t i = 0; i < array->m_count; ++i) {
-        array->m_elements[i].~Value();
+    for (std::size_t i = 0; i < array->count_; ++i) {
+        array->elements_[i].~Value();
     }
-    releaseMemory(sizeof(ArrayBlock) + array->m_dimensions * sizeof(std::int32_t) + array->m_capacity * sizeof(Value));
-    std::free(array->m_elements);
+    releaseMemory(sizeof(ArrayBlock) + array->dimensions_ * sizeof(std::int32_t) + array->capacity_ * sizeof(Value));
+    std::free(array->elements_);
     std::free(array);
 }
 
 std::size_t ArrayBlock::offset(std::span<const std::int32_t> indexes) const {
-    if (indexes.size() != m_dimensions || indexes.empty()) {
+    if (indexes.size() != dimensions_ || indexes.empty()) {
         raise(ErrorNumber::OutOfRange);
     }
     std::size_t place = 0;
     for (std::size_t k = indexes.size(); k-- > 0;) {
-        if (indexes[k] < 0 || indexes[k] >= m_sizes[k]) {
+        if (indexes[k] < 0 || indexes[k] >= sizes_[k]) {
             raise(ErrorNumber::OutOfRange);
         }
-        place = place * static_cast<std::size_t>(m_sizes[k]) + static_cast<std::size_t>(indexes[k]);
+        place = place * static_cast<std::size_t>(sizes_[k]) + static_cast<std::size_t>(indexes[k]);
     }
     return place;
 }
 
 void ArrayBlock::resizeLast(std::int32_t size) {
-    m_sizes[m_dimensions - 1] = std::exchange(size, m_sizes[m_dimensions - 1]);
+    sizes_[dimensions_ - 1] = std::exchange(size, sizes_[dimensions_ - 1]);
     std::size_t count = 0;
     try {
-        count = elementsOf({m_sizes, m_dimensions});
-        if (count > m_capacity) {
-            chargeMemory((count - m_capacity) * sizeof(Value));
-            void* grown = std::realloc(static_cast<void*>(m_elements), count * sizeof(Value));
+        count = elementsOf({sizes_, dimensions_});
+        if (count > capacity_) {
+            chargeMemory((count - capacity_) * sizeof(Value));
+            void* grown = std::realloc(static_cast<void*>(elements_), count * sizeof(Value));
             if (grown == nullptr) {
-                releaseMemory((count - m_capacity) * sizeof(Value));
+                releaseMemory((count - capacity_) * sizeof(Value));
                 raise(ErrorNumber::OutOfMemory);
             }
-            m_elements = static_cast<Value*>(grown);
-            m_capacity = count;
+            elements_ = static_cast<Value*>(grown);
+            capacity_ = count;
         }
     } catch (const ScriptError&) {
-        m_sizes[m_dimensions - 1] = size;
+        sizes_[dimensions_ - 1] = size;
         throw;
     }
-    for (std::size_t i = m_count; i < count; ++i) {
-        new (m_elements + i) Value;
+    for (std::size_t i = count_; i < count; ++i) {
+        new (elements_ + i) Value;
     }
-    const std::size_t old = std::exchange(m_count, count);
+    const std::size_t old = std::exchange(count_, count);
     for (std::size_t i = count; i < old; ++i) {
-        m_elements[i].~Value();
+        elements_[i].~Value();
     }
 }
 

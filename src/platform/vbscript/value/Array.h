@@ -21,12 +21,12 @@ public:
     ArrayBlock* clone(bool fixed = false) const;     // a copy with one reference
     static void free(ArrayBlock* array) noexcept;    // of an array without references; its elements are dropped
 
-    int dimensions() const noexcept { return m_dimensions; }
-    std::int32_t size(int dimension) const noexcept { return m_sizes[dimension]; } // dimension from 0
-    std::size_t count() const noexcept { return m_count; }                         // elements in all
-    bool fixed() const noexcept { return m_fixed; }
-    Value* elements() noexcept { return m_elements; }
-    const Value* elements() const noexcept { return m_elements; }
+    int dimensions() const noexcept { return dimensions_; }
+    std::int32_t size(int dimension) const noexcept { return sizes_[dimension]; } // dimension from 0
+    std::size_t count() const noexcept { return count_; }                         // elements in all
+    bool fixed() const noexcept { return fixed_; }
+    Value* elements() noexcept { return elements_; }
+    const Value* elements() const noexcept { return elements_; }
 
     // Place of an element; raises error 9 if an index is outside or their number is wrong.
     std::size_t offset(std::span<const std::int32_t> indexes) const;
@@ -43,12 +43,12 @@ public:
 private:
     ArrayBlock() noexcept = default;
 
-    std::size_t m_count = 0;
-    Value* m_elements = nullptr;
-    std::size_t m_capacity = 0;
-    std::int32_t* m_sizes = nullptr;
-    std::uint8_t m_dimensions = 0;
-    bool m_fixed = false;
+    std::size_t count_ = 0;
+    Value* elements_ = nullptr;
+    std::size_t capacity_ = 0;
+    std::int32_t* sizes_ = nullptr;
+    std::uint8_t dimensions_ = 0;
+    bool fixed_ = false;
 };
 
 inline ArrayBlock* Value::array() const noexcept {

@@ -10,19 +10,19 @@ namespace vbs {
 
 class ArrayEnumerator : public Enumerator {
 public:
-    explicit ArrayEnumerator(Value array) noexcept : m_array(std::move(array)) {}
+    explicit ArrayEnumerator(Value array) noexcept : array_(std::move(array)) {}
 
     bool next(Context& /*context*/, Value& element) override {
-        if (m_next >= m_array.array()->count()) {
+        if (next_ >= array_.array()->count()) {
             return false;
         }
-        element = m_array.array()->elements()[m_next++];
+        element = array_.array()->elements()[next_++];
         return true;
     }
 
 private:
-    Value m_array;
-    std::size_t m_next = 0;
+    Value array_;
+    std::size_t next_ = 0;
 };
 
 } // namespace vbs

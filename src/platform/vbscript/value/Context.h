@@ -14,9 +14,9 @@ namespace vbs {
 
 class Context {
 public:
-    explicit Context(Host& theHost) noexcept : host(theHost), m_locale(theHost.locale(0)) {
-        if (m_locale == nullptr) {
-            m_locale = builtinLocale(0);
+    explicit Context(Host& theHost) noexcept : host(theHost), locale_(theHost.locale(0)) {
+        if (locale_ == nullptr) {
+            locale_ = builtinLocale(0);
         }
     }
     virtual ~Context() = default;
@@ -25,22 +25,22 @@ public:
 
     Host& host;
 
-    const Locale& locale() const noexcept { return *m_locale; }
+    const Locale& locale() const noexcept { return *locale_; }
     // Raises 447 for a number that the host does not know.
     void setLocale(int id) {
         const Locale* found = host.locale(id);
         if (found == nullptr) {
             raise(ErrorNumber::LocaleNotSupported);
         }
-        m_locale = found;
+        locale_ = found;
     }
 
     // The text of one character. Those below 256 are made once and shared, so cutting texts up allocates nothing.
     Value character(char16_t unit) {
-        if (unit >= m_characters.size()) {
+        if (unit >= characters_.size()) {
             return Value::ofString(std::u16string_view(&unit, 1));
         }
-        Value& made = m_characters[unit];
+        Value& made = characters_[unit];
         if (made.isEmpty()) {
             made = Value::ofString(std::u16string_view(&unit, 1));
         }
@@ -74,20 +74,20 @@ public:
     [[noreturn]] virtual void interrupt() { raise(ErrorNumber::Stopped); }
 
 private:
-    const Locale* m_locale;
-    std::array<Value, 256> m_characters;
+    const Locale* locale_;
+    std::array<Value, 256> characters_;
 };
 
 // While it lives the script waits for the user, which does not count against its time-out; for whatever opens a box.
 class PausedClock {
 public:
-    explicit PausedClock(Context& context) : m_context(context) { context.pauseClock(); }
-    ~PausedClock() { m_context.resumeClock(); }
+    explicit PausedClock(Context& context) : context_(context) { context.pauseClock(); }
+    ~PausedClock() { context_.resumeClock(); }
     PausedClock(const PausedClock&) = delete;
     PausedClock& operator=(const PausedClock&) = delete;
 
 private:
-    Context& m_context;
+    Context& context_;
 };
 
 } // namespace vbs

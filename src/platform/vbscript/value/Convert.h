@@ -68,24 +68,24 @@ class TextArgument {
 public:
     TextArgument(Context& context, const Value& v) {
         if (v.isString()) {
-            m_view = v.text();
+            view_ = v.text();
         } else if (v.isWhole()) {
-            m_view = wholeText(v.n, m_digits);
+            view_ = wholeText(v.n, digits_);
         } else {
-            m_converted = toString(context, v);
-            m_view = m_converted.view();
+            converted_ = toString(context, v);
+            view_ = converted_.view();
         }
     }
     TextArgument(const TextArgument&) = delete;
     TextArgument& operator=(const TextArgument&) = delete;
 
-    std::u16string_view view() const noexcept { return m_view; }
-    std::size_t size() const noexcept { return m_view.size(); }
+    std::u16string_view view() const noexcept { return view_; }
+    std::size_t size() const noexcept { return view_.size(); }
 
 private:
-    String m_converted;
-    WholeDigits m_digits;
-    std::u16string_view m_view;
+    String converted_;
+    WholeDigits digits_;
+    std::u16string_view view_;
 };
 
 } // namespace vbs

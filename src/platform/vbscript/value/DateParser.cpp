@@ -79,40 +79,40 @@ bool cut(std::u16string_view text, const Locale& locale, std::vector<Piece>& pie
 class DateReader {
 public:
     DateReader(std::vector<Piece> pieces, const Locale& locale, int thisYear)
-        : m_pieces(std::move(pieces)), m_locale(locale), m_thisYear(thisYear) {}
+        : pieces_(std::move(pieces)), locale_(locale), thisYear_(thisYear) {}
 
     std::optional<double> read() {
-        while (m_at < m_pieces.size()) {
+        while (at_ < pieces_.size()) {
             if (!(startsTime() ? readTime() : readDatePiece())) {
                 return std::nullopt;
             }
         }
-        if (m_numbers.empty()) {
-            return m_hasTime && m_month == 0 ? std::optional(m_time) : std::nullopt;
+        if (numbers_.empty()) {
+            return hasTime_ && month_ == 0 ? std::optional(time_) : std::nullopt;
         }
-        const auto days = m_month > 0 ? withMonthName() : numbersOnly();
-        return days ? std::optional(joinDate(*days, m_time)) : std::nullopt;
+        const auto days = month_ > 0 ? withMonthName() : numbersOnly();
+        return days ? std::optional(joinDate(*days, time_)) : std::nullopt;
     }
 
 private:
     bool signAt(std::size_t i, char16_t sign) const {
-        return i < m_pieces.size() && m_pieces[i].kind == Piece::Sign && m_pieces[i].number == sign;
+        return i < pieces_.size() && pieces_[i].kind == Piece::Sign && pieces_[i].number == sign;
     }
-    bool numberStands(std::size_t i) const { return i < m_pieces.size() && m_pieces[i].kind == Piece::Number; }
+    bool numberStands(std::size_t i) const { return i < pieces_.size() && pieces_[i].kind == Piece::Number; }
 
     // 'A' or 'P' for the half-day words, else 0.
     char16_t halfDay(std::size_t i) const {
-        if (i >= m_pieces.size() || m_pieces[i].kind != Piece::Word) {
+        if (i >= pieces_.size() || pieces_[i].kind != Piece::Word) {
             return 0;
         }
-        if (!m_locale.am.empty() && equalNoCase(m_pieces[i].text, m_locale.am)) {
+        if (!locale_.am.empty() && equalNoCase(pieces_[i].text, locale_.am)) {
             return u'A';
         }
-        if (!m_locale.pm.empty() && equalNoCase(m_pieces[i].text, m_locale.pm)) {
+        if (!locale_.pm.empty() && equalNoCase(pieces_[i].text, locale_.pm)) {
             return u'P';
         }
         std::u16string word;
-        for (const char16_t c : m_pieces[i].text) {
+        for (const char16_t c : pieces_[i].text) {
             if (c != u'.') {
                 word.push_back(toUpper(c));
             }
@@ -121,7 +121,7 @@ private:
     }
 
     bool startsTime() const {
-        return numberStands(m_at) && !m_hasTime && (signAt(m_at + 1, u':') || halfDay(m_at + 1) != 0);
+        return numberStands(at_) && !hasTime_ && (signAt(at_ + 1, u':') || halfDay(at_ + 1) != 0);
     }
 
     // hour[:minute[:second]] [AM|PM]
@@ -129,37 +129,37 @@ private:
         std::array<int, 3> part{};
         std::size_t count = 0;
         do {
-            if (!numberStands(m_at) || count == part.size()) {
+            if (!numberStands(at_) || count == part.size()) {
                 return false;
             }
-            part[count++] = m_pieces[m_at++].number;
-        } while (signAt(m_at, u':') && ++m_at > 0);
-        if (const char16_t half = halfDay(m_at); half != 0) {
-            ++m_at;
+            part[count++] = pieces_[at_++].number;
+        } while (signAt(at_, u':') && ++at_ > 0);
+        if (const char16_t half = halfDay(at_); half != 0) {
+            ++at_;
             if (part[0] > 12 && half == u'A') {
                 return false;
             }
             part[0] = part[0] % 12 + (half == u'P' || part[0] > 12 ? 12 : 0);
         }
-        m_hasTime = true;
-        m_time = timeSerial(part[0], part[1], part[2]);
+        hasTime_ = true;
+        time_ = timeSerial(part[0], part[1], part[2]);
         return part[0] < 24 && part[1] < 60 && part[2] < 60;
     }
 
     bool readDatePiece() {
-        const Piece& piece = m_pieces[m_at++];
+        const Piece& piece = pieces_[at_++];
         switch (piece.kind) {
         case Piece::Number:
-            m_numbers.push_back(piece);
-            m_numbers.back().before = std::exchange(m_lastSign, u'\0');
-            return m_numbers.size() <= 3;
+            numbers_.push_back(piece);
+            numbers_.back().before = std::exchange(lastSign_, u'\0');
+            return numbers_.size() <= 3;
         case Piece::Sign:
-            m_lastSign = static_cast<char16_t>(piece.number);
-            return (m_anyWord || !m_numbers.empty()) && piece.number != u':' && m_at < m_pieces.size() &&
-                   m_pieces[m_at].kind != Piece::Sign;
+            lastSign_ = static_cast<char16_t>(piece.number);
+            return (anyWord_ || !numbers_.empty()) && piece.number != u':' && at_ < pieces_.size() &&
+                   pieces_[at_].kind != Piece::Sign;
         default:
-            m_lastSign = 0;
-            m_anyWord = true;
+            lastSign_ = 0;
+            anyWord_ = true;
             return readWord(piece.text);
         }
     }
@@ -168,11 +168,11 @@ private:
         if (word.ends_with(u'.')) {
             word.remove_suffix(1);
         }
-        for (const Locale* names : {&m_locale, builtinLocale(1033)}) {
+        for (const Locale* names : {&locale_, builtinLocale(1033)}) {
             for (std::size_t i = 0; i < names->months.size(); ++i) {
                 if (equalNoCase(word, names->months[i]) || equalNoCase(word, names->shortMonths[i])) {
-                    const bool first = m_month == 0;
-                    m_month = static_cast<int>(i) + 1;
+                    const bool first = month_ == 0;
+                    month_ = static_cast<int>(i) + 1;
                     return first;
                 }
             }
@@ -201,33 +201,33 @@ private:
     }
 
     std::optional<double> withMonthName() const {
-        if (m_numbers.size() > 2) {
+        if (numbers_.size() > 2) {
             return std::nullopt;
         }
-        const Piece& a = m_numbers[0];
-        if (m_numbers.size() == 1) {
-            return looksLikeYear(a) ? checked(yearOf(a), m_month, 1) : checked(m_thisYear, m_month, a.number);
+        const Piece& a = numbers_[0];
+        if (numbers_.size() == 1) {
+            return looksLikeYear(a) ? checked(yearOf(a), month_, 1) : checked(thisYear_, month_, a.number);
         }
-        const Piece& b = m_numbers[1];
-        return looksLikeYear(a) ? checked(yearOf(a), m_month, b.number) : checked(yearOf(b), m_month, a.number);
+        const Piece& b = numbers_[1];
+        return looksLikeYear(a) ? checked(yearOf(a), month_, b.number) : checked(yearOf(b), month_, a.number);
     }
 
     std::optional<double> numbersOnly() const {
-        if (m_anyWord && m_numbers.size() < 3) {
+        if (anyWord_ && numbers_.size() < 3) {
             return std::nullopt;
         }
-        for (std::size_t i = 1; i < m_numbers.size(); ++i) {
-            if (m_numbers[i].before == u',') {
+        for (std::size_t i = 1; i < numbers_.size(); ++i) {
+            if (numbers_[i].before == u',') {
                 return std::nullopt; // 1,5 is a number
             }
         }
-        return m_numbers.size() == 3 ? threeNumbers() : m_numbers.size() == 2 ? twoNumbers() : std::nullopt;
+        return numbers_.size() == 3 ? threeNumbers() : numbers_.size() == 2 ? twoNumbers() : std::nullopt;
     }
 
     std::optional<double> threeNumbers() const {
-        const Piece& a = m_numbers[0];
-        const Piece& b = m_numbers[1];
-        const Piece& c = m_numbers[2];
+        const Piece& a = numbers_[0];
+        const Piece& b = numbers_[1];
+        const Piece& c = numbers_[2];
         if (a.digits > 2) {
             const auto date = checked(a, b, c);
             return date ? date : checked(a, c, b);
@@ -235,7 +235,7 @@ private:
         const auto yearFirst = c.digits > 2 ? std::nullopt : checked(a, b, c);
         const auto dayFirst = checked(c, b, a);
         const auto monthFirst = checked(c, a, b);
-        switch (m_locale.dateOrder) {
+        switch (locale_.dateOrder) {
         case DateOrder::YearMonthDay:
             return yearFirst ? yearFirst : monthFirst ? monthFirst : dayFirst;
         case DateOrder::DayMonthYear:
@@ -247,31 +247,31 @@ private:
 
     // Day and month of this year, or else month and year.
     std::optional<double> twoNumbers() const {
-        const Piece& a = m_numbers[0];
-        const Piece& b = m_numbers[1];
-        const bool point = b.before == u'.' && m_locale.shortDate.find(u'.') != std::u16string::npos;
+        const Piece& a = numbers_[0];
+        const Piece& b = numbers_[1];
+        const bool point = b.before == u'.' && locale_.shortDate.find(u'.') != std::u16string::npos;
         if (b.before != u'/' && b.before != u'-' && !point) {
             return std::nullopt;
         }
-        const auto dayFirst = looksLikeYear(b) ? std::nullopt : checked(m_thisYear, b.number, a.number);
-        const auto monthFirst = looksLikeYear(b) ? std::nullopt : checked(m_thisYear, a.number, b.number);
-        const bool prefersDay = m_locale.dateOrder == DateOrder::DayMonthYear;
+        const auto dayFirst = looksLikeYear(b) ? std::nullopt : checked(thisYear_, b.number, a.number);
+        const auto monthFirst = looksLikeYear(b) ? std::nullopt : checked(thisYear_, a.number, b.number);
+        const bool prefersDay = locale_.dateOrder == DateOrder::DayMonthYear;
         if (dayFirst || monthFirst) {
             return prefersDay ? (dayFirst ? dayFirst : monthFirst) : (monthFirst ? monthFirst : dayFirst);
         }
         return looksLikeYear(a) ? checked(yearOf(a), b.number, 1) : checked(yearOf(b), a.number, 1);
     }
 
-    std::vector<Piece> m_pieces;
-    const Locale& m_locale;
-    int m_thisYear;
-    std::size_t m_at = 0;
-    std::vector<Piece> m_numbers;
-    char16_t m_lastSign = 0;
-    int m_month = 0;
-    bool m_anyWord = false;
-    bool m_hasTime = false;
-    double m_time = 0.0;
+    std::vector<Piece> pieces_;
+    const Locale& locale_;
+    int thisYear_;
+    std::size_t at_ = 0;
+    std::vector<Piece> numbers_;
+    char16_t lastSign_ = 0;
+    int month_ = 0;
+    bool anyWord_ = false;
+    bool hasTime_ = false;
+    double time_ = 0.0;
 };
 
 } // namespace

@@ -74,17 +74,17 @@ Type kindOf(const Value& v) noexcept {
 } // namespace
 
 KeyedTable::~KeyedTable() {
-    releaseMemory(m_charged);
+    releaseMemory(charged_);
 }
 
 void KeyedTable::setIgnoresCase(bool ignoresCase) noexcept {
-    m_ignoresCase = ignoresCase;
-    m_recent = {};
+    ignoresCase_ = ignoresCase;
+    recent_ = {};
 }
 
 std::uint32_t KeyedTable::hashOf(const Value& key) const {
     if (key.isString()) {
-        return folded(m_ignoresCase ? hashIgnoringCase(key.text()) : hashOfText(key.text()));
+        return folded(ignoresCase_ ? hashIgnoringCase(key.text()) : hashOfText(key.text()));
     }
     if (isNumber(key)) {
         return folded(hashOfNumber(key));
@@ -103,7 +103,7 @@ std::uint32_t KeyedTable::hashOf(const Value& key) const {
 bool KeyedTable::same(const Value& a, const Value& b) const noexcept {
     if (a.isString() && b.isString()) {
         return a.counted == b.counted ||
-               (m_ignoresCase ? equalNoCase(a.text(), b.text()) : sameUnits(a.text(), b.text()));
+               (ignoresCase_ ? equalNoCase(a.text(), b.text()) : sameUnits(a.text(), b.text()));
     }
     if (a.isWhole() && b.isWhole()) {
         return a.n == b.n;
@@ -115,13 +115,13 @@ bool KeyedTable::same(const Value& a, const Value& b) const noexcept {
 }
 
 KeyedTable::Entry* KeyedTable::probe(const Value& key, std::uint32_t hash) noexcept {
-    if (m_slots.empty()) {
+    if (slots_.empty()) {
         return nullptr;
     }
-    const std::size_t mask = m_slots.size() - 1;
-    for (std::size_t i = hash & mask; m_slots[i].entry != 0; i = (i + 1) & mask) {
-        if (m_slots[i].hash == hash) {
-            Entry& entry = m_entries[m_slots[i].entry - 1];
+    const std::size_t mask = slots_.size() - 1;
+    for (std::size_t i = hash & mask; slots_[i].entry != 0; i = (i + 1) & mask) {
+        if (slots_[i].hash == hash) {
+            Entry& entry = entries_[slots_[i].entry - 1];
             if (entry.alive && entry.hash == hash && same(entry.key, key)) {
                 return &entry;
             }
@@ -135,16 +135,16 @@ KeyedTable::Entry* KeyedTable::locate(const Value& key, std::uint32_t& hash) {
         hash = hashOf(key);
         return probe(key, hash);
     }
-    if (m_recent.key.counted == key.counted && m_recent.key.isString()) {
-        hash = m_recent.hash;
-        if (m_recent.entry != 0) {
-            return &m_entries[m_recent.entry - 1];
+    if (recent_.key.counted == key.counted && recent_.key.isString()) {
+        hash = recent_.hash;
+        if (recent_.entry != 0) {
+            return &entries_[recent_.entry - 1];
         }
         return probe(key, hash);
     }
     hash = hashOf(key);
     Entry* entry = probe(key, hash);
-    m_recent = {key, hash, entry != nullptr ? static_cast<std::uint32_t>(entry - m_entries.data()) + 1 : 0};
+    recent_ = {key, hash, entry != nullptr ? static_cast<std::uint32_t>(entry - entries_.data()) + 1 : 0};
     return entry;
 }
 
@@ -175,9 +175,9 @@ bool KeyedTable::remove(const Value& key) {
     if (entry == nullptr) {
         return false;
     }
-    m_recent.entry = 0;
+    recent_.entry = 0;
     entry->alive = false;
-    --m_count;
+    --count_;
     entry->item.clear();
     entry->key.clear();
     return true;
@@ -187,62 +187,62 @@ void KeyedTable::rename(const Value& key, const Value& newKey) {
     const std::uint32_t hash = hashOf(newKey);
     makeRoom(); // the slot of the old key stays behind until the table is built anew
     Entry* entry = probe(key, hashOf(key));
-    m_recent.entry = 0;
+    recent_.entry = 0;
     const Value oldKey = std::exchange(entry->key, newKey);
     entry->hash = hash;
-    place(static_cast<std::uint32_t>(entry - m_entries.data()) + 1, hash);
+    place(static_cast<std::uint32_t>(entry - entries_.data()) + 1, hash);
 }
 
 void KeyedTable::clear() noexcept {
-    const std::vector<Entry> old = std::exchange(m_entries, {});
-    m_slots = {};
-    m_recent = {};
-    m_usedSlots = 0;
-    m_count = 0;
-    releaseMemory(std::exchange(m_charged, 0));
+    const std::vector<Entry> old = std::exchange(entries_, {});
+    slots_ = {};
+    recent_ = {};
+    usedSlots_ = 0;
+    count_ = 0;
+    releaseMemory(std::exchange(charged_, 0));
 }
 
 Value& KeyedTable::append(const Value& key, std::uint32_t hash) {
     makeRoom();
-    m_entries.push_back({key, {}, hash, true});
-    place(static_cast<std::uint32_t>(m_entries.size()), hash);
-    ++m_count;
-    return m_entries.back().item;
+    entries_.push_back({key, {}, hash, true});
+    place(static_cast<std::uint32_t>(entries_.size()), hash);
+    ++count_;
+    return entries_.back().item;
 }
 
 void KeyedTable::place(std::uint32_t number, std::uint32_t hash) noexcept {
-    const std::size_t mask = m_slots.size() - 1;
+    const std::size_t mask = slots_.size() - 1;
     std::size_t i = hash & mask;
-    while (m_slots[i].entry != 0) {
+    while (slots_[i].entry != 0) {
         i = (i + 1) & mask;
     }
-    m_slots[i] = {number, hash};
-    ++m_usedSlots;
+    slots_[i] = {number, hash};
+    ++usedSlots_;
 }
 
 void KeyedTable::makeRoom() {
-    if (m_usedSlots * 2 >= m_slots.size()) {
+    if (usedSlots_ * 2 >= slots_.size()) {
         rebuild();
     }
 }
 
 // Drops removed entries and makes room for twice those that are left.
 void KeyedTable::rebuild() {
-    const std::size_t capacity = std::bit_ceil(std::max<std::size_t>(m_count * 2, 8));
+    const std::size_t capacity = std::bit_ceil(std::max<std::size_t>(count_ * 2, 8));
     const std::size_t bytes = capacity * sizeof(Entry) + 2 * capacity * sizeof(Slot);
     chargeMemory(bytes);
     std::vector<Entry> entries;
     entries.reserve(capacity);
     std::vector<Slot> slots(2 * capacity);
-    std::copy_if(std::make_move_iterator(m_entries.begin()), std::make_move_iterator(m_entries.end()),
+    std::copy_if(std::make_move_iterator(entries_.begin()), std::make_move_iterator(entries_.end()),
                  std::back_inserter(entries), [](const Entry& entry) { return entry.alive; });
-    m_entries = std::move(entries);
-    m_slots = std::move(slots);
-    m_recent.entry = 0;
-    m_usedSlots = 0;
-    releaseMemory(std::exchange(m_charged, bytes));
-    for (std::size_t i = 0; i < m_entries.size(); ++i) {
-        place(static_cast<std::uint32_t>(i) + 1, m_entries[i].hash);
+    entries_ = std::move(entries);
+    slots_ = std::move(slots);
+    recent_.entry = 0;
+    usedSlots_ = 0;
+    releaseMemory(std::exchange(charged_, bytes));
+    for (std::size_t i = 0; i < entries_.size(); ++i) {
+        place(static_cast<std::uint32_t>(i) + 1, entries_[i].hash);
     }
 }
 

@@ -26,11 +26,11 @@ public:
     KeyedTable(const KeyedTable&) = delete;
     KeyedTable& operator=(const KeyedTable&) = delete;
 
-    std::size_t count() const noexcept { return m_count; }
+    std::size_t count() const noexcept { return count_; }
     // In order of insertion; skip those that are not alive.
-    const std::vector<Entry>& entries() const noexcept { return m_entries; }
+    const std::vector<Entry>& entries() const noexcept { return entries_; }
 
-    bool ignoresCase() const noexcept { return m_ignoresCase; }
+    bool ignoresCase() const noexcept { return ignoresCase_; }
     void setIgnoresCase(bool ignoresCase) noexcept; // only while empty
 
     // The item under a key, or null. The pointer holds until the table changes.
@@ -68,13 +68,13 @@ private:
     void makeRoom(); // for one more slot
     void rebuild();
 
-    std::vector<Entry> m_entries;
-    std::vector<Slot> m_slots;   // a power of two, at most half in use
-    std::size_t m_usedSlots = 0; // those of removed entries and former keys included
-    std::size_t m_count = 0;
-    std::size_t m_charged = 0; // bytes
-    Recent m_recent;
-    bool m_ignoresCase = false;
+    std::vector<Entry> entries_;
+    std::vector<Slot> slots_;   // a power of two, at most half in use
+    std::size_t usedSlots_ = 0; // those of removed entries and former keys included
+    std::size_t count_ = 0;
+    std::size_t charged_ = 0; // bytes
+    Recent recent_;
+    bool ignoresCase_ = false;
 };
 
 } // namespace vbs

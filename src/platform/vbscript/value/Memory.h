@@ -24,27 +24,27 @@ void releaseMemory(std::size_t bytes) noexcept;
 // Sets the ceiling for as long as it lives; engines that run inside each other keep their own.
 class MemoryCeiling {
 public:
-    explicit MemoryCeiling(std::size_t bytes) noexcept : m_before(memoryMeter().ceiling) {
+    explicit MemoryCeiling(std::size_t bytes) noexcept : before_(memoryMeter().ceiling) {
         memoryMeter().ceiling = bytes;
     }
-    ~MemoryCeiling() { memoryMeter().ceiling = m_before; }
+    ~MemoryCeiling() { memoryMeter().ceiling = before_; }
     MemoryCeiling(const MemoryCeiling&) = delete;
     MemoryCeiling& operator=(const MemoryCeiling&) = delete;
 
 private:
-    std::size_t m_before;
+    std::size_t before_;
 };
 
 // Charges bytes for as long as it lives; a member of objects that scripts can make in any number.
 class MemoryCharge {
 public:
-    explicit MemoryCharge(std::size_t bytes) : m_bytes(bytes) { chargeMemory(bytes); }
-    ~MemoryCharge() { releaseMemory(m_bytes); }
+    explicit MemoryCharge(std::size_t bytes) : bytes_(bytes) { chargeMemory(bytes); }
+    ~MemoryCharge() { releaseMemory(bytes_); }
     MemoryCharge(const MemoryCharge&) = delete;
     MemoryCharge& operator=(const MemoryCharge&) = delete;
 
 private:
-    std::size_t m_bytes;
+    std::size_t bytes_;
 };
 
 } // namespace vbs

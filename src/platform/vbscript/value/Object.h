@@ -142,11 +142,11 @@ public:
         ShortRoad shortRoad = nullptr;
     };
 
-    NativeObject() noexcept : m_table(T::members()) { shape = m_table.data(); }
+    NativeObject() noexcept : table_(T::members()) { shape = table_.data(); }
 
     int resolve(std::u16string_view name) override {
-        for (std::size_t i = 0; i < m_table.size(); ++i) {
-            if (!m_table[i].name.empty() && equalNoCase(m_table[i].name, name)) {
+        for (std::size_t i = 0; i < table_.size(); ++i) {
+            if (!table_[i].name.empty() && equalNoCase(table_[i].name, name)) {
                 return static_cast<int>(i);
             }
         }
@@ -154,16 +154,15 @@ public:
     }
 
     ShortRoad shortRoad(int member) const noexcept override {
-        return m_table[static_cast<std::size_t>(member)].shortRoad;
+        return table_[static_cast<std::size_t>(member)].shortRoad;
     }
 
     Value invoke(Context& context, int member, Access access, Arguments arguments) override {
         const auto index = static_cast<std::size_t>(member);
-        if (index >= m_table.size() || m_table[index].function == nullptr ||
-            !m_table[index].accesses.contains(access)) {
+        if (index >= table_.size() || table_[index].function == nullptr || !table_[index].accesses.contains(access)) {
             raise(ErrorNumber::MemberNotFound);
         }
-        const Member& entry = m_table[index];
+        const Member& entry = table_[index];
         const std::size_t given = arguments.size() - (access == Access::Let || access == Access::Set ? 1 : 0);
         if (given < entry.least || given > entry.most) {
             raise(ErrorNumber::WrongArgumentCount);
@@ -172,7 +171,7 @@ public:
     }
 
 private:
-    const std::span<const Member> m_table;
+    const std::span<const Member> table_;
 };
 
 // A counted pointer for C++ code that keeps an object.
@@ -180,15 +179,15 @@ template <class T>
 class Ref {
 public:
     Ref() noexcept = default;
-    explicit Ref(T* object) noexcept : m_value(Value::ofObject(object)) {}
-    T* get() const noexcept { return static_cast<T*>(m_value.isObject() ? m_value.object() : nullptr); }
+    explicit Ref(T* object) noexcept : value_(Value::ofObject(object)) {}
+    T* get() const noexcept { return static_cast<T*>(value_.isObject() ? value_.object() : nullptr); }
     T* operator->() const noexcept { return get(); }
     T& operator*() const noexcept { return *get(); }
     explicit operator bool() const noexcept { return get() != nullptr; }
-    const Value& value() const noexcept { return m_value; }
+    const Value& value() const noexcept { return value_; }
 
 private:
-    Value m_value = Value::nothing();
+    Value value_ = Value::nothing();
 };
 
 template <class T, class... Parameters>

@@ -42,16 +42,16 @@ void StringBlock::destroy(StringBlock* block) noexcept {
 
 String::String(std::u16string_view text) {
     if (!text.empty()) {
-        m_block = StringBlock::allocate(text.size());
-        std::memcpy(m_block->text(), text.data(), text.size() * sizeof(char16_t));
-        m_block->length = static_cast<std::uint32_t>(text.size());
+        block_ = StringBlock::allocate(text.size());
+        std::memcpy(block_->text(), text.data(), text.size() * sizeof(char16_t));
+        block_->length = static_cast<std::uint32_t>(text.size());
     }
 }
 
 String::String(std::string_view ascii) {
     if (!ascii.empty()) {
         *this = uninitialized(ascii.size());
-        std::transform(ascii.begin(), ascii.end(), m_block->text(),
+        std::transform(ascii.begin(), ascii.end(), block_->text(),
                        [](char c) { return static_cast<char16_t>(static_cast<unsigned char>(c)); });
     }
 }
@@ -59,8 +59,8 @@ String::String(std::string_view ascii) {
 String String::uninitialized(std::size_t length) {
     String s;
     if (length > 0) {
-        s.m_block = StringBlock::allocate(length);
-        s.m_block->length = static_cast<std::uint32_t>(length);
+        s.block_ = StringBlock::allocate(length);
+        s.block_->length = static_cast<std::uint32_t>(length);
     }
     return s;
 }
@@ -69,10 +69,10 @@ String String::fromBytes(std::span<const std::uint8_t> bytes) {
     static_assert(std::endian::native == std::endian::little);
     String s;
     if (!bytes.empty()) {
-        s.m_block = StringBlock::allocate((bytes.size() + 1) / sizeof(char16_t));
-        std::memcpy(s.m_block->text(), bytes.data(), bytes.size());
-        s.m_block->length = static_cast<std::uint32_t>(bytes.size() / sizeof(char16_t));
-        s.m_block->oddByte = bytes.size() % sizeof(char16_t);
+        s.block_ = StringBlock::allocate((bytes.size() + 1) / sizeof(char16_t));
+        std::memcpy(s.block_->text(), bytes.data(), bytes.size());
+        s.block_->length = static_cast<std::uint32_t>(bytes.size() / sizeof(char16_t));
+        s.block_->oddByte = bytes.size() % sizeof(char16_t);
     }
     return s;
 }
@@ -80,25 +80,25 @@ String String::fromBytes(std::span<const std::uint8_t> bytes) {
 String String::repeated(std::size_t count, char16_t unit) {
     String s = uninitialized(count);
     if (count > 0) {
-        std::fill_n(s.m_block->text(), count, unit);
+        std::fill_n(s.block_->text(), count, unit);
     }
     return s;
 }
 
 void String::reserveUnique(std::size_t capacity) {
-    if (m_block != nullptr && m_block->references == 1 && m_block->capacity >= capacity) {
+    if (block_ != nullptr && block_->references == 1 && block_->capacity >= capacity) {
         return;
     }
     StringBlock* fresh = StringBlock::allocate(capacity);
     fresh->length = static_cast<std::uint32_t>(size());
     std::memcpy(fresh->text(), data(), size() * sizeof(char16_t));
     release();
-    m_block = fresh;
+    block_ = fresh;
 }
 
 char16_t* String::mutableData() {
     reserveUnique(size());
-    return m_block->text();
+    return block_->text();
 }
 
 void String::append(std::u16string_view tail) {
@@ -106,26 +106,26 @@ void String::append(std::u16string_view tail) {
         return;
     }
     const std::size_t total = size() + tail.size();
-    if (m_block == nullptr || m_block->references != 1 || m_block->capacity < total) {
-        const bool growing = m_block != nullptr && m_block->capacity >= 32;
+    if (block_ == nullptr || block_->references != 1 || block_->capacity < total) {
+        const bool growing = block_ != nullptr && block_->capacity >= 32;
         String grown =
             adopt(StringBlock::allocate(growing ? std::max(total, std::min(size() * 2, maxLength)) : total + 8));
-        std::memcpy(grown.m_block->text(), data(), size() * sizeof(char16_t));
-        std::memcpy(grown.m_block->text() + size(), tail.data(), tail.size() * sizeof(char16_t));
-        grown.m_block->length = static_cast<std::uint32_t>(total);
+        std::memcpy(grown.block_->text(), data(), size() * sizeof(char16_t));
+        std::memcpy(grown.block_->text() + size(), tail.data(), tail.size() * sizeof(char16_t));
+        grown.block_->length = static_cast<std::uint32_t>(total);
         swap(grown); // only now, because `tail` may point into the old text
     } else {
-        std::memmove(m_block->text() + size(), tail.data(), tail.size() * sizeof(char16_t));
+        std::memmove(block_->text() + size(), tail.data(), tail.size() * sizeof(char16_t));
     }
-    m_block->length = static_cast<std::uint32_t>(total);
-    m_block->oddByte = 0;
+    block_->length = static_cast<std::uint32_t>(total);
+    block_->oddByte = 0;
 }
 
 void String::truncate(std::size_t length) {
     if (length < size()) {
         reserveUnique(size());
-        m_block->length = static_cast<std::uint32_t>(length);
-        m_block->oddByte = 0;
+        block_->length = static_cast<std::uint32_t>(length);
+        block_->oddByte = 0;
     }
 }
 

@@ -74,8 +74,8 @@ public:
     String() noexcept = default; // the empty text allocates nothing
     explicit String(std::u16string_view text);
     explicit String(std::string_view ascii); // each byte is one code unit
-    String(const String& other) noexcept : m_block(other.m_block) { retain(); }
-    String(String&& other) noexcept : m_block(std::exchange(other.m_block, nullptr)) {}
+    String(const String& other) noexcept : block_(other.block_) { retain(); }
+    String(String&& other) noexcept : block_(std::exchange(other.block_, nullptr)) {}
     ~String() { release(); }
     String& operator=(const String& other) noexcept {
         String(other).swap(*this);
@@ -85,15 +85,15 @@ public:
         String(std::move(other)).swap(*this);
         return *this;
     }
-    void swap(String& other) noexcept { std::swap(m_block, other.m_block); }
+    void swap(String& other) noexcept { std::swap(block_, other.block_); }
 
     // A text of `length` units that the caller fills through mutableData() at once.
     static String uninitialized(std::size_t length);
     static String repeated(std::size_t count, char16_t unit);
 
-    std::size_t size() const noexcept { return m_block != nullptr ? m_block->length : 0; }
+    std::size_t size() const noexcept { return block_ != nullptr ? block_->length : 0; }
     bool empty() const noexcept { return size() == 0; }
-    const char16_t* data() const noexcept { return m_block != nullptr ? m_block->text() : u""; }
+    const char16_t* data() const noexcept { return block_ != nullptr ? block_->text() : u""; }
     std::u16string_view view() const noexcept { return {data(), size()}; }
 
     char16_t* mutableData();               // copies first if the text is shared
@@ -109,30 +109,30 @@ public:
     std::span<const std::uint8_t> bytes() const noexcept {
         return {reinterpret_cast<const std::uint8_t*>(data()), size() * sizeof(char16_t) + (hasOddByte() ? 1 : 0)};
     }
-    bool hasOddByte() const noexcept { return m_block != nullptr && m_block->oddByte != 0; }
+    bool hasOddByte() const noexcept { return block_ != nullptr && block_->oddByte != 0; }
 
     // Ownership passes to and from a Value's payload.
     static String adopt(StringBlock* block) noexcept {
         String s;
-        s.m_block = block;
+        s.block_ = block;
         return s;
     }
-    StringBlock* detach() noexcept { return std::exchange(m_block, nullptr); }
+    StringBlock* detach() noexcept { return std::exchange(block_, nullptr); }
 
 private:
     void retain() const noexcept {
-        if (m_block != nullptr) {
-            ++m_block->references;
+        if (block_ != nullptr) {
+            ++block_->references;
         }
     }
     void release() noexcept {
-        if (m_block != nullptr && --m_block->references == 0) {
-            StringBlock::destroy(m_block);
+        if (block_ != nullptr && --block_->references == 0) {
+            StringBlock::destroy(block_);
         }
     }
     void reserveUnique(std::size_t capacity);
 
-    StringBlock* m_block = nullptr;
+    StringBlock* block_ = nullptr;
 };
 
 // The floor's, for the whole engine.
