@@ -47,6 +47,8 @@ protected:
     Esclavos esclavos;
 };
 
+// A sanitizer takes terabytes of addresses before the program starts.
+#ifndef __SANITIZE_ADDRESS__
 // In a child: the program may take that many bytes more.
 bool limitarMemoria(std::size_t masBytes) {
     std::size_t paginas = 0;
@@ -56,8 +58,6 @@ bool limitarMemoria(std::size_t masBytes) {
     return ::setrlimit(RLIMIT_AS, &limite) == 0;
 }
 
-// A sanitizer takes terabytes of addresses before the program starts.
-#ifndef __SANITIZE_ADDRESS__
 TEST_F(StoreErrors, whenMemoryRunsShortTablesGrowNoMoreAndTheProgramKeepsSome) {
     EXPECT_EQ(enProcesoHijo([&] {
                   if (!limitarMemoria(std::size_t{64} << 20))
