@@ -182,7 +182,11 @@ TEST_F(PassTest, readingsThatBringANewNameEachLeaveNothingBehind) {
     read(0, 40000);
     const std::size_t before = residentPages();
     read(40000, 160000);
+#ifdef __SANITIZE_ADDRESS__
+    EXPECT_LE(residentPages(), 2 * before); // what was freed is kept aside there for a while
+#else
     EXPECT_LE(residentPages(), before + 128);
+#endif
 }
 
 TEST_F(PassTest, aNameThatCameBackAfterItWasForgottenMeansWhatItShould) {

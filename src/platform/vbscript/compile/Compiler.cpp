@@ -234,8 +234,8 @@ std::vector<Symbol> namesMade(UnitScope& scope, const LocalScope& localScope) {
 
 } // namespace
 
-Unit* Compiler::compile(std::u16string_view text) {
-    return compileUnit(text).release();
+std::unique_ptr<Unit> Compiler::compile(std::u16string_view text) {
+    return compileUnit(text);
 }
 
 void Compiler::check(std::u16string_view text) {

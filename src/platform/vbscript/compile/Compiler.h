@@ -26,7 +26,7 @@ public:
         : symbols_(symbols), globals_(globals), library_(library) {}
 
     // Throws CompileError; the unit has one reference, which is the caller's.
-    Unit* compile(std::u16string_view text);
+    std::unique_ptr<Unit> compile(std::u16string_view text);
     // Throws what compile() would; nothing stays of the text.
     void check(std::u16string_view text);
     // Execute inside a procedure. `created` receives the variables that the text makes in the local scope; their

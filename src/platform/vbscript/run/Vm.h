@@ -214,7 +214,7 @@ private:
     void define(std::uint32_t slot, GlobalKind kind, Value value, Unit* owner = nullptr);
     void forgetCache(const Unit* except);
     void trimCache();
-    Unit* compiled(std::u16string_view text);
+    std::unique_ptr<Unit> compiled(std::u16string_view text);
     void defineBuiltins();
     void startClock();
     void freeRetired() noexcept;

@@ -13,6 +13,7 @@
 #include "platform/vbscript/value/Library.h"
 
 #include <bit>
+#include <cstdint>
 #include <cstring>
 
 namespace vbs {
@@ -27,12 +28,14 @@ namespace vbs {
 namespace {
 
 // The value that an operand names. The index stands two bits up in an operand, so its distance in bytes is four times
-// that; what the low two bits add by it is taken off the start of each place beforehand.
-inline Value& valueAt(char* const* places, unsigned o) noexcept {
+// that; what the low two bits add by it is taken off the start of each place beforehand. A start is a number, since it
+// may lie before its place, and a place that the frame does not have starts nowhere.
+inline Value& valueAt(const std::uintptr_t* places, unsigned o) noexcept {
+    // NOLINTNEXTLINE(performance-no-int-to-ptr): see above
     return *reinterpret_cast<Value*>(places[o & 3] + std::size_t{o} * (sizeof(Value) / 4));
 }
-inline char* startOf(Place place, const Value* first) noexcept {
-    return reinterpret_cast<char*>(const_cast<Value*>(first)) - static_cast<std::size_t>(place) * (sizeof(Value) / 4);
+inline std::uintptr_t startOf(Place place, const Value* first) noexcept {
+    return reinterpret_cast<std::uintptr_t>(first) - static_cast<std::size_t>(place) * (sizeof(Value) / 4);
 }
 
 // The same for an operand that is known to be a register of the frame.
@@ -75,9 +78,9 @@ void Vm::dispatch(std::size_t floor) {
     KEEP(table);
     const Builtin* const intrinsics = library_.builtins.data();
     Value* base = frame->base;
-    char* places[4] = {startOf(Place::Frame, base), startOf(Place::Global, globals_.values()),
-                       startOf(Place::Constant, frame->procedure->constants.data()),
-                       startOf(Place::Field, frame->fields)};
+    std::uintptr_t places[4] = {startOf(Place::Frame, base), startOf(Place::Global, globals_.values()),
+                                startOf(Place::Constant, frame->procedure->constants.data()),
+                                startOf(Place::Field, frame->fields)};
 
 // No object with a destructor may be alive here: a computed jump does not run it.
 #define NEXT goto* table[partAt<std::uint8_t>(++pc, 0)]

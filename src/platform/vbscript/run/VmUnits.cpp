@@ -30,19 +30,20 @@ Unit* Vm::unitOf(std::u16string_view text) {
             throw CompileError(refused.error);
         }
     }
-    Unit* unit = compiled(text);
-    assumedLocal_.insert(unit->assumedLocal.begin(), unit->assumedLocal.end());
-    recent_.push_front(unit);
+    std::unique_ptr<Unit> made = compiled(text); // until the list has it: memory may run out on the way
+    assumedLocal_.insert(made->assumedLocal.begin(), made->assumedLocal.end());
+    recent_.push_front(made.get());
+    Unit* unit = made.release();
     cache_.emplace(unit->text, recent_.begin());
     trimCache();
     return unit;
 }
 
 // Compiles a text that is not known, and remembers if it is refused.
-Unit* Vm::compiled(std::u16string_view text) {
+std::unique_ptr<Unit> Vm::compiled(std::u16string_view text) {
     constexpr std::size_t maxRefused = 8;
     try {
-        Unit* unit = compiler_.compile(text);
+        std::unique_ptr<Unit> unit = compiler_.compile(text);
         unit->text = text;
         return unit;
     } catch (const CompileError& failure) {
