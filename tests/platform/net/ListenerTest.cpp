@@ -110,11 +110,13 @@ TEST(Listener, isNotStarvedByLoadedConnections) {
     constexpr std::size_t loaded = 400;
     std::vector<std::unique_ptr<Winsock>> sockets;
     std::vector<Peer> peers;
+    std::size_t served = 0;
+    std::size_t servedAtTheLast = 0;
     station.events.request = [&](Winsock&, std::uint32_t requestId) {
         sockets.push_back(std::make_unique<Winsock>(station.reactor, station.events, static_cast<int>(sockets.size())));
         EXPECT_TRUE(sockets.back()->Accept(requestId));
+        servedAtTheLast = served; // a turn may go on for rounds after that
     };
-    std::size_t served = 0;
     station.events.arrival = [&](Winsock& socket, auto) {
         ++served;
         peers[static_cast<std::size_t>(socket.Index())].send("again"); // always ready
@@ -130,7 +132,7 @@ TEST(Listener, isNotStarvedByLoadedConnections) {
         peers.emplace_back(station.listener.LocalPort());
     served = 0;
     EXPECT_TRUE(runUntil(station.reactor, [&] { return sockets.size() == loaded + 50; }));
-    EXPECT_LE(served, 2 * loaded); // all of them within two rounds
+    EXPECT_LE(servedAtTheLast, 2 * loaded); // all of them within two rounds
 }
 
 TEST(Listener, listensAgainOnThePortOfAnEstablishedConnection) {
