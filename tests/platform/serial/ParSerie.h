@@ -7,12 +7,14 @@
 #include <QString>
 #include <QTemporaryDir>
 
+#include <chrono>
 #include <fcntl.h>
 #include <pty.h>
 #include <stdexcept>
 #include <string_view>
 #include <sys/ioctl.h>
 #include <termios.h>
+#include <thread>
 #include <unistd.h>
 
 class ParSerie {
@@ -37,13 +39,26 @@ public:
         }
     }
 
-    // Whether what the device has sent is out of the driver's buffer.
-    bool leido() const {
+    // Sends and waits until the bytes are in the open port's buffer, where the pair brings them some time after the
+    // write. The buffer has to be empty before, and nobody may read it meanwhile.
+    void entregar(std::string_view bytes) const {
+        const auto limite = std::chrono::steady_clock::now() + std::chrono::seconds(30);
+        enviar(bytes);
+        while (sinLeer() != static_cast<int>(bytes.size())) {
+            if (std::chrono::steady_clock::now() > limite)
+                throw std::runtime_error("the pseudo-terminal delivers nothing");
+            std::this_thread::yield();
+        }
+    }
+
+    // How many bytes wait in the open port's buffer, or -1 when the device is gone.
+    int sinLeer() const {
         const int esclavo = ::open(dispositivo_.toLocal8Bit().constData(), O_RDONLY | O_NOCTTY | O_NONBLOCK);
         int esperan = -1;
-        const bool sabido = ::ioctl(esclavo, FIONREAD, &esperan) == 0;
+        if (::ioctl(esclavo, FIONREAD, &esperan) != 0)
+            esperan = -1;
         ::close(esclavo);
-        return sabido && esperan == 0;
+        return esperan;
     }
 
     // Pulls the cable.
