@@ -1,6 +1,6 @@
 #include "BareLoop.h"
 
-#include "platform/net/Descriptor.h"
+#include "platform/posix/Descriptor.h"
 
 #include <algorithm>
 #include <arpa/inet.h>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/net/Descriptor.h"
+#include "platform/posix/Descriptor.h"
 
 #include <array>
 #include <chrono>

@@ -5,7 +5,7 @@
 // later ones find 1,000 free ones. A row is the median of the ratios of neighbouring storms.
 #include "BareLoop.h"
 #include "ServerProcess.h"
-#include "platform/net/Descriptor.h"
+#include "platform/posix/Descriptor.h"
 
 #include <algorithm>
 #include <arpa/inet.h>

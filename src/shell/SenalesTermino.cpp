@@ -40,13 +40,13 @@ SenalesTermino::SenalesTermino(std::function<void()> enElActo, std::function<voi
     : enElActo_(std::move(enElActo)), alLlegar_(std::move(alLlegar)) {
     int extremos[2] = {-1, -1};
     if (pipe2(extremos, O_NONBLOCK | O_CLOEXEC) == 0) {
-        lectura_ = extremos[0];
-        escritura_ = extremos[1];
+        lectura_ = Descriptor(extremos[0]);
+        escritura_ = Descriptor(extremos[1]);
     }
-    avisador_ = std::make_unique<QSocketNotifier>(lectura_, QSocketNotifier::Read);
+    avisador_ = std::make_unique<QSocketNotifier>(lectura_.number(), QSocketNotifier::Read);
     QObject::connect(avisador_.get(), &QSocketNotifier::activated, avisador_.get(), [this] {
         char leidos[16];
-        while (read(lectura_, leidos, sizeof leidos) > 0) {
+        while (read(lectura_.number(), leidos, sizeof leidos) > 0) {
         }
         alLlegar_();
     });
@@ -60,9 +60,6 @@ SenalesTermino::~SenalesTermino() {
     retener();
     actual = nullptr;
     instalar(SIG_DFL);
-    avisador_.reset();
-    close(lectura_);
-    close(escritura_);
 }
 
 void SenalesTermino::atender(int /*senal*/) {
@@ -70,7 +67,7 @@ void SenalesTermino::atender(int /*senal*/) {
     if (const SenalesTermino* const senales = actual) {
         senales->enElActo_();
         const char aviso = 0;
-        [[maybe_unused]] const ssize_t escrito = write(senales->escritura_, &aviso, 1);
+        [[maybe_unused]] const ssize_t escrito = write(senales->escritura_.number(), &aviso, 1);
     }
     errno = errorAnterior;
 }

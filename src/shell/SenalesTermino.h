@@ -1,6 +1,8 @@
 // SIGTERM and SIGINT as an event of the window system, so that they end the program the way its button does.
 #pragma once
 
+#include "platform/posix/Descriptor.h"
+
 #include <QObject>
 #include <QSocketNotifier>
 
@@ -26,7 +28,7 @@ private:
 
     std::function<void()> enElActo_;
     std::function<void()> alLlegar_;
-    int lectura_ = -1; // ends of the pipe that wakes the event loop
-    int escritura_ = -1;
+    Descriptor lectura_; // ends of the pipe that wakes the event loop
+    Descriptor escritura_;
     std::unique_ptr<QSocketNotifier> avisador_;
 };

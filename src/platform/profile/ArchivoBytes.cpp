@@ -1,5 +1,7 @@
 #include "platform/profile/ArchivoBytes.h"
 
+#include "platform/posix/Descriptor.h"
+
 #include <cerrno>
 #include <charconv>
 #include <csignal>
@@ -14,24 +16,9 @@ std::error_code ultimoError() {
     return {errno, std::generic_category()};
 }
 
-// An open file descriptor that closes itself.
-class Descriptor {
-public:
-    Descriptor(const std::filesystem::path& ruta, int modo, mode_t permisos = 0)
-        : numero_(::open(ruta.c_str(), modo | O_CLOEXEC, permisos)) {}
-    ~Descriptor() {
-        if (numero_ >= 0)
-            ::close(numero_);
-    }
-    Descriptor(const Descriptor&) = delete;
-    Descriptor& operator=(const Descriptor&) = delete;
-
-    bool abierto() const { return numero_ >= 0; }
-    int numero() const { return numero_; }
-
-private:
-    int numero_;
-};
+Descriptor abrir(const std::filesystem::path& ruta, int modo, mode_t permisos = 0) {
+    return Descriptor(::open(ruta.c_str(), modo | O_CLOEXEC, permisos));
+}
 
 std::error_code comprobarRegular(const struct stat& datos) {
     if (S_ISDIR(datos.st_mode))
@@ -68,26 +55,26 @@ std::error_code escribirTodo(int descriptor, std::string_view bytes) {
 // Writes the temporary file down to the disk, with the permissions of the file that it is going to replace.
 std::error_code llenarTemporal(const std::filesystem::path& temporal, std::string_view bytes,
                                const std::optional<struct stat>& anterior) {
-    const Descriptor archivo(temporal, O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW, 0666);
-    if (!archivo.abierto())
+    const Descriptor archivo = abrir(temporal, O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW, 0666);
+    if (!archivo)
         return ultimoError();
-    if (const std::error_code error = escribirTodo(archivo.numero(), bytes))
+    if (const std::error_code error = escribirTodo(archivo.number(), bytes))
         return error;
     if (anterior) {
         // Only root may give a file away; for anybody else the file is his own already.
-        [[maybe_unused]] const int dado = ::fchown(archivo.numero(), anterior->st_uid, anterior->st_gid);
-        if (::fchmod(archivo.numero(), anterior->st_mode & 07777) != 0)
+        [[maybe_unused]] const int dado = ::fchown(archivo.number(), anterior->st_uid, anterior->st_gid);
+        if (::fchmod(archivo.number(), anterior->st_mode & 07777) != 0)
             return ultimoError();
     }
-    return ::fsync(archivo.numero()) == 0 ? std::error_code{} : ultimoError();
+    return ::fsync(archivo.number()) == 0 ? std::error_code{} : ultimoError();
 }
 
 // Makes the new name itself survive a power cut. The bytes are safe already, so a folder that cannot be opened for
 // reading is no failure.
 void asentarCarpeta(const std::filesystem::path& carpeta) {
-    const Descriptor descriptor(carpeta.empty() ? "." : carpeta, O_RDONLY | O_DIRECTORY);
-    if (descriptor.abierto())
-        ::fsync(descriptor.numero());
+    const Descriptor descriptor = abrir(carpeta.empty() ? "." : carpeta, O_RDONLY | O_DIRECTORY);
+    if (descriptor)
+        ::fsync(descriptor.number());
 }
 
 // The number in "name.number.tmp", or 0 when `nombre` is not a temporary file for `archivo`.
@@ -122,17 +109,17 @@ bool prohibido(const std::error_code& error) {
 
 // Takes the space first, so that a full disk leaves the old text as it is.
 std::error_code escribirEnElSitio(const std::filesystem::path& archivo, std::string_view bytes) {
-    const Descriptor descriptor(archivo, O_WRONLY | O_NONBLOCK);
-    if (!descriptor.abierto())
+    const Descriptor descriptor = abrir(archivo, O_WRONLY | O_NONBLOCK);
+    if (!descriptor)
         return ultimoError();
     const auto largo = static_cast<off_t>(bytes.size());
-    if (const int fallo = bytes.empty() ? 0 : ::posix_fallocate(descriptor.numero(), 0, largo); fallo != 0)
+    if (const int fallo = bytes.empty() ? 0 : ::posix_fallocate(descriptor.number(), 0, largo); fallo != 0)
         return {fallo, std::generic_category()};
-    if (const std::error_code error = escribirTodo(descriptor.numero(), bytes))
+    if (const std::error_code error = escribirTodo(descriptor.number(), bytes))
         return error;
-    if (::ftruncate(descriptor.numero(), largo) != 0)
+    if (::ftruncate(descriptor.number(), largo) != 0)
         return ultimoError();
-    return ::fsync(descriptor.numero()) == 0 ? std::error_code{} : ultimoError();
+    return ::fsync(descriptor.number()) == 0 ? std::error_code{} : ultimoError();
 }
 
 std::error_code comprobarReemplazable(const std::filesystem::path& ruta, std::optional<struct stat>& anterior) {
@@ -154,17 +141,18 @@ std::error_code comprobarReemplazable(const std::filesystem::path& ruta, std::op
 
 std::error_code leerBytes(const std::filesystem::path& archivo, std::string& bytes) {
     bytes.clear();
-    const Descriptor descriptor(archivo, O_RDONLY | O_NONBLOCK); // a pipe without a writer must not stop the program
-    if (!descriptor.abierto())
+    const Descriptor descriptor =
+        abrir(archivo, O_RDONLY | O_NONBLOCK); // a pipe without a writer must not stop the program
+    if (!descriptor)
         return ultimoError();
     struct stat datos {};
-    if (::fstat(descriptor.numero(), &datos) != 0)
+    if (::fstat(descriptor.number(), &datos) != 0)
         return ultimoError();
     std::error_code error = comprobarRegular(datos);
     if (!error && datos.st_size > static_cast<off_t>(maximoBytesArchivo))
         error = std::make_error_code(std::errc::file_too_large);
     if (!error)
-        error = leerHastaElFinal(descriptor.numero(), bytes);
+        error = leerHastaElFinal(descriptor.number(), bytes);
     if (error)
         bytes.clear();
     return error;
@@ -197,13 +185,13 @@ std::error_code reemplazarBytes(const std::filesystem::path& archivo, std::strin
 }
 
 std::error_code anexarBytes(const std::filesystem::path& archivo, std::string_view bytes) {
-    const Descriptor descriptor(archivo, O_WRONLY | O_APPEND | O_CREAT | O_NONBLOCK, 0666);
-    if (!descriptor.abierto())
+    const Descriptor descriptor = abrir(archivo, O_WRONLY | O_APPEND | O_CREAT | O_NONBLOCK, 0666);
+    if (!descriptor)
         return ultimoError();
     struct stat datos {};
-    if (::fstat(descriptor.numero(), &datos) != 0)
+    if (::fstat(descriptor.number(), &datos) != 0)
         return ultimoError();
     if (const std::error_code error = comprobarRegular(datos))
         return error;
-    return escribirTodo(descriptor.numero(), bytes);
+    return escribirTodo(descriptor.number(), bytes);
 }

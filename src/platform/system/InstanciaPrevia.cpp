@@ -36,7 +36,7 @@ std::string nombreDe(const std::filesystem::path& ejecutable) {
 
 InstanciaPrevia::InstanciaPrevia(const std::filesystem::path& ejecutable)
     : socket_(::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0)) {
-    if (socket_ < 0)
+    if (!socket_)
         return;
     const std::string nombre = nombreDe(ejecutable);
     sockaddr_un direccion{};
@@ -44,11 +44,6 @@ InstanciaPrevia::InstanciaPrevia(const std::filesystem::path& ejecutable)
     // A zero before the name makes the address abstract: no file.
     std::copy(nombre.begin(), nombre.end(), std::begin(direccion.sun_path) + 1);
     const auto largo = static_cast<socklen_t>(offsetof(sockaddr_un, sun_path) + 1 + nombre.size());
-    if (::bind(socket_, reinterpret_cast<const sockaddr*>(&direccion), largo) != 0)
+    if (::bind(socket_.number(), reinterpret_cast<const sockaddr*>(&direccion), largo) != 0)
         hayOtra_ = errno == EADDRINUSE;
-}
-
-InstanciaPrevia::~InstanciaPrevia() {
-    if (socket_ >= 0)
-        ::close(socket_);
 }

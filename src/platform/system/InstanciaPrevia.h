@@ -7,20 +7,19 @@
 //     if (instancia.hayOtra()) ...
 #pragma once
 
+#include "platform/posix/Descriptor.h"
+
 #include <filesystem>
 
 class InstanciaPrevia {
 public:
     // `ejecutable` may lead to the file by any links.
     explicit InstanciaPrevia(const std::filesystem::path& ejecutable);
-    ~InstanciaPrevia();
-    InstanciaPrevia(const InstanciaPrevia&) = delete;
-    InstanciaPrevia& operator=(const InstanciaPrevia&) = delete;
 
     // Whether another copy was running when this object was made. False when the system gave no answer.
     bool hayOtra() const { return hayOtra_; }
 
 private:
-    int socket_;
+    Descriptor socket_;
     bool hayOtra_ = false;
 };

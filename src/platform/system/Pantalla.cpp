@@ -1,5 +1,7 @@
 #include "platform/system/Pantalla.h"
 
+#include "platform/posix/Descriptor.h"
+
 #include <algorithm>
 #include <cstddef>
 #include <cstdlib>
@@ -7,7 +9,6 @@
 #include <string_view>
 #include <sys/socket.h>
 #include <sys/un.h>
-#include <unistd.h>
 
 namespace {
 
@@ -68,12 +69,8 @@ bool conectaSocket(const std::string& ruta) {
         return false;
     direccion.sun_family = AF_UNIX;
     std::copy(ruta.begin(), ruta.end(), std::begin(direccion.sun_path));
-    const int socket = ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0);
-    if (socket < 0)
-        return false;
-    const bool conectado = ::connect(socket, reinterpret_cast<const sockaddr*>(&direccion), sizeof direccion) == 0;
-    ::close(socket);
-    return conectado;
+    const Descriptor socket(::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0));
+    return socket && ::connect(socket.number(), reinterpret_cast<const sockaddr*>(&direccion), sizeof direccion) == 0;
 }
 
 std::string motivo(const std::string& nombre, const char* variable) {

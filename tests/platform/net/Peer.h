@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/net/Descriptor.h"
 #include "platform/net/Winsock.h"
+#include "platform/posix/Descriptor.h"
 
 #include <chrono>
 #include <cstddef>
