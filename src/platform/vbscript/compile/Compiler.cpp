@@ -34,8 +34,8 @@ void addMember(ScriptClass& cls, const ProcedureDecl& decl, const Procedure* pro
 }
 
 // Odd numbers, so that no address of a native table can equal one.
-const void* freshShape(SymbolTable& symbols) noexcept {
-    return reinterpret_cast<const void*>((symbols.nextSerial() << 1) | 1U); // NOLINT(performance-no-int-to-ptr)
+std::uintptr_t freshShape(SymbolTable& symbols) noexcept {
+    return (symbols.nextSerial() << 1) | 1U;
 }
 
 // Declares the class: its fields and, still without code, its procedures.

@@ -6,6 +6,7 @@
 #include "platform/vbscript/syntax/Ast.h"
 #include "platform/vbscript/value/Object.h"
 
+#include <cstdint>
 #include <memory>
 #include <string>
 #include <unordered_map>
@@ -33,7 +34,7 @@ struct StatementMark {
 // A place in the code that uses a member, and what it found there last time.
 struct MemberSite {
     Symbol symbol = noSymbol;
-    const void* shape = nullptr;               // of the object seen last
+    std::uintptr_t shape = 0;                  // of the object seen last
     int member = 0;                            // its number there
     int field = -1;                            // of instances of script classes: the index of a public field, or -1
     const struct ClassMember* entry = nullptr; // of script classes
@@ -93,7 +94,7 @@ struct ScriptClass : Callable {
     Unit* unit = nullptr;
     Symbol name = noSymbol;
     std::u16string spelling;
-    const void* shape = nullptr; // different for every class there ever was
+    std::uintptr_t shape = 0; // different for every class there ever was
     std::vector<Variable> fields;
     std::vector<ClassMember> members;
     std::unordered_map<Symbol, int> index; // name to members

@@ -69,7 +69,7 @@ void Instance::dropContents() noexcept {
     }
     vm_->abandon(*this);
     role = Role::Native;
-    shape = nullptr;
+    shape = 0;
     std::exchange(vm_, nullptr)->release(std::exchange(class_, nullptr)->unit);
 }
 

@@ -702,7 +702,7 @@ labelCallMember : {
     }
     const Value& object = R(B).deref();
     const MemberSite& site = frame->procedure->sites[C];
-    if (object.type == Type::Object && object.counted != nullptr && site.shape != nullptr &&
+    if (object.type == Type::Object && object.counted != nullptr && site.shape != 0 &&
         object.object()->shape == site.shape && !TEMPORARY(B)) [[likely]] {
         Object* target = object.object();
         const auto store = static_cast<Store>(X >> 6);

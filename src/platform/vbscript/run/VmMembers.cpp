@@ -40,7 +40,7 @@ const ClassMember& Vm::instanceMember(const Instance& instance, MemberSite& site
 }
 
 int Vm::nativeMember(Object& object, MemberSite& site) const {
-    if (object.shape != nullptr && object.shape == site.shape) {
+    if (object.shape != 0 && object.shape == site.shape) {
         return site.member;
     }
     const int member = object.resolve(symbols_.folded(site.symbol));
@@ -51,7 +51,7 @@ int Vm::nativeMember(Object& object, MemberSite& site) const {
     site.member = member;
     site.field = -1;
     site.reader = nullptr;
-    site.shortRoad = object.shape != nullptr ? object.shortRoad(member) : nullptr;
+    site.shortRoad = object.shape != 0 ? object.shortRoad(member) : nullptr;
     return member;
 }
 

@@ -9,6 +9,7 @@
 #include "platform/vbscript/value/Value.h"
 
 #include <cstddef>
+#include <cstdint>
 #include <memory>
 #include <span>
 #include <string_view>
@@ -65,8 +66,8 @@ public:
     // Lets go of everything the object refers to; the engine calls it at its end to break cycles.
     virtual void dropContents() noexcept {}
 
-    // Objects with the same non-null shape resolve every name alike, so the machine may remember the numbers.
-    const void* shape = nullptr;
+    // Objects with the same shape resolve every name alike, so the machine may remember the numbers. 0: it may not.
+    std::uintptr_t shape = 0;
 
     // What the machine treats in a way of its own.
     enum class Role : std::uint8_t { Native, Instance, ProcedureReference, Iterator };
@@ -142,7 +143,7 @@ public:
         ShortRoad shortRoad = nullptr;
     };
 
-    NativeObject() noexcept : table_(T::members()) { shape = table_.data(); }
+    NativeObject() noexcept : table_(T::members()) { shape = reinterpret_cast<std::uintptr_t>(table_.data()); }
 
     int resolve(std::u16string_view name) override {
         for (std::size_t i = 0; i < table_.size(); ++i) {
