@@ -22,20 +22,24 @@ import sys
 OUTPUT = re.compile(r"'>(?: (.*)| *)$")
 ERROR = re.compile(r"'! (\d+)(?: @(\d+|\*))?\s*$")
 OPTIONS = re.compile(r"^'options (.*)$")
+AFTER = re.compile(r"^'after (.*)$")
 REPORTED = re.compile(r"^(?P<file>.*?):(?P<line>\d+):(?P<column>\d+): error (?P<number>-?\d+): (?P<text>.*)$", re.M)
 ANY_LINE = "*"
 
 
 class Expectation:
-    """What a script says of itself: the lines it prints, the error it ends with, the options it is run with."""
+    """What a script says of itself: the lines it prints, the error it ends with, how it is run."""
 
     def __init__(self, text):
         self.output = []
         self.error = None  # (number, line), line may be ANY_LINE
         self.options = []
+        self.after = []  # files that run before it in the same engine, from its folder
         for line_number, line in enumerate(re.split(r"\r\n|\r|\n", text), start=1):
             if match := OPTIONS.search(line):
                 self.options = match[1].split()
+            elif match := AFTER.search(line):
+                self.after = match[1].split()
             elif match := OUTPUT.search(line):
                 self.output.append(expected_text(match[1] or ""))
             elif match := ERROR.search(line):
@@ -62,7 +66,7 @@ def environment():
 def run(script, binary, limit):
     """Returns the list of complaints about one script; an empty list is a pass."""
     expected = Expectation(script.read_bytes().decode("utf-8", "replace"))
-    command = [binary, *expected.options, str(script)]
+    command = [binary, *expected.options, *(str(script.parent / file) for file in expected.after), str(script)]
     try:
         done = subprocess.run(command, stdin=subprocess.DEVNULL, capture_output=True, timeout=limit, check=False,
                               env=environment())

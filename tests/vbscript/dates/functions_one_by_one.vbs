@@ -1,18 +1,5 @@
 ' A function on dates a line.
-SetLocale 1033
-Sub X(expression)
-    Dim got
-    On Error Resume Next
-    got = "?"
-    got = Eval(expression)
-    If Err.Number <> 0 Then
-        WScript.Echo "error " & Err.Number
-    ElseIf IsNull(got) Or IsEmpty(got) Then
-        WScript.Echo TypeName(got)
-    Else
-        WScript.Echo TypeName(got) & " " & got
-    End If
-End Sub
+'after ../expressions.inc
 X "DateAdd(""m"", 1, #1/31/2024#)" '> Date 2/29/2024
 X "DateAdd(""yyyy"", 1, #2/29/2024#)" '> Date 2/28/2025
 X "DateAdd(""w"", 1, #1/1/2024#)" '> Date 1/2/2024

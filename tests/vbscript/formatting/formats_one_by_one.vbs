@@ -1,18 +1,5 @@
 ' A format a line.
-SetLocale 1033
-Sub X(expression)
-    Dim got
-    On Error Resume Next
-    got = "?"
-    got = Eval(expression)
-    If Err.Number <> 0 Then
-        WScript.Echo "error " & Err.Number
-    ElseIf IsNull(got) Or IsEmpty(got) Then
-        WScript.Echo TypeName(got)
-    Else
-        WScript.Echo TypeName(got) & " " & got
-    End If
-End Sub
+'after ../expressions.inc
 X "FormatNumber(0.5, 0)" '> String 1
 X "FormatNumber(1.5, 0)" '> String 2
 X "FormatNumber(2.5, 0)" '> String 3

@@ -1,18 +1,5 @@
 ' A conversion a line, at the edges of its type.
-SetLocale 1033
-Sub X(expression)
-    Dim got
-    On Error Resume Next
-    got = "?"
-    got = Eval(expression)
-    If Err.Number <> 0 Then
-        WScript.Echo "error " & Err.Number
-    ElseIf IsNull(got) Or IsEmpty(got) Then
-        WScript.Echo TypeName(got)
-    Else
-        WScript.Echo TypeName(got) & " " & got
-    End If
-End Sub
+'after ../expressions.inc
 X "CBool(""#True#"")" '> Boolean True
 X "CBool(""#fALSE#"")" '> Boolean False
 X "CBool(""1.5"")" '> Boolean True

@@ -1,18 +1,5 @@
 ' What a value is, and other small functions, one a line.
-SetLocale 1033
-Sub X(expression)
-    Dim got
-    On Error Resume Next
-    got = "?"
-    got = Eval(expression)
-    If Err.Number <> 0 Then
-        WScript.Echo "error " & Err.Number
-    ElseIf IsNull(got) Or IsEmpty(got) Then
-        WScript.Echo TypeName(got)
-    Else
-        WScript.Echo TypeName(got) & " " & got
-    End If
-End Sub
+'after ../expressions.inc
 X "IsNumeric(""1,5"")" '> Boolean True
 X "IsNumeric(""1.5.2"")" '> Boolean False
 X "IsNumeric(""$5"")" '> Boolean True

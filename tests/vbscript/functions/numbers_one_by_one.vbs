@@ -1,18 +1,5 @@
 ' A function on numbers a line.
-SetLocale 1033
-Sub X(expression)
-    Dim got
-    On Error Resume Next
-    got = "?"
-    got = Eval(expression)
-    If Err.Number <> 0 Then
-        WScript.Echo "error " & Err.Number
-    ElseIf IsNull(got) Or IsEmpty(got) Then
-        WScript.Echo TypeName(got)
-    Else
-        WScript.Echo TypeName(got) & " " & got
-    End If
-End Sub
+'after ../expressions.inc
 X "Hex(-1)" '> String FFFF
 X "Hex(-1&)" '> error 1002
 X "Hex(CLng(-1))" '> String FFFFFFFF

@@ -1,18 +1,5 @@
 ' A function on texts a line.
-SetLocale 1033
-Sub X(expression)
-    Dim got
-    On Error Resume Next
-    got = "?"
-    got = Eval(expression)
-    If Err.Number <> 0 Then
-        WScript.Echo "error " & Err.Number
-    ElseIf IsNull(got) Or IsEmpty(got) Then
-        WScript.Echo TypeName(got)
-    Else
-        WScript.Echo TypeName(got) & " " & got
-    End If
-End Sub
+'after ../expressions.inc
 X "Mid(""road"", 2)" '> String oad
 X "Mid(""road"", 9)" '> String |
 X "Mid(""road"", 2, 0)" '> String |

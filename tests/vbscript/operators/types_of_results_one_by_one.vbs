@@ -1,19 +1,6 @@
 ' The type and the value of an operation a line.
-SetLocale 1033
+'after ../expressions.inc
 n7 = 7
-Sub X(expression)
-    Dim got
-    On Error Resume Next
-    got = "?"
-    got = Eval(expression)
-    If Err.Number <> 0 Then
-        WScript.Echo "error " & Err.Number
-    ElseIf IsNull(got) Or IsEmpty(got) Then
-        WScript.Echo TypeName(got)
-    Else
-        WScript.Echo TypeName(got) & " " & got
-    End If
-End Sub
 X "Empty And 12" '> Long 0
 X "12 And Empty" '> Long 0
 X "Empty Or 12" '> Long 12

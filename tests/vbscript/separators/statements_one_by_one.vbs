@@ -1,46 +1,5 @@
 ' How a text is cut into statements, one text a line.
-SetLocale 1033
-Dim r, n, v, t, o, p, d
-Class Clock
- Public size, arr(2), dyn()
- Public owner_
- Private hidden
- Public Sub Tick : n = n + 1 : End Sub
- Public Function Tock(k) : Tock = k * 2 : End Function
- Public Default Property Get Def : Def = 42 : End Property
- Public Property Let owner(x) : n = TypeName(x) : End Property
- Public Property Get ro : ro = 5 : End Property
- Public Property Let wo(x) : n = x : End Property
- Public Property Set so(x) : Set owner_ = x : End Property
- Private Sub Priv : End Sub
- Public Property Get idx(i) : idx = i * 10 : End Property
- Public Property Let idx(i, x) : n = i & "/" & x : End Property
-End Class
-Class Plain : Public v : End Class
-Class Trio : Public Default Function A : A = Array(6,7,8) : End Function : End Class
-Set o = New Clock : o.size = 9
-Set p = New Plain
-Set d = CreateObject("Scripting.Dictionary")
-Sub Q(text)
-    Dim told
-    r = "?"
-    On Error Resume Next
-    Err.Clear
-    ExecuteGlobal text
-    told = "ok"
-    If Err.Number <> 0 Then told = "error " & Err.Number
-    Err.Clear
-    If IsObject(r) Then
-        told = told & " " & TypeName(r)
-    ElseIf IsNull(r) Or IsEmpty(r) Or IsArray(r) Then
-        told = told & " " & TypeName(r)
-    ElseIf TypeName(r) <> "String" Then
-        told = told & " " & TypeName(r) & " " & r
-    ElseIf r <> "?" Then
-        told = told & " " & r
-    End If
-    WScript.Echo told
-End Sub
+'after ../statements.inc
 Q "x = Call_" '> ok
 Q "CDbl 9" '> error 458
 Q "Call CDbl(9)" '> error 458

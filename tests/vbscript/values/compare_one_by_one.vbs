@@ -1,19 +1,6 @@
 ' A comparison a line: texts, truth values, numbers, arrays, Empty and Null on either side.
-SetLocale 1033
+'after ../expressions.inc
 n7 = 7 : s7 = "7" : b1 = True
-Sub X(expression)
-    Dim got
-    On Error Resume Next
-    got = "?"
-    got = Eval(expression)
-    If Err.Number <> 0 Then
-        WScript.Echo "error " & Err.Number
-    ElseIf IsNull(got) Or IsEmpty(got) Then
-        WScript.Echo TypeName(got)
-    Else
-        WScript.Echo TypeName(got) & " " & got
-    End If
-End Sub
 X """tRUE"" = True" '> Boolean False
 X """True"" = True" '> Boolean True
 X "True = ""True""" '> Boolean True
