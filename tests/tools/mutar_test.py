@@ -68,14 +68,21 @@ class Changes(unittest.TestCase):
 
 class Guards(unittest.TestCase):
     def test_the_engine_is_guarded_by_its_scripts(self):
-        guards = mutar.guards_of("src/platform/vbscript/value/Convert.cpp")
-        self.assertIn("esclavo-script", guards.targets)
-        self.assertRegex("vbscript_corpus_functions", guards.tests[0])
+        first = mutar.guards_of("src/platform/vbscript/value/Convert.cpp")[0]
+        self.assertEqual(("esclavo-script",), first.targets)
+        self.assertRegex("vbscript_corpus_functions", first.tests)
+
+    def test_what_takes_long_comes_last(self):
+        last = mutar.guards_of("src/platform/vbscript/value/Convert.cpp")[-1]
+        self.assertRegex("vbscript_corpus_limits", last.tests)
 
     def test_other_files_are_guarded_by_their_folder(self):
-        guards = mutar.guards_of("src/registers/Palabra.cpp")
-        self.assertIn("test_registers_palabra", guards.targets)
-        self.assertRegex("test_registers_palabra", guards.tests[0])
+        only, = mutar.guards_of("src/registers/Palabra.cpp")
+        self.assertIn("test_registers_palabra", only.targets)
+        self.assertRegex("test_registers_palabra", only.tests)
+
+    def test_what_has_no_tests_has_no_guards(self):
+        self.assertEqual(mutar.guards_of("src/nada/A.cpp"), ())
 
 
 class Command(unittest.TestCase):
