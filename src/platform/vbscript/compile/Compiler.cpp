@@ -244,7 +244,7 @@ void Compiler::check(std::u16string_view text) {
 
 std::unique_ptr<Unit> Compiler::compileUnit(std::u16string_view text) {
     auto unit = std::make_unique<Unit>(symbols_, globals_);
-    Parser parser(text, symbols_);
+    Parser parser(text, symbols_, host_.now().year);
     const std::unique_ptr<Ast> ast = parser.parse();
     UnitScope scope(*ast, symbols_, globals_, library_, *unit);
     declareGlobals(scope);
@@ -256,7 +256,7 @@ std::unique_ptr<Unit> Compiler::compileUnit(std::u16string_view text) {
 
 Unit* Compiler::compileLocal(std::u16string_view text, const LocalScope& localScope, std::vector<Symbol>& created) {
     auto unit = std::make_unique<Unit>(symbols_, globals_);
-    Parser parser(text, symbols_);
+    Parser parser(text, symbols_, host_.now().year);
     const std::unique_ptr<Ast> ast = parser.parse();
     UnitScope scope(*ast, symbols_, globals_, library_, *unit);
     compileDeclarations(scope, Reach::Local);
@@ -278,7 +278,7 @@ Unit* Compiler::compileLocal(std::u16string_view text, const LocalScope& localSc
 Unit* Compiler::compileExpression(std::u16string_view text, const LocalScope& localScope) {
     auto unit = std::make_unique<Unit>(symbols_, globals_);
     const Symbol result = symbols_.intern(u"(eval)");
-    Parser parser(text, symbols_);
+    Parser parser(text, symbols_, host_.now().year);
     const std::unique_ptr<Ast> ast = parser.parseExpression(result);
     ast->main.name = result;
     UnitScope scope(*ast, symbols_, globals_, library_, *unit);

@@ -5,6 +5,7 @@
 #include "platform/vbscript/compile/Globals.h"
 #include "platform/vbscript/compile/Program.h"
 #include "platform/vbscript/syntax/Ast.h"
+#include "platform/vbscript/value/Host.h"
 #include "platform/vbscript/value/Library.h"
 
 #include <memory>
@@ -22,8 +23,8 @@ struct LocalScope {
 
 class Compiler {
 public:
-    Compiler(SymbolTable& symbols, Globals& globals, const Library& library) noexcept
-        : symbols_(symbols), globals_(globals), library_(library) {}
+    Compiler(SymbolTable& symbols, Globals& globals, const Library& library, Host& host) noexcept
+        : symbols_(symbols), globals_(globals), library_(library), host_(host) {}
 
     // Throws CompileError; the unit has one reference, which is the caller's.
     std::unique_ptr<Unit> compile(std::u16string_view text);
@@ -41,6 +42,7 @@ private:
     SymbolTable& symbols_;
     Globals& globals_;
     const Library& library_;
+    Host& host_;
 };
 
 } // namespace vbs

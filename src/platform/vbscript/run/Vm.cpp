@@ -30,7 +30,7 @@ Value* mapStack(std::size_t registers) {
 } // namespace
 
 Vm::Vm(Host& theHost, const Library& library)
-    : Context(theHost), library_(library), compiler_(symbols_, globals_, library),
+    : Context(theHost), library_(library), compiler_(symbols_, globals_, library, theHost),
       stack_(mapStack(stackSize + stackSlack)), stackEnd_(stack_ + stackSize),
       frames_(std::make_unique_for_overwrite<Frame[]>(maxFrames)) {
     defineBuiltins();

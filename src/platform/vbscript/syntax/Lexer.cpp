@@ -197,7 +197,7 @@ void Lexer::scanDate(Token& token) {
     }
     ++position_;
     token.kind = Token::Kind::Date;
-    const auto date = parseDate(written, *builtinLocale(1033)); // literals are month/day/year everywhere
+    const auto date = parseDate(written, *builtinLocale(1033), thisYear_); // literals are month/day/year everywhere
     if (date) {
         token.value = Value::ofDate(*date);
     } else {

@@ -130,12 +130,14 @@ struct Token {
 
 class Lexer {
 public:
-    // The text must outlive the lexer.
-    explicit Lexer(std::u16string_view text) noexcept : text_(text) {}
+    // The text must outlive the lexer. A date literal without a year means `thisYear`.
+    explicit Lexer(std::u16string_view text, int thisYear = someLeapYear) noexcept : text_(text), thisYear_(thisYear) {}
 
     Token next();
 
 private:
+    static constexpr int someLeapYear = 2000; // every day of a year is good to one who only looks for tokens
+
     char16_t at(std::size_t ahead) const noexcept {
         return position_ + ahead < text_.size() ? text_[position_ + ahead] : u'\0';
     }
@@ -158,6 +160,7 @@ private:
     std::size_t position_ = 0;
     std::size_t lineStart_ = 0;
     std::uint32_t line_ = 1;
+    int thisYear_;
     bool afterDot_ = false;     // a keyword after a dot is a name
     bool afterOperand_ = false; // an & after an operand joins texts
 };

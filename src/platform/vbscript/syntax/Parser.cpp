@@ -5,8 +5,8 @@
 
 namespace vbs {
 
-Parser::Parser(std::u16string_view text, SymbolTable& symbols)
-    : lexer_(text), symbols_(symbols), execute_(symbols.intern(u"execute")), eval_(symbols.intern(u"eval")) {
+Parser::Parser(std::u16string_view text, SymbolTable& symbols, int thisYear)
+    : lexer_(text, thisYear), symbols_(symbols), execute_(symbols.intern(u"execute")), eval_(symbols.intern(u"eval")) {
     procedure_ = &ast_->main;
     procedure_->kind = ProcedureDecl::Kind::Main;
 }

@@ -14,7 +14,8 @@ namespace vbs {
 
 class Parser {
 public:
-    Parser(std::u16string_view text, SymbolTable& symbols);
+    // A date literal without a year means `thisYear`.
+    Parser(std::u16string_view text, SymbolTable& symbols, int thisYear);
 
     // Throws CompileError, or ScriptError when memory runs out.
     std::unique_ptr<Ast> parse();
@@ -161,6 +162,7 @@ private:
     void parseParameters(ProcedureDecl& procedure);
     void parseProcedureBody(ProcedureDecl& procedure, Word ending);
     void parseClass();
+    bool isOnlyName() const;
     void parseClassMember(ClassDecl& decl);
     void checkClassMember(const ClassDecl& decl, const ProcedureDecl& procedure) const;
     static void checkShared(const ProcedureDecl& one, const ProcedureDecl& other);

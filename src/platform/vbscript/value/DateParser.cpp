@@ -206,10 +206,12 @@ private:
         }
         const Piece& a = numbers_[0];
         if (numbers_.size() == 1) {
-            return looksLikeYear(a) ? checked(yearOf(a), month_, 1) : checked(thisYear_, month_, a.number);
+            const auto dayOfThisYear = looksLikeYear(a) ? std::nullopt : checked(thisYear_, month_, a.number);
+            return dayOfThisYear ? dayOfThisYear : checked(yearOf(a), month_, 1);
         }
         const Piece& b = numbers_[1];
-        return looksLikeYear(a) ? checked(yearOf(a), month_, b.number) : checked(yearOf(b), month_, a.number);
+        const auto dayFirst = looksLikeYear(a) ? std::nullopt : checked(yearOf(b), month_, a.number);
+        return dayFirst ? dayFirst : checked(yearOf(a), month_, b.number);
     }
 
     std::optional<double> numbersOnly() const {
