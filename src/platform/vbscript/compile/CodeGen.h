@@ -195,6 +195,7 @@ private:
     Operand indexesOf(const Road& road);
     void storeDeep(const Road& road, Operand indexes, Operand from, Store store);
     bool isOwnResult(Symbol symbol) const;
+    bool isErr(const Resolved& r) const;
     bool isFixedArray(Symbol symbol);
 
     // statements

@@ -56,8 +56,22 @@ void CodeGen::assignName(const Expr* target, const Expr* value, Store store) {
         }
         return;
     default:
-        raiseAtRun(ErrorNumber::IllegalAssignment, target->symbol);
+        if (store == Store::Let && isErr(r)) {
+            const Operand from = expr(value);
+            emit(encode(Opcode::SetMember, r.operand, from, site(scope_.symbols.intern(u"Number")), packed(0, store)));
+        } else {
+            raiseAtRun(ErrorNumber::IllegalAssignment, target->symbol);
+        }
     }
+}
+
+// Err is the one object of the language; its default property can be assigned.
+bool CodeGen::isErr(const Resolved& r) const {
+    if (r.kind != Resolved::Kind::Constant || placeOf(r.operand) != Place::Global) {
+        return false;
+    }
+    const auto slot = static_cast<std::uint32_t>(indexOf(r.operand));
+    return scope_.globals.predefined(slot) && scope_.globals.kind(slot) == GlobalKind::Object;
 }
 
 // Whether the name was declared with bounds: here, in the main text if it is a global, or by a text that has run.

@@ -300,7 +300,8 @@ bool CodeGen::needsCopyBack(const Expr* e, std::size_t i, const Resolved* callee
     if (callee != nullptr && callee->procedure != nullptr && i < callee->procedure->parameters.size()) {
         return !callee->procedure->parameters[i].byValue && scope_.writesParameter(*callee->procedure, i);
     }
-    return callee == nullptr || callee->kind == Resolved::Kind::Unknown || callee->kind == Resolved::Kind::Callable;
+    return callee == nullptr || callee->kind == Resolved::Kind::Unknown || callee->kind == Resolved::Kind::Callable ||
+           callee->kind == Resolved::Kind::Variable;
 }
 
 void CodeGen::copyBack(const Prepared& prepared) {

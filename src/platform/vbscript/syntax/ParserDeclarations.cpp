@@ -51,8 +51,7 @@ bool Parser::parseDeclaration(Block& block) {
 void Parser::parseModified(Block& block) {
     const bool isPrivate = is(Word::Private);
     advance();
-    const bool isDefault = is(Word::Default);
-    if (isDefault) {
+    if (is(Word::Default) && !isOnlyName()) {
         fail(ErrorNumber::DefinedInsideClass);
     }
     if (is(Word::Sub) || is(Word::Function)) {
@@ -255,6 +254,13 @@ void Parser::parseClass() {
     ast_->classes.push_back(decl);
 }
 
+// Whether the word here is the name of a variable that is declared, not a word of the grammar.
+bool Parser::isOnlyName() const {
+    const Token next = peek();
+    return next.kind == Token::Kind::Colon || next.kind == Token::Kind::NewLine || next.kind == Token::Kind::Comment ||
+           next.kind == Token::Kind::End || next.sign == Token::Sign::Comma || next.sign == Token::Sign::Open;
+}
+
 // [Public|Private] [Default] (Sub|Function|Property ... | variables)   or   Dim variables
 void Parser::parseClassMember(ClassDecl& decl) {
     const bool isPrivate = is(Word::Private);
@@ -262,15 +268,14 @@ void Parser::parseClassMember(ClassDecl& decl) {
     if (modified) {
         advance();
     }
-    bool isDefault = false;
-    if (is(Word::Default)) {
+    const bool isDefault = is(Word::Default) && !(modified && isOnlyName());
+    if (isDefault) {
         if (!modified || isPrivate) {
             fail(ErrorNumber::DefaultMustBePublic);
         }
-        isDefault = true;
         advance();
     }
-    if (is(Word::Sub) || is(Word::Function) || is(Word::Property)) {
+    if (is(Word::Sub) || is(Word::Function) || (is(Word::Property) && (isDefault || !modified || !isOnlyName()))) {
         ProcedureDecl* procedure = parseProcedure(isPrivate, isDefault);
         checkClassMember(decl, *procedure);
         decl.members.push_back(procedure);
