@@ -137,6 +137,49 @@ std::error_code comprobarReemplazable(const std::filesystem::path& ruta, std::op
     return {};
 }
 
+// Whether the file still holds what was read; a file that cannot be read holds nothing.
+bool sigueComo(const std::filesystem::path& archivo, const std::optional<std::string_view>& leidos) {
+    std::string ahora;
+    if (leidos)
+        leerBytes(archivo, ahora);
+    return !leidos || ahora == *leidos;
+}
+
+std::error_code ponerEnSuSitio(const std::filesystem::path& temporal, const std::filesystem::path& destino) {
+    if (::rename(temporal.c_str(), destino.c_str()) != 0)
+        return ultimoError();
+    asentarCarpeta(destino.parent_path());
+    return {};
+}
+
+std::error_code reemplazar(const std::filesystem::path& archivo, std::string_view bytes,
+                           const std::optional<std::string_view>& leidos) {
+    std::error_code sinEnlace;
+    std::filesystem::path destino = std::filesystem::canonical(archivo, sinEnlace);
+    if (sinEnlace)
+        destino = archivo;
+    std::optional<struct stat> anterior;
+    if (const std::error_code error = comprobarReemplazable(destino, anterior))
+        return error;
+    std::filesystem::path temporal = destino;
+    temporal += ".";
+    temporal += std::to_string(::getpid());
+    temporal += ".tmp";
+    ::unlink(temporal.c_str()); // left by a process of the same number that was killed at this very point
+    std::error_code error = llenarTemporal(temporal, bytes, anterior);
+    const bool enElSitio = anterior && prohibido(error); // the folder takes no new file
+    if ((!error || enElSitio) && !sigueComo(destino, leidos))
+        error = std::make_error_code(std::errc::resource_unavailable_try_again);
+    else if (enElSitio)
+        return escribirEnElSitio(destino, bytes);
+    else if (!error)
+        error = ponerEnSuSitio(temporal, destino);
+    if (error)
+        ::unlink(temporal.c_str());
+    quitarRestos(destino);
+    return error;
+}
+
 } // namespace
 
 std::error_code leerBytes(const std::filesystem::path& archivo, std::string& bytes) {
@@ -159,29 +202,12 @@ std::error_code leerBytes(const std::filesystem::path& archivo, std::string& byt
 }
 
 std::error_code reemplazarBytes(const std::filesystem::path& archivo, std::string_view bytes) {
-    std::error_code sinEnlace;
-    std::filesystem::path destino = std::filesystem::canonical(archivo, sinEnlace);
-    if (sinEnlace)
-        destino = archivo;
-    std::optional<struct stat> anterior;
-    if (const std::error_code error = comprobarReemplazable(destino, anterior))
-        return error;
-    std::filesystem::path temporal = destino;
-    temporal += ".";
-    temporal += std::to_string(::getpid());
-    temporal += ".tmp";
-    ::unlink(temporal.c_str()); // left by a process of the same number that was killed at this very point
-    std::error_code error = llenarTemporal(temporal, bytes, anterior);
-    if (anterior && prohibido(error)) // the folder takes no new file
-        return escribirEnElSitio(destino, bytes);
-    if (!error && ::rename(temporal.c_str(), destino.c_str()) != 0)
-        error = ultimoError();
-    if (error)
-        ::unlink(temporal.c_str());
-    else
-        asentarCarpeta(destino.parent_path());
-    quitarRestos(destino);
-    return error;
+    return reemplazar(archivo, bytes, std::nullopt);
+}
+
+std::error_code reemplazarBytesLeidos(const std::filesystem::path& archivo, std::string_view leidos,
+                                      std::string_view bytes) {
+    return reemplazar(archivo, bytes, leidos);
 }
 
 std::error_code anexarBytes(const std::filesystem::path& archivo, std::string_view bytes) {

@@ -23,5 +23,11 @@ std::error_code leerBytes(const std::filesystem::path& archivo, std::string& byt
 // place. After an error the old file stands (in place: as far as it was written) and no temporary one is left.
 std::error_code reemplazarBytes(const std::filesystem::path& archivo, std::string_view bytes);
 
+// The same, unless the file no longer holds `leidos` (nothing, when it was missing) once the new bytes are on the disk:
+// then it stays as it is, with resource_unavailable_try_again. So what another program saves meanwhile is not lost, but
+// for the moment between the last look and the new name.
+std::error_code reemplazarBytesLeidos(const std::filesystem::path& archivo, std::string_view leidos,
+                                      std::string_view bytes);
+
 // Appends to the file, which is created when missing. A full disk may leave a part of the bytes written.
 std::error_code anexarBytes(const std::filesystem::path& archivo, std::string_view bytes);

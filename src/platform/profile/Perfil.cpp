@@ -8,6 +8,9 @@
 
 namespace {
 
+// Another program may save the file between reading and writing; after so many times the key is written all the same.
+constexpr int intentosDeEscritura = 10;
+
 constexpr std::string_view marcaUtf8 = "\xEF\xBB\xBF";
 
 bool empiezaCon(std::string_view linea, char marca) {
@@ -132,9 +135,18 @@ std::string GetPrivateProfileStringA(std::string_view seccion, std::string_view 
 
 std::error_code WritePrivateProfileStringA(std::string_view seccion, std::string_view clave, std::string_view valor,
                                            const std::filesystem::path& archivo) {
-    std::string texto;
-    if (const std::error_code error = leerBytes(archivo, texto); error && error != std::errc::no_such_file_or_directory)
-        return error;
-    const std::string nuevo = conValor(texto, seccion, clave, valor);
-    return nuevo == texto ? std::error_code{} : reemplazarBytes(archivo, nuevo);
+    for (int intento = 1;; ++intento) {
+        std::string texto;
+        if (const std::error_code error = leerBytes(archivo, texto);
+            error && error != std::errc::no_such_file_or_directory)
+            return error;
+        const std::string nuevo = conValor(texto, seccion, clave, valor);
+        if (nuevo == texto)
+            return {};
+        if (intento == intentosDeEscritura)
+            return reemplazarBytes(archivo, nuevo);
+        const std::error_code error = reemplazarBytesLeidos(archivo, texto, nuevo);
+        if (error != std::errc::resource_unavailable_try_again)
+            return error;
+    }
 }

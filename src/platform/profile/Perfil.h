@@ -35,6 +35,7 @@ std::string GetPrivateProfileStringA(std::string_view seccion, std::string_view 
                                      std::size_t tamano, const std::filesystem::path& archivo);
 
 // Sets a key in the file; creates file and section when missing. Nothing is written to the disk when the text would
-// not change. A file that exists but cannot be read is an error, never overwritten.
+// not change. A file that exists but cannot be read is an error, never overwritten. What another program saves to the
+// file meanwhile stays.
 std::error_code WritePrivateProfileStringA(std::string_view seccion, std::string_view clave, std::string_view valor,
                                            const std::filesystem::path& archivo);
