@@ -253,6 +253,8 @@ void VistaTexto::showEvent(QShowEvent* evento) {
         botones_->show();
         colocarBarras();
     }
+    moviendoBarra_ = true; // by the base class, for its document
     QPlainTextEdit::showEvent(evento);
+    moviendoBarra_ = false;
     ponerAlDia();
 }

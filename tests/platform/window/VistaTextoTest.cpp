@@ -157,6 +157,18 @@ private Q_SLOTS:
         QCOMPARE(vista.verticalScrollBar()->value(), vista.verticalScrollBar()->maximum());
     }
 
+    void boxThatWasHiddenAtItsEndFollowsItWhenShownAgain() {
+        VistaTexto vista;
+        mostrarEnPantalla(vista);
+        vista.agregar(lineas(500));
+        vista.ponerAlDia();
+        vista.hide();
+        vista.agregar("mientras\r\n");
+        mostrarEnPantalla(vista);
+        QVERIFY(vista.sigueElFinal());
+        QCOMPARE(vista.verticalScrollBar()->value(), vista.verticalScrollBar()->maximum());
+    }
+
     void documentHoldsAnOrdinaryTextWhole() {
         VistaTexto vista;
         const std::string texto(VistaTexto::maximoEspejo - 10, 'x');
