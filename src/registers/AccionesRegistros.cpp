@@ -9,6 +9,7 @@
 #include "registers/TablaCsv.h"
 #include "registers/VistaPagina.h"
 
+#include <QAbstractButton>
 #include <QAction>
 #include <QActionGroup>
 #include <QCompleter>
@@ -60,7 +61,29 @@ void AccionesRegistros::crearFormatos() {
     });
 }
 
+// The keys are the grid's own; here they are only told.
+void AccionesRegistros::agregarEdicion(QMenu& menu) {
+    const auto entrada = [&](const QString& texto, auto hacer) {
+        menu.addAction(texto, this, [this, hacer] {
+            if (pagina_ != nullptr)
+                hacer(*pagina_);
+        });
+    };
+    entrada(QStringLiteral("&Copiar\tCtrl+C"), [](VistaPagina& vista) { vista.copiar(); });
+    entrada(QStringLiteral("&Pegar\tCtrl+V"), [](VistaPagina& vista) { vista.pegar(); });
+}
+
 void AccionesRegistros::agregarA(QMenu& menu) {
+    agregarEdicion(menu);
+    menu.addSeparator();
+    agregarComunes(menu);
+}
+
+void AccionesRegistros::agregarComunes(QMenu& menu) {
+    menu.addAction(QStringLiteral("E&scribir a mano…\tF2"), this, [this] {
+        if (pagina_ != nullptr)
+            pagina_->escribirAMano();
+    });
     menu.addAction(irA_);
     menu.addMenu(formatos_);
     menu.addAction(resaltar_);
@@ -73,7 +96,7 @@ void AccionesRegistros::seguir(VistaPagina& vista) {
     connect(&vista, &VistaPagina::pegado, this, &AccionesRegistros::pegar);
     connect(&vista, &VistaPagina::menuPedido, this, [this](QMenu* menu) {
         menu->addSeparator();
-        agregarA(*menu);
+        agregarComunes(*menu);
     });
 }
 
@@ -105,6 +128,8 @@ void AccionesRegistros::irA() {
     dialogo->setLabelText(QStringLiteral("Dirección, esclavo:dirección o nombre:"));
     dialogo->setOkButtonText(QStringLiteral("&Aceptar"));
     dialogo->setCancelButtonText(QStringLiteral("&Cancelar"));
+    for (auto* boton : dialogo->findChildren<QAbstractButton*>())
+        boton->setIcon(QIcon()); // as in all other windows
     QStringList nombres;
     for (const auto& [registro, etiqueta] : anotaciones_.etiquetas.todas())
         nombres << QString::fromStdString(etiqueta.nombre);
@@ -161,6 +186,13 @@ void AccionesRegistros::abrirGrafica() {
         registros.push_back({pagina_->numero(), direccion});
     if (registros.empty()) {
         avisarMsgBox(&ventana_, QStringLiteral("Seleccione en la cuadrícula hasta ocho registros"), vbInformation);
+        return;
+    }
+    if (registros.size() > VistaGrafica::maxLineas) {
+        avisarMsgBox(
+            &ventana_,
+            QStringLiteral("Hay %1 registros seleccionados: una gráfica dibuja hasta ocho").arg(registros.size()),
+            vbInformation);
         return;
     }
     auto* grafica = new FrmGrafica(esclavos_, anotaciones_, registros, &ventana_);

@@ -28,7 +28,7 @@ public:
     // All are borrowed and outlive this object. The window is the parent of every dialog, and has the keys.
     AccionesRegistros(Esclavos& esclavos, Anotaciones& anotaciones, QWidget& ventana);
 
-    // Entries for a menu of the window.
+    // Entries for a menu of the window; first of them what the grid does itself.
     void agregarA(QMenu& menu);
 
     // Connects a page; its grid's context menu gets the same entries.
@@ -44,6 +44,8 @@ Q_SIGNALS:
 private:
     QAction* crear(const QString& titulo, const QString& tecla, void (AccionesRegistros::*hacer)());
     void crearFormatos();
+    void agregarEdicion(QMenu& menu);
+    void agregarComunes(QMenu& menu);
     void pegar(int esclavo, int direccion, const QString& texto);
     void irA();
     void exportar();

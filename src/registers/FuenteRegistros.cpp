@@ -39,6 +39,23 @@ QString FuenteRegistros::texto(int fila, int columna) const {
     return textoDecimal(fila, columna);
 }
 
+QString FuenteRegistros::textoMasAncho() const {
+    switch (formato_) {
+    case FormatoRegistro::conSigno:
+        return QStringLiteral("-32768");
+    case FormatoRegistro::binario:
+        return QString(16, u'0');
+    case FormatoRegistro::entero32:
+    case FormatoRegistro::entero32Invertido:
+        return QStringLiteral("-2147483648");
+    case FormatoRegistro::flotante:
+    case FormatoRegistro::flotanteInvertido:
+        return QStringLiteral("-1,00000005e-38");
+    default:
+        return QStringLiteral("65535"); // hexadecimal is narrower
+    }
+}
+
 QString FuenteRegistros::textoDecimal(int fila, int columna) const {
     const auto x = valor(fila, columna);
     return x ? textoLocal(*x) : QString();

@@ -24,6 +24,7 @@ public:
     int filas() const override { return pagina_.filas(); }
     int columnas() const override { return columnasCuadricula; }
     QString texto(int fila, int columna) const override;
+    QString textoMasAncho() const override;
 
     // A register's name, its value in every format, who wrote it last and when.
     QString sugerencia(int fila, int columna) const override;

@@ -212,6 +212,12 @@ void VistaGrafica::pintarCursor(QPainter& pintor, const QRect& marco) const {
     const int x = marco.left() + static_cast<int>(parte * marco.width());
     pintor.setPen(QPen(palette().color(QPalette::Text), 1, Qt::DashLine));
     pintor.drawLine(x, marco.top(), x, marco.bottom());
+    const QString hora = QDateTime::fromMSecsSinceEpoch(*cursor_).toString(QStringLiteral("HH:mm:ss.zzz"));
+    QRect sitio = fontMetrics().boundingRect(hora).adjusted(-4, -2, 4, 2);
+    sitio.moveTopLeft({x + sitio.width() > marco.right() ? x - sitio.width() : x, marco.top()});
+    pintor.fillRect(sitio, palette().brush(QPalette::ToolTipBase));
+    pintor.setPen(palette().color(QPalette::ToolTipText));
+    pintor.drawText(sitio, Qt::AlignCenter, hora);
 }
 
 QString VistaGrafica::valorDeLeyenda(const LineaGrafica& linea) const {

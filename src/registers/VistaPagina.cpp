@@ -121,7 +121,7 @@ void VistaPagina::desvanecer() {
 
 void VistaPagina::ponerFormato(FormatoRegistro formato) {
     fuente_.ponerFormato(formato);
-    cuadricula_->refrescar();
+    cuadricula_->medirTextos();
 }
 
 void VistaPagina::irA(int direccion) {
@@ -131,6 +131,18 @@ void VistaPagina::irA(int direccion) {
 
 void VistaPagina::enfocar() {
     cuadricula_->setFocus();
+}
+
+void VistaPagina::escribirAMano() {
+    cuadricula_->activar();
+}
+
+void VistaPagina::copiar() const {
+    cuadricula_->copiar();
+}
+
+void VistaPagina::pegar() {
+    cuadricula_->pegar();
 }
 
 std::vector<int> VistaPagina::seleccion() const {

@@ -42,6 +42,11 @@ public:
     // Gives the grid the keyboard focus.
     void enfocar();
 
+    // What the grid's keys do: writing its current register by hand, copying its selection, pasting.
+    void escribirAMano();
+    void copiar() const;
+    void pegar();
+
 Q_SIGNALS:
     // A double click (or Enter, F2) on the cell of register `direccion`, which shows `texto`.
     void celdaActivada(int esclavo, int direccion, const QString& texto);

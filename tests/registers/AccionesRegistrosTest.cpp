@@ -155,6 +155,25 @@ private Q_SLOTS:
         QCOMPARE(destino.count(), 0);
     }
 
+    void menusCopyPasteAndWriteTheRegisterInFront() {
+        const auto entrada = [](const QMenu& menu, const char* texto) {
+            for (QAction* accion : menu.actions())
+                if (accion->text().remove(u'&').section(u'\t', 0, 0) == QString::fromUtf8(texto))
+                    return accion;
+            return static_cast<QAction*>(nullptr);
+        };
+        QMenu menu;
+        acciones_->agregarA(menu);
+        esclavos_->escribir(2, 0, 321);
+        entrada(menu, "Copiar")->trigger();
+        vista_->irA(11);
+        entrada(menu, "Pegar")->trigger();
+        QCOMPARE(esclavos_->leer(2, 11), 321.0);
+        QSignalSpy activada(vista_, &VistaPagina::celdaActivada);
+        entrada(menu, "Escribir a mano…")->trigger();
+        QCOMPARE(activada.first().at(1).toInt(), 11);
+    }
+
     void ctrlVPastesRowsOfNumbers() {
         QGuiApplication::clipboard()->setText(QStringLiteral("1\t-1\t12,5\r\n\t7\r\n"));
         vista_->irA(3);
@@ -231,6 +250,13 @@ private Q_SLOTS:
         auto* tiempo = grafica.findChild<QComboBox*>(QStringLiteral("cmbTiempo"));
         QTest::keyClick(tiempo, Qt::Key_End);
         QCOMPARE(vista->ventana(), std::int64_t{3'600'000});
+    }
+
+    void moreRegistersThanAChartDrawsAreToldAndNotCutSilently() {
+        grid().selectAll();
+        QTest::keyClick(&grid(), Qt::Key_R, Qt::ControlModifier);
+        QCOMPARE(mensajeDeUnaCaja(), QStringLiteral("Hay 100 registros seleccionados: una gráfica dibuja hasta ocho"));
+        QVERIFY(ventana_->findChild<FrmGrafica*>() == nullptr);
     }
 
     void aChartWithoutASelectionIsToldHowToMakeOne() {

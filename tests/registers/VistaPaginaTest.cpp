@@ -8,6 +8,7 @@
 #include <QHeaderView>
 #include <QLocale>
 #include <QPlainTextEdit>
+#include <QScrollBar>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -55,6 +56,20 @@ private Q_SLOTS:
         QVERIFY(QTest::qWaitForWindowExposed(vista_.get()));
         pinturas_ = 0;
         grid().viewport()->installEventFilter(this);
+    }
+
+    void noFormatCutsItsTexts() {
+        for (int a = 0; a < 100; ++a)
+            esclavos_->escribir(2, a, a % 2 == 0 ? 32896 : 65535);
+        for (const NombreFormato& formato : formatosRegistro) {
+            vista_->ponerFormato(formato.formato);
+            for (int columna = 1; columna <= 10; ++columna) {
+                const int ancho = grid().fontMetrics().horizontalAdvance(celda(1, columna));
+                QVERIFY2(grid().columnWidth(columna - 1) > ancho + 6, formato.titulo.data());
+            }
+        }
+        vista_->ponerFormato(FormatoRegistro::decimal);
+        QTRY_VERIFY(!grid().horizontalScrollBar()->isVisible());
     }
 
     void theSevenControlsBearTheirNames() {

@@ -18,6 +18,9 @@ public:
     virtual QString texto(int fila, int columna) const = 0;
     virtual QString sugerencia(int fila, int columna) const = 0; // the tooltip, empty for none
 
+    // The widest text that a cell below the headings is made for.
+    virtual QString textoMasAncho() const { return QStringLiteral("65535"); }
+
     // The ground of a cell below the headings; invalid: the view's own.
     virtual QColor fondo(int /*fila*/, int /*columna*/, const QPalette& /*paleta*/) const { return {}; }
 

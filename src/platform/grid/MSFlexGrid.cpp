@@ -117,6 +117,12 @@ void MSFlexGrid::refrescar() {
         viewport()->update();
 }
 
+void MSFlexGrid::medirTextos() {
+    anchosPropios_ = false;
+    medir();
+    refrescar();
+}
+
 QString MSFlexGrid::textoSeleccionado() const {
     const QItemSelection seleccion = selectionModel()->selection();
     QRect marco;
@@ -145,15 +151,23 @@ void MSFlexGrid::copiar() const {
         QGuiApplication::clipboard()->setText(textoSeleccionado());
 }
 
+void MSFlexGrid::pegar() {
+    Q_EMIT pegado(Row(), Col(), QGuiApplication::clipboard()->text());
+}
+
+void MSFlexGrid::activar() {
+    if (currentIndex().isValid())
+        Q_EMIT celdaActivada(Row(), Col());
+}
+
 void MSFlexGrid::keyPressEvent(QKeyEvent* evento) {
     const int tecla = evento->key();
     if (evento->matches(QKeySequence::Copy)) {
         copiar();
     } else if (evento->matches(QKeySequence::Paste)) {
-        Q_EMIT pegado(Row(), Col(), QGuiApplication::clipboard()->text());
+        pegar();
     } else if (tecla == Qt::Key_F2 || tecla == Qt::Key_Return || tecla == Qt::Key_Enter) {
-        if (currentIndex().isValid())
-            Q_EMIT celdaActivada(Row(), Col());
+        activar();
     } else {
         QTableView::keyPressEvent(evento);
     }
@@ -172,8 +186,7 @@ void MSFlexGrid::contextMenuEvent(QContextMenuEvent* evento) {
     menu->addAction(QStringLiteral("&Copiar\tCtrl+C"), this, &MSFlexGrid::copiar)
         ->setEnabled(selectionModel()->hasSelection());
     menu->addAction(QStringLiteral("&Seleccionar todo\tCtrl+A"), this, &MSFlexGrid::selectAll);
-    menu->addAction(QStringLiteral("&Pegar\tCtrl+V"), this,
-                    [this] { Q_EMIT pegado(Row(), Col(), QGuiApplication::clipboard()->text()); });
+    menu->addAction(QStringLiteral("&Pegar\tCtrl+V"), this, &MSFlexGrid::pegar);
     Q_EMIT menuPedido(menu);
     menu->popup(evento->globalPos());
 }
@@ -211,7 +224,7 @@ void MSFlexGrid::medir() {
         ancho = std::max(ancho, titulo.horizontalAdvance(texto) + 2 * margen);
     verticalHeader()->setFixedWidth(ancho);
     horizontalHeader()->setFixedHeight(titulo.height() + 2 * margen);
-    horizontalHeader()->setMinimumSectionSize(letra.horizontalAdvance(QStringLiteral("65535")) + 2 * margen);
+    horizontalHeader()->setMinimumSectionSize(letra.horizontalAdvance(fuente_.textoMasAncho()) + 2 * margen);
     repartirColumnas();
     updateGeometries();
 }

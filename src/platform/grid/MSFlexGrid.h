@@ -52,8 +52,16 @@ public:
     // The source has changed: repaints what can be seen.
     void refrescar();
 
+    // The source writes its cells in another way: the columns share the view anew, none narrower than the widest text.
+    void medirTextos();
+
     // The selected cells: a tab between columns, a line feed between rows, nothing for a cell that is not selected.
     QString textoSeleccionado() const;
+
+    // What Enter, Ctrl+C and Ctrl+V do.
+    void activar();
+    void copiar() const;
+    void pegar();
 
     // Typed characters do not search: a digit under the finger is not a wish to jump.
     void keyboardSearch(const QString& /*texto*/) override {}
@@ -81,7 +89,6 @@ private:
     void medir();
     void repartirColumnas();
     void pintarEsquina();
-    void copiar() const;
 
     const FuenteCuadricula& fuente_;
     ModeloCuadricula* modelo_;
