@@ -7,8 +7,10 @@
 #include "shell/AyudaContextual.h"
 
 #include <QCheckBox>
+#include <QCoreApplication>
 #include <QFileDialog>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -31,6 +33,13 @@ FrmTxRx::FrmTxRx(QWidget& principal, Monitores& monitores)
     diseno->addWidget(Text1_, 1);
     resize(fontMetrics().averageCharWidth() * 110, fontMetrics().height() * 24);
     ponerAyudaContextual(*this);
+}
+
+void FrmTxRx::keyPressEvent(QKeyEvent* evento) {
+    if (VistaTexto::esTeclaDeMando(*evento))
+        QCoreApplication::sendEvent(Text1_, evento);
+    else
+        QWidget::keyPressEvent(evento);
 }
 
 QCheckBox* FrmTxRx::casilla(const char* nombre, const QString& texto, const QString& ayuda, bool marcada) {

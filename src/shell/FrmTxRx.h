@@ -20,6 +20,10 @@ public:
     // Asks for a file and writes the traffic kept at this moment into it, as a capture (pcap).
     void guardarTrafico();
 
+protected:
+    // The keys of the monitor work wherever in this window the focus is.
+    void keyPressEvent(QKeyEvent* evento) override;
+
 private:
     QHBoxLayout* crearMandos();
     QCheckBox* casilla(const char* nombre, const QString& texto, const QString& ayuda, bool marcada);

@@ -2,6 +2,7 @@
 
 #include "CajaDeMensaje.h"
 #include "PrincipalDePrueba.h"
+#include "platform/window/BarraBusqueda.h"
 #include "platform/window/VistaTexto.h"
 
 #include <QCheckBox>
@@ -133,6 +134,16 @@ private Q_SLOTS:
         pedirDeTodo(*maestro);
         QTRY_COMPARE(lineas().size(), 6);
         QVERIFY(lineas()[0].endsWith(QLatin1String(" ( <-RX- Lectura ) 0 1 0 0 0 6 2 3 0 0 0 2")));
+    }
+
+    void theMonitorsKeysWorkWhereverTheFocusIs() {
+        QTest::keyClick(&control<QCheckBox>("chHexadecimal"), Qt::Key_P, Qt::ControlModifier);
+        QVERIFY(control<VistaTexto>("Text1").pausada());
+        QTest::keyClick(&control<QPushButton>("btnGuardarTrafico"), Qt::Key_P, Qt::ControlModifier);
+        QVERIFY(!control<VistaTexto>("Text1").pausada());
+        QTest::keyClick(&control<QCheckBox>("chOtras"), Qt::Key_F, Qt::ControlModifier);
+        auto* const barra = control<VistaTexto>("Text1").findChild<BarraBusqueda*>();
+        QVERIFY(barra != nullptr && barra->isVisible());
     }
 
     void showsBytesInHexadecimalAndBack() {

@@ -76,6 +76,9 @@ public:
     // Marks every occurrence; empty: none.
     void resaltar(const QString& patron, Qt::CaseSensitivity caja = Qt::CaseInsensitive) override;
 
+    // Whether it is one of the keys that search, save and pause, which a box always takes.
+    static bool esTeclaDeMando(const QKeyEvent& evento);
+
     // Asks for a file and writes what is shown at this moment, as UTF-8 with CR LF.
     void guardar();
 

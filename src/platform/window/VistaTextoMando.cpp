@@ -108,6 +108,11 @@ bool VistaTexto::moverConTecla(const QKeyEvent& evento) {
     }
 }
 
+bool VistaTexto::esTeclaDeMando(const QKeyEvent& evento) {
+    return evento.matches(QKeySequence::Find) || evento.matches(QKeySequence::Save) || evento.key() == Qt::Key_F3 ||
+           (evento.modifiers() == Qt::ControlModifier && evento.key() == Qt::Key_P);
+}
+
 void VistaTexto::keyPressEvent(QKeyEvent* evento) {
     const bool ctrl = evento->modifiers() == Qt::ControlModifier;
     if (evento->matches(QKeySequence::SelectAll)) {
