@@ -59,6 +59,21 @@ TEST(Array, aCopySharesUntilItIsWritten) {
     EXPECT_TRUE(a.array()->elements()[0].isEmpty());
 }
 
+TEST(Array, givesBackEveryByteThatItTook) {
+    const std::size_t before = memoryMeter().used;
+    {
+        const std::int32_t sizes[] = {3, 4, 5};
+        Value a = Value::ofArray(ArrayBlock::create(sizes));
+        EXPECT_GE(memoryMeter().used, before + 60 * sizeof(Value));
+        Value b = a;
+        writableArray(b).elements()[59] = Value::ofArray(ArrayBlock::create(7));
+        EXPECT_GE(memoryMeter().used, before + 127 * sizeof(Value));
+        a = Value();
+        const Value none = Value::ofArray(ArrayBlock::create(0));
+    }
+    EXPECT_EQ(memoryMeter().used, before);
+}
+
 TEST(Array, aMillionElementsTakeSixteenBytesEach) {
     const std::size_t before = memoryMeter().used;
     const Value a = Value::ofArray(ArrayBlock::create(1000000));

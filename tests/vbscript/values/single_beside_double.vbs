@@ -10,3 +10,6 @@ End Select
 WScript.Echo CSng(0.1) = 0.10001, CSng(16777216) = 16777217.0 '> False True
 ' A difference is a Double again.
 WScript.Echo CSng(0.1) - 0.1 = 0 '> False
+' So is a Single beside a Currency.
+c = CCur(0.1)
+WScript.Echo CSng(0.1) = c, c = CSng(0.1), s < c, c < s, c <> s, CSng(0.3) = CCur(0.3001) '> True True False False False False

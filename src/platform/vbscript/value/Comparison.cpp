@@ -16,13 +16,16 @@ double narrowed(const Value& v) noexcept {
     return static_cast<double>(static_cast<float>(plainNumber(v)));
 }
 
-// A Single beside a Double is compared with the precision of the Single.
+bool isWiderReal(const Value& v) noexcept {
+    return v.type == Type::Double || v.type == Type::Currency;
+}
+
+// A Single beside a Double or a Currency is compared with the precision of the Single.
 Ordering orderNumbers(const Value& x, const Value& y) noexcept {
     if ((isWholeKind(x) && isWholeKind(y)) || (x.type == Type::Currency && y.type == Type::Currency)) {
         return x.n < y.n ? Ordering::Less : x.n > y.n ? Ordering::Greater : Ordering::Equal;
     }
-    const bool single =
-        (x.type == Type::Single && y.type == Type::Double) || (x.type == Type::Double && y.type == Type::Single);
+    const bool single = (x.type == Type::Single && isWiderReal(y)) || (isWiderReal(x) && y.type == Type::Single);
     const double p = single ? narrowed(x) : plainNumber(x);
     const double q = single ? narrowed(y) : plainNumber(y);
     return p < q ? Ordering::Less : p > q ? Ordering::Greater : p == q ? Ordering::Equal : Ordering::Unordered;
