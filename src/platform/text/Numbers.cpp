@@ -27,9 +27,11 @@ int digitValue(char16_t c) noexcept {
     return isDigit(c) ? c - u'0' : small >= u'a' && small <= u'f' ? small - u'a' + 10 : 99;
 }
 
-// What stands after &H or &O: a 16-bit pattern is a 16-bit integer, a longer one has 32 bits, both signed.
+// What stands after &H or &O: a 16-bit pattern is a 16-bit integer, a longer one or one with an & at its end has 32
+// bits, both signed.
 std::optional<double> readRadix(std::u16string_view digits, unsigned radix) {
-    if (digits.ends_with(u'&')) {
+    const bool longMark = digits.ends_with(u'&');
+    if (longMark) {
         digits.remove_suffix(1);
     }
     std::uint64_t bits = 0;
@@ -43,8 +45,9 @@ std::optional<double> readRadix(std::u16string_view digits, unsigned radix) {
     if (digits.empty()) {
         return std::nullopt;
     }
-    return bits <= 0xFFFF ? static_cast<double>(static_cast<std::int16_t>(bits))
-                          : static_cast<double>(static_cast<std::int32_t>(bits));
+    const bool wide = longMark || bits > 0xFFFF;
+    return wide ? static_cast<double>(static_cast<std::int32_t>(bits))
+                : static_cast<double>(static_cast<std::int16_t>(bits));
 }
 
 // Takes `piece` off the front of `text`.

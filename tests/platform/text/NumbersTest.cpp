@@ -39,6 +39,8 @@ TEST(ReadNumber, readsHexadecimalAndOctalText) {
     EXPECT_EQ(typed("&hffff"), -1.0);
     EXPECT_EQ(typed("&H10000"), 65536.0);
     EXPECT_EQ(typed("&HFFFFFFFF"), -1.0);
+    EXPECT_EQ(typed("&HFFFF"), -1.0);
+    EXPECT_EQ(typed("&HFFFF&"), 65535.0);
     EXPECT_EQ(typed("&O17"), 15.0);
     EXPECT_EQ(typed("&17"), 15.0);
 }
