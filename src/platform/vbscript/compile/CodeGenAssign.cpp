@@ -223,7 +223,11 @@ void CodeGen::assignOwn(const ClassMember& member, const std::vector<Expr*>& arg
         }
         return;
     }
-    const Procedure* procedure = store == Store::Set && member.set != nullptr ? member.set : member.let;
+    const Procedure* procedure = store == Store::Set ? member.set : member.let;
+    if (procedure == nullptr && store == Store::Set && member.let != nullptr) {
+        raiseAtRun(ErrorNumber::MemberNotFound, noSymbol);
+        return;
+    }
     if (procedure == nullptr) {
         raiseAtRun(member.set != nullptr ? ErrorNumber::ObjectRequired : ErrorNumber::IllegalAssignment, noSymbol);
         return;

@@ -198,8 +198,8 @@ void Vm::assignMember(Object* object, MemberSite& site, Value* first, std::size_
     const Procedure* procedure = set ? member.set : member.let;
     if (procedure == nullptr) {
         // A property that hands out an object or array may still be assigned through.
-        raise(count == 0 || readerOf(member) == nullptr ? ErrorNumber::MemberNotFound : ErrorNumber::WrongArgumentCount,
-              symbols_.name(site.symbol));
+        const bool through = !set && count != 0 && readerOf(member) != nullptr;
+        raise(through ? ErrorNumber::WrongArgumentCount : ErrorNumber::MemberNotFound, symbols_.name(site.symbol));
     }
     pushFrame(procedure, first, count + 1, &instance, nullptr, Store::Discard);
 }
