@@ -1,10 +1,10 @@
 # Fuzz targets: one source with LLVMFuzzerTestOneInput, built in two ways.
 
-# esclavo_fuzz(NAME SOURCES file... LINK target... CORPUS folder)
+# esclavo_fuzz(NAME SOURCES file... LINK target... CORPUS folder [SCRIPTS folder...])
 # With ESCLAVO_FUZZ (preset fuzz): a libFuzzer binary. Else, where tests are built: a program that hands every file of
-# fuzz/corpus/<folder> to the target once, run as the CTest test NAME.
+# fuzz/corpus/<folder>, and of the named folders of tests/vbscript, to the target once, run as the CTest test NAME.
 function(esclavo_fuzz name)
-  cmake_parse_arguments(ARG "" "CORPUS" "SOURCES;LINK" ${ARGN})
+  cmake_parse_arguments(ARG "" "CORPUS" "SOURCES;LINK;SCRIPTS" ${ARGN})
   if(NOT ESCLAVO_FUZZ)
     list(APPEND ARG_SOURCES ${CMAKE_SOURCE_DIR}/fuzz/replay_main.cpp)
   endif()
@@ -14,7 +14,8 @@ function(esclavo_fuzz name)
   if(ESCLAVO_FUZZ)
     target_link_options(${name} PRIVATE -fsanitize=fuzzer)
   else()
-    add_test(NAME ${name} COMMAND ${name} ${CMAKE_SOURCE_DIR}/fuzz/corpus/${ARG_CORPUS})
+    list(TRANSFORM ARG_SCRIPTS PREPEND ${CMAKE_SOURCE_DIR}/tests/vbscript/)
+    add_test(NAME ${name} COMMAND ${name} ${CMAKE_SOURCE_DIR}/fuzz/corpus/${ARG_CORPUS} ${ARG_SCRIPTS})
     set_tests_properties(${name} PROPERTIES TIMEOUT 600)
   endif()
 endfunction()

@@ -1,1 +1,0 @@
-WScript.Echo &H10 & "x" '> 16x

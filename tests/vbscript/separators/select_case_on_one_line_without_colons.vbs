@@ -1,2 +1,0 @@
-Select Case "a" Case "a" WScript.Echo "uno" End Select
-'> uno
