@@ -214,10 +214,10 @@ class Vandal:
                     reset(connection)
 
     def garbage(self, connection):
-        # High bytes only: no unit of the others', and no function that writes.
+        # Wherever the station takes a frame to begin, the unit is one of these: no slave of the others', none that is
+        # new (each takes memory, which would look like a leak), and no function that writes.
         for _ in range(self.random.randrange(1, 20)):
-            block = bytearray(self.random.randrange(128, 256) for _ in range(self.random.randrange(1, 300)))
-            block[6:7] = bytes([self.random.choice(HOSTILE_UNITS)])
+            block = bytes(self.random.choices(HOSTILE_UNITS, k=self.random.randrange(1, 300)))
             connection.sendall(block)
 
     def half_frame(self, connection):
@@ -229,11 +229,11 @@ class Vandal:
     def flood_unread(self, connection):
         """Asks as much as the station takes, and never reads an answer."""
         connection.setblocking(False)
-        asked = frame(9, HOSTILE_UNITS[0], READ, 0, 100) * 50
+        asked = rest = frame(9, HOSTILE_UNITS[0], READ, 0, 100) * 50
         until = time.monotonic() + self.random.uniform(1, 5)
         while time.monotonic() < until and not self.soak.stopped.wait(0.02):
             with contextlib.suppress(BlockingIOError):
-                connection.send(asked)
+                rest = rest[connection.send(rest):] or asked
 
     def silence(self, _connection):
         self.soak.stopped.wait(self.random.uniform(0, 3))
