@@ -40,7 +40,7 @@ private:
 
     TextoMonitor& monitor_;
     Seguimiento seguimiento_;
-    QTimer espera_;
+    QTimer espera_{this};
     std::uint64_t generacion_ = 0; // of the text shown
     std::uint64_t borrados_ = 0;
     std::size_t tomados_ = 0; // characters of the monitor that the box has taken

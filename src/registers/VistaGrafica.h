@@ -83,5 +83,5 @@ private:
     std::int64_t ventana_ = 60'000;
     std::optional<std::int64_t> parada_; // the time at which it stands still
     std::optional<std::int64_t> cursor_;
-    QTimer repintado_;
+    QTimer repintado_{this};
 };

@@ -12,8 +12,9 @@
 
 namespace {
 
-constexpr qint64 entreRepintados = 17; // ms: at most 60 a second
-constexpr int entreMatices = 100;      // ms between two shades of a colour that fades out
+constexpr int entreRepintados = 17; // ms: at most 60 a second
+constexpr int entreMatices = 100;   // ms between two shades of a colour that fades out
+constexpr int matices = Anotaciones::tiempoResaltado / entreMatices + 1; // the last shade is none
 
 } // namespace
 
@@ -50,7 +51,7 @@ VistaPagina::VistaPagina(const Esclavos& esclavos, Pagina& pagina, QWidget* txtT
     desvanecido_.setInterval(entreMatices);
     connect(&desvanecido_, &QTimer::timeout, this, &VistaPagina::desvanecer);
     espera_.setSingleShot(true);
-    connect(&espera_, &QTimer::timeout, this, &VistaPagina::ponerAlDia);
+    connect(&espera_, &QTimer::timeout, this, &VistaPagina::seguirPagina);
     pagina_.observar(this);
     pagina_.desmarcar();
 }
@@ -91,11 +92,7 @@ QCheckBox* VistaPagina::crearCasilla(const char* nombre, const QString& titulo, 
 }
 
 void VistaPagina::paginaCambiada(Pagina& /*pagina*/) {
-    if (!isVisible())
-        return; // stays marked until it is shown
-    if (desdeUltima_.isValid())
-        espera_.start(static_cast<int>(std::max<qint64>(0, entreRepintados - desdeUltima_.elapsed())));
-    else
+    if (isVisible() && !espera_.isActive())
         espera_.start(0);
 }
 
@@ -103,18 +100,23 @@ void VistaPagina::filasAgregadas(Pagina& /*pagina*/) {
     cuadricula_->agregarFilas();
 }
 
+// A hidden page stays marked until it is shown.
+void VistaPagina::seguirPagina() {
+    if (isVisible() && pagina_.marcada())
+        ponerAlDia();
+}
+
 void VistaPagina::ponerAlDia() {
-    espera_.stop();
     pagina_.desmarcar();
     cuadricula_->refrescar();
-    desdeUltima_.start();
+    espera_.start(entreRepintados);
+    matices_ = 0;
     if (anotaciones_ != nullptr && anotaciones_->resaltarCambios && isVisible() && !desvanecido_.isActive())
         desvanecido_.start();
 }
 
-// The last shade is none, so it repaints once more after the time is over.
 void VistaPagina::desvanecer() {
-    if (!isVisible() || desdeUltima_.elapsed() > Anotaciones::tiempoResaltado + entreMatices)
+    if (!isVisible() || ++matices_ > matices)
         desvanecido_.stop();
     cuadricula_->refrescar();
 }

@@ -1,13 +1,13 @@
 // The page of a slave in the main window: its grid, the frame with its four check boxes, its frame monitor.
 //
-// The page follows its Pagina: the first mark starts a timer, so that a burst of writes costs one repaint, at most 60
-// a second, and an idle page costs nothing. New rows are there at once, whether the page can be seen or not. The
-// check boxes write the Pagina. The controls bear the slave number in their names: MSFlexGrid(3), ChRecibir(3) ...
+// The page follows its Pagina: the first mark starts a timer, so that a burst of writes costs one repaint; after each
+// the page rests, so that there are at most 60 a second. An idle page costs nothing. New rows are there at once,
+// whether the page can be seen or not. The check boxes write the Pagina. The controls bear the slave number in their
+// names: MSFlexGrid(3), ChRecibir(3) ...
 #pragma once
 
 #include "registers/FuenteRegistros.h"
 
-#include <QElapsedTimer>
 #include <QMenu>
 #include <QTimer>
 #include <QWidget>
@@ -63,6 +63,7 @@ protected:
 private:
     void paginaCambiada(Pagina& pagina) override;
     void filasAgregadas(Pagina& pagina) override;
+    void seguirPagina();
     void ponerAlDia();
     void desvanecer();
     QWidget* crearMarco();
@@ -72,8 +73,8 @@ private:
     Pagina& pagina_;
     FuenteRegistros fuente_;
     MSFlexGrid* cuadricula_;
-    QTimer espera_;
-    QElapsedTimer desdeUltima_; // time since the last repaint
+    QTimer espera_{this}; // until the next repaint; runs out once more after the last
     const Anotaciones* anotaciones_;
-    QTimer desvanecido_; // repaints while colours fade out
+    QTimer desvanecido_{this}; // repaints while colours fade out
+    int matices_ = 0;          // such repaints since a register has changed
 };

@@ -47,7 +47,7 @@ private:
     QCheckBox* chEjecutar_ = nullptr;
     QLabel* lblTiempos_ = nullptr;
     QPushButton* btnPanel_ = nullptr;
-    QTimer reloj_;
+    QTimer reloj_{this};
     std::optional<std::chrono::nanoseconds> compilacion_;
 };
 

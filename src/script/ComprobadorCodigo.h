@@ -43,6 +43,6 @@ private:
     std::function<qsizetype()> cuantos_;
     vbs::Host host_;
     vbs::ScriptControl motor_{host_};
-    QTimer reloj_;
+    QTimer reloj_{this};
     std::chrono::nanoseconds ultima_{0};
 };

@@ -1,6 +1,7 @@
 #include "registers/AccionesRegistros.h"
 
 #include "CajaDeMensaje.h"
+#include "PasoDelTiempo.h"
 #include "platform/grid/MSFlexGrid.h"
 #include "registers/FrmGrafica.h"
 #include "registers/Pegado.h"
@@ -20,17 +21,22 @@
 #include <QTest>
 #include <QVBoxLayout>
 
+#include <chrono>
 #include <memory>
+
+using namespace std::chrono_literals;
 
 class TestAccionesRegistros : public QObject {
     Q_OBJECT
 
 private:
+    std::int64_t hora_ = 0; // ms since 1970
     std::unique_ptr<Esclavos> esclavos_;
     std::unique_ptr<Anotaciones> anotaciones_;
     std::unique_ptr<QWidget> ventana_;
     VistaPagina* vista_ = nullptr;
     AccionesRegistros* acciones_ = nullptr;
+    int pinturas_ = 0;
 
     MSFlexGrid& grid() { return *vista_->findChild<MSFlexGrid*>(); }
     QString celda(int direccion) { return grid().TextMatrix(direccion / 10 + 1, direccion % 10 + 1); }
@@ -46,6 +52,15 @@ private:
                     if (uno->data().toInt() == static_cast<int>(cual))
                         return uno;
         return nullptr;
+    }
+    bool eventFilter(QObject* objeto, QEvent* evento) override {
+        pinturas_ += evento->type() == QEvent::Paint ? 1 : 0;
+        return QObject::eventFilter(objeto, evento);
+    }
+    // Clock and timers of the window.
+    void pasar(std::chrono::milliseconds cuanto) {
+        hora_ += cuanto.count();
+        PasoDelTiempo(*ventana_).pasar(cuanto);
     }
     QString mensajeDeUnaCaja() {
         QMessageBox* caja = nullptr;
@@ -70,7 +85,8 @@ private Q_SLOTS:
         QLocale::setDefault(QLocale(QLocale::Spanish, QLocale::Spain));
         esclavos_ = std::make_unique<Esclavos>();
         esclavos_->crearEsclavo(2, 0, 99);
-        anotaciones_ = std::make_unique<Anotaciones>();
+        hora_ = std::int64_t{1'800'000'000'000};
+        anotaciones_ = std::make_unique<Anotaciones>(Anotaciones{Cambios([this] { return hora_; }), {}, true});
         anotaciones_->etiquetas.leer("2;5;Nivel;%;sonda norte\n");
         esclavos_->observarCambios(&anotaciones_->cambios);
         ventana_ = std::make_unique<QWidget>();
@@ -116,15 +132,38 @@ private Q_SLOTS:
 
     void aChangedCellIsColouredForItsWriterAndFadesOut() {
         const auto fondo = [this] { return vista_->grab().toImage(); };
-        QTRY_COMPARE(fondo(), fondo());
+        pasar(1min);
         const QImage antes = fondo();
         esclavos_->darValorEsclavoLogico(2, 33, 0, Autor::maestro); // same value: no change, no colour
-        QTest::qWait(60);
+        pasar(1s);
         QCOMPARE(fondo(), antes);
         esclavos_->darValorEsclavoLogico(2, 33, 1, Autor::maestro);
         esclavos_->darValorEsclavoLogico(2, 33, 0, Autor::maestro);
-        QTRY_VERIFY(fondo() != antes);
-        QTRY_COMPARE_WITH_TIMEOUT(fondo(), antes, 6000);
+        const QImage recien = fondo();
+        QVERIFY(recien != antes);
+        pasar(2900ms);
+        const QImage casi = fondo();
+        QVERIFY(casi != antes && casi != recien);
+        pasar(100ms);
+        QCOMPARE(fondo(), antes);
+    }
+
+    void aColourIsRepaintedUntilItIsGoneAndThenNoMore() {
+        pasar(1min);
+        esclavos_->darValorEsclavoLogico(2, 33, 1, Autor::maestro);
+        PasoDelTiempo tiempo(*ventana_);
+        grid().viewport()->installEventFilter(this);
+        int veces = 0;
+        int ultima = 0; // ms after the change
+        for (int ms = 20; ms <= 10'000; ms += 20) {
+            pinturas_ = 0;
+            hora_ += 20;
+            tiempo.pasar(20ms);
+            veces += pinturas_;
+            ultima = pinturas_ > 0 ? ms : ultima;
+        }
+        QVERIFY2(veces >= 20 && veces <= 40, qPrintable(QString::number(veces)));
+        QVERIFY2(ultima >= Anotaciones::tiempoResaltado && ultima < 4000, qPrintable(QString::number(ultima)));
     }
 
     void coloursCanBeSwitchedOff() {
@@ -132,7 +171,7 @@ private Q_SLOTS:
         anotaciones_->resaltarCambios = false;
         esclavos_->escribir(2, 33, 1);
         esclavos_->escribir(2, 33, 0);
-        QTest::qWait(60);
+        pasar(1s);
         QCOMPARE(vista_->grab().toImage(), antes);
     }
 
@@ -217,7 +256,7 @@ private Q_SLOTS:
         QCOMPARE(grafica->lineas().size(), std::size_t{2});
         QCOMPARE(grafica->lineas()[0].titulo, QStringLiteral("Nivel (2:5)"));
         QCOMPARE(grafica->lineas()[1].titulo, QStringLiteral("2:6"));
-        QTest::qWait(30);
+        pasar(30ms);
         esclavos_->escribir(2, 5, 50);
         QCOMPARE(*grafica->lineas()[0].historia.valorEn(anotaciones_->cambios.hora()), 50.0);
         const QString csv = grafica->comoCsv();
@@ -241,7 +280,7 @@ private Q_SLOTS:
         QTest::mouseClick(pausa, Qt::LeftButton, {}, QPoint(8, pausa->height() / 2));
         QVERIFY(vista->pausada());
         const auto fin = vista->fin();
-        QTest::qWait(20);
+        pasar(20s);
         QCOMPARE(vista->fin(), fin);
         QTest::mouseClick(vista, Qt::LeftButton, {}, QPoint(vista->width() / 2, vista->height() / 2));
         QVERIFY(vista->cursor() && *vista->cursor() < fin && *vista->cursor() > fin - vista->ventana());

@@ -117,14 +117,14 @@ private Q_SLOTS:
             char leido = 0;
             avisos += static_cast<int>(read(extremos[0], &leido, 1));
         });
-        QTimer::singleShot(1, this, [&] { ++vencidos; });
-        for (int vez = 0; vez < 10; ++vez) {
+        QTimer reloj; // always due
+        connect(&reloj, &QTimer::timeout, this, [&] { ++vencidos; });
+        reloj.start(0);
+        for (int vez = 0; vez < 10; ++vez)
             barra_->atender(3s);
-            QTest::qSleep(2);
-        }
         QCOMPARE(avisos, 0);
         QCOMPARE(vencidos, 0);
-        QTRY_COMPARE(vencidos, 1);
+        QTRY_VERIFY(vencidos > 0);
         QTRY_COMPARE(avisos, 1);
         close(extremos[0]);
         close(extremos[1]);

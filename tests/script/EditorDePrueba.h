@@ -26,7 +26,11 @@ protected:
     std::unique_ptr<QWidget> principal_;
     QCheckBox* chScript_ = nullptr;
     std::vector<bool> clics_; // of chScript
-    EventosQt eventos_;
+    // Each look at the clock is a millisecond later than the last: events are let pass whenever they are to be.
+    EventosQt eventos_{[] {
+        static EventosQt::Instante hora;
+        return hora += EventosQt::pausa;
+    }};
     vbs::Host host_;
     std::unique_ptr<vbs::ScriptControl> motor_;
     std::unique_ptr<EjecutorScript> ejecutor_;

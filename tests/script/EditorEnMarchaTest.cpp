@@ -1,6 +1,7 @@
 // The script editor while the script runs: its variables, console and times, starting and stopping it, the samples.
 
 #include "CajaDeMensaje.h"
+#include "PasoDelTiempo.h"
 #include "script/BarraEjecucion.h"
 #include "script/EditorDePrueba.h"
 #include "script/Ejemplos.h"
@@ -79,7 +80,7 @@ private Q_SLOTS:
     void hiddenPanelFollowsNothing() {
         abrir();
         pasada("nivel = 5");
-        QTest::qWait(2 * static_cast<int>(BarraEjecucion::pulso.count()));
+        PasoDelTiempo(*frm_).pasar(std::chrono::minutes(1));
         QCOMPARE(variables().topLevelItemCount(), 0);
         tecla(Qt::Key_F6); // at once, without waiting
         QCOMPARE(fila(0).value(2), QStringLiteral("5"));

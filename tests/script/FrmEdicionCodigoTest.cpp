@@ -3,6 +3,7 @@
 #include "script/FrmEdicionCodigo.h"
 
 #include "CajaDeMensaje.h"
+#include "EventosPendientes.h"
 #include "platform/window/PaginaManual.h"
 #include "script/EditorDePrueba.h"
 
@@ -157,7 +158,8 @@ private Q_SLOTS:
         escribirPeriodo(escrito);
         CajaDeMensaje caja;
         tecla(Qt::Key_Tab);
-        QTest::qWait(30); // a message would be answered by then
+        correrLoPendiente(); // a message would be answered by then
+        QVERIFY(!periodo().hasFocus());
         QCOMPARE(caja.vistas, 0);
         QCOMPARE(periodo().text(), escrito);
     }
@@ -166,7 +168,7 @@ private Q_SLOTS:
         CajaDeMensaje caja;
         abrir(); // the period is 0
         QVERIFY(txtCodigo().hasFocus());
-        QTest::qWait(30);
+        correrLoPendiente();
         QCOMPARE(caja.vistas, 0);
     }
 
@@ -278,7 +280,6 @@ private Q_SLOTS:
         connect(chScript_, &QCheckBox::toggled, frm_, [this, conBoton](bool marcada) {
             if (!marcada)
                 QTimer::singleShot(0, frm_, [this, conBoton] { conBoton ? clic("BtnSalir") : void(frm_->close()); });
-            QTest::qSleep(2); // two rounds of events within a millisecond count as one
         });
         bool seFueDurante = false;
         connect(frm_, &QObject::destroyed, chScript_, [&] { seFueDurante = true; });
@@ -528,7 +529,7 @@ private Q_SLOTS:
         CajaDeMensaje caja;
         tecla(Qt::Key_F, Qt::ControlModifier);
         tecla(Qt::Key_Escape);
-        QTest::qWait(30); // a message would be answered by then
+        correrLoPendiente(); // a message would be answered by then
         QCOMPARE(caja.vistas, 0);
         QVERIFY(txtCodigo().hasFocus());
     }

@@ -115,6 +115,6 @@ private:
     int rThreshold_ = 0;
     int sThreshold_ = 0;
     qint64 restanEnEvento_ = 0; // bytes that the current event may still fetch from the driver
-    QTimer cierre_;             // closes a lost port at the next turn of the event loop
+    QTimer cierre_{this};       // closes a lost port at the next turn of the event loop
     bool perdido_ = false;      // the device failed; the port closes as soon as its own call has returned
 };

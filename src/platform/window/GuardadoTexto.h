@@ -31,5 +31,5 @@ private:
     TextoBytes texto_;
     QSaveFile archivo_;
     std::size_t escritos_ = 0;
-    QTimer turno_;
+    QTimer turno_{this};
 };

@@ -37,5 +37,5 @@ private:
 
     Leer leer_;
     Guardar guardar_;
-    QTimer reloj_;
+    QTimer reloj_{this};
 };

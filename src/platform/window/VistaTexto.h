@@ -161,8 +161,8 @@ private:
     std::size_t posicion_ = 0; // the caret stands here
     bool arrastrando_ = false;
 
-    QTimer turno_;               // until the screen takes in what was appended
-    QTimer espejo_;              // until the document does
+    QTimer turno_{this};         // until the screen takes in what was appended
+    QTimer espejo_{this};        // until the document does
     std::size_t reflejados_ = 0; // bytes that the document holds from the start on
     bool espejoEntero_ = true;   // the document holds the text from its start on
     bool sincronizando_ = false;
@@ -173,7 +173,7 @@ private:
     bool adelante_ = true;
     std::size_t buscadoHasta_ = 0; // where the next piece begins, or ends when searching backwards
     std::size_t porBuscar_ = 0;    // bytes
-    QTimer busquedaTurno_;
+    QTimer busquedaTurno_{this};
     bool barraALaVista_ = false;
     BarraBusqueda* barra_ = nullptr;  // made on first use
     BarraMonitor* botones_ = nullptr; // made when first shown

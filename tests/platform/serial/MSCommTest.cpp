@@ -3,11 +3,11 @@
 #include "EventosPendientes.h"
 #include "ParSerie.h"
 
+#include <QAbstractEventDispatcher>
 #include <QDeadlineTimer>
 #include <QSignalSpy>
 #include <QTest>
 
-#include <ctime>
 #include <fcntl.h>
 #include <functional>
 #include <memory>
@@ -30,10 +30,6 @@ std::optional<int> numeroDeError(const std::function<void()>& operacion) {
 void abrir(MSComm& comm) {
     comm.setRThreshold(1);
     comm.setPortOpen(true);
-}
-
-double segundosDeProcesador() {
-    return static_cast<double>(std::clock()) / CLOCKS_PER_SEC;
 }
 
 } // namespace
@@ -306,9 +302,10 @@ private Q_SLOTS:
         par.desconectar();
         QVERIFY(perdido.wait());
         QVERIFY(!comm.PortOpen());
-        const double antes = segundosDeProcesador();
-        QTest::qWait(100);
-        QVERIFY(segundosDeProcesador() - antes < 0.05);
+        correrLoPendiente();
+        QVERIFY(!QAbstractEventDispatcher::instance()->processEvents(QEventLoop::AllEvents)); // nothing goes on
+        for (const QTimer* uno : comm.findChildren<QTimer*>())
+            QVERIFY(!uno->isActive());
         QCOMPARE(perdido.count(), 1);
     }
 
