@@ -23,37 +23,36 @@ public:
     explicit PasoDelTiempo(QObject& raiz) : raiz_(raiz) {}
 
     // The timers that are due by the end of that time fire in their order and as often as they are due, and the events
-    // that they post run. A timer that was started since the last call counts as begun at that call's end.
+    // that they post run. A timer that was started since the last call counts as begun at that call's end; one that is
+    // started anew while it runs is due as it was.
     void pasar(Tiempo cuanto) {
         const Tiempo fin = ahora_ + cuanto;
-        for (QTimer* uno = primero(); uno != nullptr && citas_[uno].vence <= fin; uno = primero()) {
-            Cita& cita = citas_[uno];
-            ahora_ = cita.vence;
-            cita.vence += std::max(uno->intervalAsDuration(), Tiempo{1});
-            if (uno->isSingleShot())
+        for (QTimer* uno = primero(); uno != nullptr && vencen_[uno] <= fin; uno = primero()) {
+            ahora_ = vencen_[uno];
+            if (uno->isSingleShot()) {
+                vencen_.remove(uno);
                 uno->stop();
+            } else {
+                vencen_[uno] += std::max(uno->intervalAsDuration(), Tiempo{1});
+            }
             Q_EMIT uno->timeout({});
         }
         ahora_ = fin;
     }
 
 private:
-    struct Cita {
-        int inicio = -1; // another with every start
-        Tiempo vence{};
-    };
-
     QTimer* primero() {
         QCoreApplication::sendPostedEvents();
         QTimer* primero = nullptr;
         const auto todos = raiz_.findChildren<QTimer*>();
         for (QTimer* uno : todos) {
-            if (!uno->isActive())
+            if (!uno->isActive()) {
+                vencen_.remove(uno);
                 continue;
-            Cita& cita = citas_[uno];
-            if (cita.inicio != uno->timerId())
-                cita = {uno->timerId(), ahora_ + uno->intervalAsDuration()};
-            if (primero == nullptr || cita.vence < citas_[primero].vence)
+            }
+            if (!vencen_.contains(uno))
+                vencen_[uno] = ahora_ + uno->intervalAsDuration();
+            if (primero == nullptr || vencen_[uno] < vencen_[primero])
                 primero = uno;
         }
         return primero;
@@ -61,5 +60,5 @@ private:
 
     QObject& raiz_;
     Tiempo ahora_{};
-    QHash<QTimer*, Cita> citas_;
+    QHash<QTimer*, Tiempo> vencen_;
 };

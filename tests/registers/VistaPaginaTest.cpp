@@ -199,10 +199,12 @@ private Q_SLOTS:
     }
 
     void aWriteRepaintsTheVisiblePage() {
-        QTest::qWait(0);
+        PasoDelTiempo tiempo(*vista_);
+        tiempo.pasar(1s);
         pinturas_ = 0;
         esclavos_->escribir(2, 0, 1);
-        QTRY_VERIFY(pinturas_ > 0);
+        tiempo.pasar(17ms);
+        QVERIFY(pinturas_ > 0);
         QVERIFY(!pagina().marcada());
     }
 

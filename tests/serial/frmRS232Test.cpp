@@ -18,6 +18,7 @@
 
 #include <fcntl.h>
 #include <memory>
+#include <poll.h>
 #include <sys/ioctl.h>
 #include <thread>
 #include <unistd.h>
@@ -286,6 +287,8 @@ private Q_SLOTS:
         log.alEscribir = [&] {
             const int linea = ::open(qPrintable(par.dispositivo()), O_RDONLY | O_NOCTTY | O_NONBLOCK);
             par.enviar("240517123\n\r");
+            pollfd llegada{linea, POLLIN, 0};
+            QCOMPARE(::poll(&llegada, 1, 10'000), 1); // here: nobody reads before the event loop runs
             int esperan = 1;
             QVERIFY(QTest::qWaitFor([&] { return ::ioctl(linea, FIONREAD, &esperan) == 0 && esperan == 0; }));
             ::close(linea);

@@ -65,6 +65,9 @@ public:
     // Sends a request and waits for the whole answer.
     static QByteArray pedir(const Peer& maestro, const QByteArray& pedido, int cuantos) {
         maestro.send(pedido.toStdString());
+        return recibir(maestro, cuantos);
+    }
+    static QByteArray recibir(const Peer& maestro, int cuantos) {
         QByteArray respuesta;
         [[maybe_unused]] const bool llego = QTest::qWaitFor([&] {
             respuesta += QByteArray::fromStdString(maestro.receive());

@@ -1,5 +1,7 @@
 #include "platform/grid/MSFlexGrid.h"
 
+#include "EventosPendientes.h"
+
 #include <QAbstractButton>
 #include <QClipboard>
 #include <QGuiApplication>
@@ -166,10 +168,13 @@ private Q_SLOTS:
     }
 
     void refreshingPaintsAgain() {
-        QTest::qWait(0);
+        correrLoPendiente();
         ContadorDePinturas contador(grid_->viewport());
+        QCoreApplication::sendPostedEvents();
+        QCOMPARE(contador.pinturas, 0);
         grid_->refrescar();
-        QTRY_COMPARE(contador.pinturas, 1);
+        QCoreApplication::sendPostedEvents();
+        QCOMPARE(contador.pinturas, 1);
     }
 
     void doubleClickTellsTheCellWithHeadings() {

@@ -45,7 +45,8 @@ TEST(Allocation, aRequestAndItsAnswerTakeNoneAfterTheFirst) {
     const Peer peer(socket.LocalPort());
     ASSERT_TRUE(runUntil(reactor, [&] { return socket.State() == WinsockState::connected; }));
     peer.send("first");
-    ASSERT_TRUE(runUntil(reactor, [&] { return peer.receive() == "first"; }));
+    std::string answer;
+    ASSERT_TRUE(runUntil(reactor, [&] { return (answer += peer.receive()) == "first"; }));
 
     const std::size_t before = allocations;
     while (echo.answered < 1000) {

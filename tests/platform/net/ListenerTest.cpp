@@ -244,7 +244,7 @@ TEST(Listener, takes300ConnectionsAtOnce) {
     }
     EXPECT_TRUE(runUntil(station.reactor, [&] { return station.events.arrivals.size() == 300; }));
     for (std::size_t i = 0; i < peers.size(); ++i)
-        EXPECT_EQ(peers[i].receive(), std::to_string(i));
+        EXPECT_EQ(peers[i].await(std::to_string(i).size()), std::to_string(i));
     EXPECT_FALSE(wouldWake(station.reactor));
 }
 

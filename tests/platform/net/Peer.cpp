@@ -50,6 +50,17 @@ std::string Peer::receive(std::size_t limit) const {
     return data;
 }
 
+std::string Peer::await(std::size_t count) const {
+    const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(10);
+    std::string data = receive();
+    while (data.size() < count && !ended() && std::chrono::steady_clock::now() < deadline) {
+        pollfd watched{descriptor_.number(), POLLIN, 0};
+        poll(&watched, 1, 100);
+        data += receive();
+    }
+    return data;
+}
+
 bool Peer::ended() const {
     char byte = 0;
     const ssize_t count = recv(descriptor_.number(), &byte, 1, MSG_DONTWAIT | MSG_PEEK);

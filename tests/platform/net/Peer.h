@@ -32,6 +32,8 @@ public:
     std::size_t sendSome(std::span<const std::uint8_t> data) const;
     // What has arrived so far, at most `limit` bytes; empty when nothing has.
     std::string receive(std::size_t limit = 65536) const;
+    // Waits until `count` bytes have arrived, ten seconds at most: the kernel hands over in its own time.
+    std::string await(std::size_t count) const;
     // Whether the connection was closed or reset by the other side.
     bool ended() const;
     void halfClose() const;
@@ -53,6 +55,12 @@ bool runUntil(Reactor& reactor, const std::function<bool()>& condition);
 inline bool wouldWake(const Reactor& reactor) {
     pollfd watched{reactor.descriptor(), POLLIN, 0};
     return poll(&watched, 1, 0) > 0;
+}
+
+// Waits until it would, ten seconds at most.
+inline bool awaitWake(const Reactor& reactor) {
+    pollfd watched{reactor.descriptor(), POLLIN, 0};
+    return poll(&watched, 1, 10'000) > 0;
 }
 
 inline std::span<const std::uint8_t> bytesOf(std::string_view text) {

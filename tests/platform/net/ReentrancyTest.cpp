@@ -36,7 +36,7 @@ TEST(Reentrancy, aSocketMayDestroyItselfWithinItsArrival) {
     };
     crowd.peers[0].send("end");
     EXPECT_TRUE(runUntil(crowd.reactor, [&] { return !crowd.sockets[0]; }));
-    EXPECT_EQ(crowd.peers[0].receive(), "end");
+    EXPECT_EQ(crowd.peers[0].await(3), "end");
 }
 
 TEST(Reentrancy, aSocketMayDestroyItselfWithinItsCloseEvent) {
@@ -68,7 +68,9 @@ TEST(Reentrancy, aSocketDestroyedByAnotherReportsNothingMore) {
     };
     for (const Peer& peer : crowd.peers)
         peer.send("x"); // all are ready in the same turn, and the first one ends the others
-    crowd.reactor.turn();
+    EXPECT_TRUE(runUntil(crowd.reactor, [&] { return !crowd.events.arrivals.empty(); }));
+    while (wouldWake(crowd.reactor))
+        crowd.reactor.turn();
     EXPECT_EQ(crowd.events.arrivals.size(), 1U);
     EXPECT_TRUE(crowd.events.closes.empty());
 }
@@ -89,7 +91,9 @@ TEST(Reentrancy, aSocketClosedByAnotherServesANewPeerInTheSameEvent) {
     };
     crowd.peers[0].send("old");
     crowd.peers[1].send("old");
-    crowd.reactor.turn();
+    EXPECT_TRUE(runUntil(crowd.reactor, [&] { return !arrivedAt.empty(); }));
+    while (wouldWake(crowd.reactor))
+        crowd.reactor.turn();
     EXPECT_EQ(arrivedAt.size(), 1U);
     const Peer next(crowd.listener.LocalPort());
     next.send("new");
@@ -111,11 +115,11 @@ TEST(Reentrancy, aSocketMayServeAnotherConnectionWhenItsArrivalReturns) {
         while (socket.State() != connected)
             station.reactor.turn();
         EXPECT_TRUE(socket.SendData(bytesOf("for the second")));
-        EXPECT_EQ(second->receive(), "for the second"); // not gathered: the arrival was another connection's
+        EXPECT_EQ(second->await(14), "for the second"); // not gathered: the arrival was another connection's
     };
     first.send("x");
     EXPECT_TRUE(runUntil(station.reactor, [&] { return second != nullptr; }));
-    EXPECT_EQ(first.receive(), "for the first");
+    EXPECT_EQ(first.await(13), "for the first");
     EXPECT_EQ(station.connection.State(), connected);
 }
 
@@ -149,7 +153,7 @@ TEST(Reentrancy, anArrivalWithinAnArrivalOfTheSameSocketKeepsBothIntactAndTheAns
     };
     crowd.peers[0].send("outer ");
     EXPECT_TRUE(runUntil(crowd.reactor, [&] { return crowd.events.arrivals.size() == 2; }));
-    EXPECT_EQ(crowd.peers[0].receive(), "outer inner after");
+    EXPECT_EQ(crowd.peers[0].await(17), "outer inner after");
 }
 
 TEST(Reentrancy, aNestedTurnSendsWhatTheArrivalHasGathered) {
@@ -158,7 +162,7 @@ TEST(Reentrancy, aNestedTurnSendsWhatTheArrivalHasGathered) {
     crowd.events.arrival = [&](Winsock& socket, auto) {
         EXPECT_TRUE(socket.SendData(bytesOf("echo")));
         crowd.reactor.turn();
-        duringArrival = crowd.peers[0].receive();
+        duringArrival = crowd.peers[0].await(4);
     };
     crowd.peers[0].send("x");
     EXPECT_TRUE(runUntil(crowd.reactor, [&] { return !crowd.events.arrivals.empty(); }));
@@ -180,7 +184,7 @@ TEST(Reentrancy, aSocketDestroyedByANestedTurnEndsItsOuterArrivalSafely) {
     };
     crowd.peers[0].send("outer");
     EXPECT_TRUE(runUntil(crowd.reactor, [&] { return !crowd.sockets[0]; }));
-    EXPECT_EQ(crowd.peers[0].receive(), "outer");
+    EXPECT_EQ(crowd.peers[0].await(5), "outer");
 }
 
 TEST(Reentrancy, turnsNestOnlySoDeep) {
