@@ -3,6 +3,7 @@
 #include "script/FrmEdicionCodigo.h"
 
 #include "CajaDeMensaje.h"
+#include "EventosFalsos.h"
 #include "EventosPendientes.h"
 #include "platform/window/PaginaManual.h"
 #include "script/EditorDePrueba.h"
@@ -262,6 +263,23 @@ private Q_SLOTS:
         guardar();
         QCOMPARE(clics_, std::vector<bool>({false, true}));
         QCOMPARE(config_->valores[clavePeriodo], std::string("70"));
+    }
+
+    void rearmingStoresThePeriodThenUnticksAndTicksWithEventsAfterEach() {
+        config_->valores[clavePeriodo] = "500";
+        chScript_->setChecked(true);
+        EventosFalsos eventos;
+        frm_ = new FrmEdicionCodigo(*codigo_, *config_, *chScript_, *ejecutor_, eventos, principal_.get());
+        frm_->show();
+        QStringList orden;
+        eventos.alPasarEventos = [&] { orden << QStringLiteral("events"); };
+        connect(chScript_, &QCheckBox::toggled, frm_, [&](bool marcada) {
+            orden << QString::fromStdString((marcada ? "ticked at " : "unticked at ") + config_->valores[clavePeriodo]);
+        });
+        escribirPeriodo(QStringLiteral("70"));
+        guardar();
+        QCOMPARE(orden, (QStringList{"unticked at 70", "events", "ticked at 70", "events"}));
+        delete frm_;
     }
 
     void windowClosedWhileItSavesIsGoneAndAutomationOn_data() {
