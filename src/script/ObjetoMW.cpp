@@ -56,7 +56,7 @@ std::span<const ObjetoMW::Member> ObjetoMW::members() {
 }
 
 // The usual calls: whole slave and address, a register that exists, a plain number to write.
-bool ObjetoMW::leerPronto(vbs::Object& mw, Value& resultado, std::span<const Value> a) noexcept {
+bool ObjetoMW::leerPronto(vbs::Object& mw, Value& resultado, std::span<Value> a) noexcept {
     if (a.size() != 2 || !a[0].isWhole() || !a[1].isWhole())
         return false;
     const double* valor = static_cast<ObjetoMW&>(mw).esclavos_.valorSiExiste(a[0].n, a[1].n);
@@ -66,7 +66,7 @@ bool ObjetoMW::leerPronto(vbs::Object& mw, Value& resultado, std::span<const Val
     return true;
 }
 
-bool ObjetoMW::escribirPronto(vbs::Object& mw, Value& /*resultado*/, std::span<const Value> a) noexcept {
+bool ObjetoMW::escribirPronto(vbs::Object& mw, Value& /*resultado*/, std::span<Value> a) noexcept {
     if (a.size() != 3 || !a[0].isWhole() || !a[1].isWhole() || !(a[2].isWhole() || a[2].type == vbs::Type::Double))
         return false;
     const double valor = a[2].isWhole() ? static_cast<double>(a[2].n) : a[2].d;

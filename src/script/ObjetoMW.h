@@ -22,8 +22,8 @@ public:
     std::u16string_view typeName() const override { return u"FrmPrincipal"; }
 
 private:
-    static bool leerPronto(vbs::Object& mw, vbs::Value& resultado, std::span<const vbs::Value> a) noexcept;
-    static bool escribirPronto(vbs::Object& mw, vbs::Value& resultado, std::span<const vbs::Value> a) noexcept;
+    static bool leerPronto(vbs::Object& mw, vbs::Value& resultado, std::span<vbs::Value> a) noexcept;
+    static bool escribirPronto(vbs::Object& mw, vbs::Value& resultado, std::span<vbs::Value> a) noexcept;
     vbs::Value leer(vbs::Context& context, vbs::Access, vbs::Arguments a);
     vbs::Value escribir(vbs::Context& context, vbs::Access, vbs::Arguments a);
     vbs::Value escribir_C2(vbs::Context& context, vbs::Access, vbs::Arguments a);

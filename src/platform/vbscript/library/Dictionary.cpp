@@ -35,7 +35,7 @@ std::span<const Dictionary::Member> Dictionary::members() {
         {u"Add", &Dictionary::add, readOnly, 2, 2},
         {u"CompareMode", &Dictionary::compareMode, readWrite, 0, 0},
         {u"Count", &Dictionary::count, readOnly, 0, 0},
-        {u"Exists", &Dictionary::exists, readOnly, 1, 1},
+        {u"Exists", &Dictionary::exists, readOnly, 1, 1, &Dictionary::existsShort},
         {u"Items", &Dictionary::items, readOnly, 0, 1},
         {u"Key", &Dictionary::key, readWrite, 1, 1},
         {u"Keys", &Dictionary::keys, readOnly, 0, 1},
@@ -43,14 +43,6 @@ std::span<const Dictionary::Member> Dictionary::members() {
         {u"RemoveAll", &Dictionary::removeAll, readOnly, 0, 0},
     };
     return table;
-}
-
-// Reading an item is what scripts do most, so it takes the shortest road.
-Value Dictionary::invoke(Context& context, int member, Access access, Arguments arguments) {
-    if (member == defaultMember && access == Access::Get && arguments.size() == 1) {
-        return table_.findOrAdd(arguments[0].deref());
-    }
-    return NativeObject::invoke(context, member, access, arguments);
 }
 
 std::unique_ptr<Enumerator> Dictionary::enumerate(Context& /*context*/) {
@@ -98,6 +90,15 @@ Value Dictionary::count(Context& /*context*/, Access /*access*/, Arguments /*arg
 
 Value Dictionary::exists(Context& /*context*/, Access /*access*/, Arguments arguments) {
     return Value::ofBoolean(table_.find(arguments[0].deref()) != nullptr);
+}
+
+bool Dictionary::existsShort(Object& self, Value& result, std::span<Value> arguments) noexcept {
+    if (arguments.size() != 1 || static_cast<Dictionary&>(self).table_.findPlain(arguments[0].deref()) == nullptr) {
+        return false;
+    }
+    result = Value::ofBoolean(true);
+    arguments[0].clear();
+    return true;
 }
 
 Value Dictionary::items(Context& context, Access /*access*/, Arguments arguments) {

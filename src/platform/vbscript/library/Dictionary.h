@@ -15,11 +15,12 @@ public:
 
     static std::span<const Member> members();
     std::u16string_view typeName() const override { return u"Dictionary"; }
-    Value invoke(Context& context, int member, Access access, Arguments arguments) override;
+    Value* itemPlace(const Value& argument) noexcept override { return table_.findPlain(argument); }
     std::unique_ptr<Enumerator> enumerate(Context& context) override; // the keys there are now
     void dropContents() noexcept override;
 
 private:
+    static bool existsShort(Object& self, Value& result, std::span<Value> arguments) noexcept;
     Value item(Context& context, Access access, Arguments arguments);
     Value add(Context& context, Access access, Arguments arguments);
     Value compareMode(Context& context, Access access, Arguments arguments);

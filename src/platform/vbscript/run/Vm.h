@@ -270,4 +270,28 @@ private:
     Instance* lastDead_ = nullptr;
 };
 
+inline Value& Vm::at(Operand o) noexcept {
+    switch (placeOf(o)) {
+    case Place::Frame:
+        return top().base[indexOf(o)];
+    case Place::Global:
+        return globals_.values()[indexOf(o)];
+    case Place::Constant:
+        return const_cast<Value&>(top().procedure->constants[indexOf(o)]);
+    default:
+        return top().fields[indexOf(o)];
+    }
+}
+
+inline bool Vm::isTemporary(Operand o) noexcept {
+    return placeOf(o) == Place::Frame && indexOf(o) >= top().procedure->firstTemporary;
+}
+
+// Gives up what a temporary held once it was read.
+inline void Vm::consume(Operand o) noexcept {
+    if (isTemporary(o)) {
+        at(o).clear();
+    }
+}
+
 } // namespace vbs

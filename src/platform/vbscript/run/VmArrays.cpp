@@ -3,6 +3,7 @@
 #include "platform/vbscript/run/Instance.h"
 #include "platform/vbscript/run/Vm.h"
 #include "platform/vbscript/run/VmCalls.h"
+#include "platform/vbscript/run/VmShort.h"
 #include "platform/vbscript/value/Array.h"
 #include "platform/vbscript/value/Convert.h"
 
@@ -33,6 +34,35 @@ struct Row {
 // A share of the value, so that it stays while code of the script runs.
 Value shared(const Value& v) {
     return v;
+}
+
+// Where the object in a variable keeps the item of an index, or null if its default member has to be asked.
+Value* itemPlace(const Value& base, const Value& index) noexcept {
+    const Value& variable = base.deref();
+    return variable.isObject() && variable.object() != nullptr ? variable.object()->itemPlace(index.deref()) : nullptr;
+}
+
+// An item read or written in its place; false, and nothing has changed, if that is not to be had.
+bool readItem(Value& to, const Value& base, const Value& index, Store store) noexcept {
+    const Value* item = itemPlace(base, index);
+    if (item == nullptr || !(isPlain(*item) || goesAsItIs(item->type, store)) || !dropsQuietly(to)) {
+        return false;
+    }
+    to = Value(*item);
+    return true;
+}
+
+bool writeItem(const Value& base, const Value& index, const Value& from, Store store) noexcept {
+    const Value& value = from.deref();
+    if (!(isPlain(value) && store == Store::Let) && !goesAsItIs(value.type, store)) {
+        return false;
+    }
+    Value* item = itemPlace(base, index);
+    if (item == nullptr || !dropsQuietly(*item)) {
+        return false;
+    }
+    *item = Value(value);
+    return true;
 }
 
 std::vector<Value> copied(std::span<Value* const> indexes) {
@@ -115,9 +145,17 @@ void Vm::setIndex(Value& base, std::span<Value* const> indexes, Value value, Sto
 
 void Vm::index(Instruction instruction) {
     const Operand c = operandC(instruction);
-    Value* const at0[] = {&at(c)};
+    const Store store = storeOf(instruction);
+    const Value& base = at(operandB(instruction));
+    if (readItem(at(operandA(instruction)), base, at(c), store)) {
+        if (operandA(instruction) != c) {
+            consume(c);
+        }
+        return;
+    }
+    Value* const places[] = {&at(c)};
     Value result;
-    getIndex(result, at(operandB(instruction)), at0, storeOf(instruction));
+    getIndex(result, base, places, store);
     consume(c);
     at(operandA(instruction)) = std::move(result);
 }
@@ -147,8 +185,14 @@ void Vm::indexN(Instruction instruction) {
 void Vm::storeIndex(Instruction instruction) {
     const Operand a = operandA(instruction);
     const Operand b = operandB(instruction);
-    Value* const places[] = {&at(b)};
-    setIndex(at(a), places, taken(operandC(instruction)), storeOf(instruction));
+    const Operand c = operandC(instruction);
+    const Store store = storeOf(instruction);
+    if (writeItem(at(a), at(b), at(c), store)) {
+        consume(c);
+    } else {
+        Value* const places[] = {&at(b)};
+        setIndex(at(a), places, taken(c), store);
+    }
     consume(b);
     consume(a);
 }

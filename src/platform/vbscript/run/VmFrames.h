@@ -98,7 +98,7 @@ inline void Vm::runIntrinsicRow(const Builtin& intrinsic, Value* first, std::siz
 }
 
 // A member of a host object by its short road, if it has one for these arguments.
-inline bool ranShort(const MemberSite& site, Object& target, std::span<const Value> arguments, Value& to,
+inline bool ranShort(const MemberSite& site, Object& target, std::span<Value> arguments, Value& to,
                      Store store) noexcept {
     Value result;
     if (site.shortRoad == nullptr || !site.shortRoad(target, result, arguments)) {

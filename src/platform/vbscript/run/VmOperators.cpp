@@ -56,30 +56,6 @@ void appendTo(Value& target, std::u16string_view tail) {
 
 } // namespace
 
-Value& Vm::at(Operand o) noexcept {
-    switch (placeOf(o)) {
-    case Place::Frame:
-        return top().base[indexOf(o)];
-    case Place::Global:
-        return globals_.values()[indexOf(o)];
-    case Place::Constant:
-        return const_cast<Value&>(top().procedure->constants[indexOf(o)]);
-    default:
-        return top().fields[indexOf(o)];
-    }
-}
-
-bool Vm::isTemporary(Operand o) noexcept {
-    return placeOf(o) == Place::Frame && indexOf(o) >= top().procedure->firstTemporary;
-}
-
-// Gives up what a temporary held once it was read.
-void Vm::consume(Operand o) noexcept {
-    if (isTemporary(o)) {
-        at(o).clear();
-    }
-}
-
 void Vm::consumeRow(Value* first, std::size_t count) noexcept {
     for (std::size_t i = 0; i < count; ++i) {
         first[i].clear();

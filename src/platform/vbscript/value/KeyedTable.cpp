@@ -154,6 +154,10 @@ Value* KeyedTable::find(const Value& key) {
     return entry != nullptr ? &entry->item : nullptr;
 }
 
+Value* KeyedTable::findPlain(const Value& key) noexcept {
+    return key.isString() || isNumber(key) ? find(key) : nullptr;
+}
+
 Value& KeyedTable::findOrAdd(const Value& key) {
     std::uint32_t hash = 0;
     Entry* entry = locate(key, hash);

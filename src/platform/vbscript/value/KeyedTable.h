@@ -35,6 +35,8 @@ public:
 
     // The item under a key, or null. The pointer holds until the table changes.
     Value* find(const Value& key);
+    // The same for a number or text; null for other keys too.
+    Value* findPlain(const Value& key) noexcept;
     // The item under a key, which is added with an Empty item if it is missing.
     Value& findOrAdd(const Value& key);
     // False, and nothing done, if the key is there already.

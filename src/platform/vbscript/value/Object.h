@@ -21,9 +21,10 @@ class Context;
 class Object;
 
 // A member's way for the arguments that it usually gets: false, and nothing has changed, if these are others, so that
-// invoke() has to do it. Arguments may be anything; the result is copied by its two words alone (no text, array or
-// object). Never raises, runs no code of the script and ends no object.
-using ShortRoad = bool (*)(Object& self, Value& result, std::span<const Value> arguments) noexcept;
+// invoke() has to do it. Arguments may be anything; a road that goes with texts, arrays or objects clears them. The
+// result is copied by its two words alone (no text, array or object). Never raises, runs no code of the script and ends
+// no object.
+using ShortRoad = bool (*)(Object& self, Value& result, std::span<Value> arguments) noexcept;
 
 // How a member is used. With Let and Set the last argument is the value assigned.
 enum class Access : std::uint8_t { Get = 1, Call = 2, Let = 4, Set = 8 };
@@ -59,6 +60,10 @@ public:
 
     // The short road of a member that is read or called, or null. Only asked of an object with a shape.
     virtual ShortRoad shortRoad(int /*member*/) const noexcept { return nullptr; }
+
+    // The place of what the default member answers to one argument, a number or text, or null if invoke() has to do it.
+    // Runs no code of the script. The place holds until the object is used again.
+    virtual Value* itemPlace(const Value& /*argument*/) noexcept { return nullptr; }
 
     // For For Each; the default raises 451.
     virtual std::unique_ptr<Enumerator> enumerate(Context& context);
