@@ -194,6 +194,19 @@ private Q_SLOTS:
         QCOMPARE(destino.count(), 0);
     }
 
+    void shiftAndArrowsSelectFromTheRegisterGoneTo() {
+        vista_->irA(3);
+        QTest::keyClick(&grid(), Qt::Key_Right, Qt::ShiftModifier);
+        QCOMPARE(vista_->seleccion(), (std::vector<int>{3, 4}));
+        for (const int lugar : {70, 49}) {
+            vista_->irA(lugar);
+            QCOMPARE(vista_->seleccion(), std::vector<int>{lugar});
+            QTest::keyClick(&grid(), Qt::Key_Left, Qt::ShiftModifier);
+            QTest::keyClick(&grid(), Qt::Key_Down, Qt::ShiftModifier);
+        }
+        QCOMPARE(vista_->seleccion(), (std::vector<int>{48, 49, 58, 59}));
+    }
+
     void menusCopyPasteAndWriteTheRegisterInFront() {
         const auto entrada = [](const QMenu& menu, const char* texto) {
             for (QAction* accion : menu.actions())

@@ -95,7 +95,14 @@ void MSFlexGrid::irA(int row, int col) {
     const QModelIndex celda = modelo_->index(row - 1, col - 1);
     if (!celda.isValid())
         return;
-    selectionModel()->setCurrentIndex(celda, QItemSelectionModel::ClearAndSelect);
+    // Shift and an arrow select from where a key or the mouse last came to, and only those move that place: the last
+    // step is an arrow's.
+    const bool haciaLaDerecha = col > 1;
+    selectionModel()->setCurrentIndex(celda.siblingAtColumn(haciaLaDerecha ? col - 2 : col),
+                                      QItemSelectionModel::NoUpdate);
+    QKeyEvent flecha(QEvent::KeyPress, haciaLaDerecha ? Qt::Key_Right : Qt::Key_Left, Qt::NoModifier);
+    QTableView::keyPressEvent(&flecha);
+    selectionModel()->setCurrentIndex(celda, QItemSelectionModel::ClearAndSelect); // a grid not shown has no arrows
     scrollTo(celda, PositionAtCenter);
 }
 
