@@ -46,21 +46,30 @@ void TextoBytes::borrar() {
     size_ = sinFinDesde_ = sinFinHasta_ = 0;
 }
 
+// A short text stays small, a long one grows without copying.
+std::shared_ptr<TextoBytes::Trozo> TextoBytes::trozoNuevo() const {
+    auto nuevo = std::make_shared<Trozo>();
+    if (size_ > 0)
+        nuevo->bytes.reserve(porTrozo);
+    if (trozos_.size() >= trozosPequenos)
+        TramoMemoria::enUnaPagina(nuevo->bytes.data());
+    return nuevo;
+}
+
 void TextoBytes::anexar(std::string_view bytes, bool celdas) {
     while (!bytes.empty()) {
-        if (size_ % porTrozo == 0) {
-            trozos_.push_back(std::make_shared<Trozo>());
-            if (size_ > 0)
-                trozos_.back()->bytes.reserve(porTrozo); // a short text stays small, a long one grows without copying
-        }
+        if (size_ == trozos_.size() * porTrozo)
+            trozos_.push_back(trozoNuevo());
         Trozo& trozo = *trozos_.back();
         const std::string_view parte = bytes.substr(0, porTrozo - trozo.bytes.size());
         if (celdas && trozo.esCelda.empty()) {
-            trozo.esCelda.reserve(porTrozo);
-            trozo.esFin.reserve(porTrozo);
+            if (trozos_.size() > 1) {
+                trozo.esCelda.reserve(porTrozo);
+                trozo.esFin.reserve(porTrozo);
+            }
             trozo.esCelda.resize(trozo.bytes.size());
         }
-        trozo.bytes.append(parte);
+        trozo.bytes.insert(trozo.bytes.end(), parte.begin(), parte.end());
         if (celdas || !trozo.esCelda.empty()) {
             trozo.esCelda.resize(trozo.bytes.size(), celdas);
             trozo.esFin.resize(trozo.bytes.size());

@@ -13,6 +13,8 @@
 // blocks. Finding the start of a line costs a look at each of its bytes, once.
 #pragma once
 
+#include "platform/window/TramoMemoria.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <memory>
@@ -50,10 +52,11 @@ public:
     std::u16string texto(std::size_t desde, std::size_t hasta) const;
 
 private:
-    static constexpr std::size_t porTrozo = 65536; // bytes
+    static constexpr std::size_t porTrozo = TramoMemoria::bytes;
+    static constexpr std::size_t trozosPequenos = 2; // that many do without large pages, which count as used at once
 
     struct Trozo {
-        std::string bytes;
+        std::vector<char, AsignadorTramos<char>> bytes;
         // One bit a byte, empty while the piece has no hexadecimal block: is it a cell, does it end a block?
         std::vector<bool> esCelda;
         std::vector<bool> esFin;
@@ -61,6 +64,7 @@ private:
 
     const Trozo& trozoDe(std::size_t posicion) const { return *trozos_[posicion / porTrozo]; }
     bool finDeBloque(std::size_t posicion) const;
+    std::shared_ptr<Trozo> trozoNuevo() const;
     void anexar(std::string_view bytes, bool celdas);
     std::size_t trasUltimoFin(std::size_t desde, std::size_t hasta) const;
 
