@@ -3,8 +3,10 @@
 #include "shell/Estacion.h"
 #include "shell/FrmPrincipal.h"
 
+#include <QAbstractScrollArea>
 #include <QApplication>
 #include <QCheckBox>
+#include <QKeyEvent>
 #include <QPlainTextEdit>
 
 #include <chrono>
@@ -33,18 +35,41 @@ std::int64_t residentBytes() {
 // Stands for a click or a key: an event that another thread posts, and that notes how long it waited.
 class Probe final : public QObject {
 public:
-    explicit Probe(QPlainTextEdit* monitor) : monitor_(monitor) {}
+    Probe(QPlainTextEdit* monitor, QAbstractScrollArea* grid) : monitor_(monitor), grid_(grid) {
+        grid->viewport()->installEventFilter(this);
+    }
 
     void run() {
-        for (;;) {
+        for (int turn = 0;; ++turn) {
             std::this_thread::sleep_for(std::chrono::milliseconds(5));
             QCoreApplication::postEvent(this, new Posted);
+            if (turn % 10 == 0 && pressed_ == 0)
+                press(turn % 20 == 0 ? Qt::Key_Right : Qt::Key_Left);
         }
+    }
+
+    // A key is answered when the grid paints what it has changed.
+    bool eventFilter(QObject* object, QEvent* event) override {
+        StationReport& report = stationReport();
+        const std::size_t n = report.keys;
+        if (event->type() == QEvent::Paint && arrived_ && n < StationReport::capacity) {
+            report.keyAnswer[n] = now() - pressed_;
+            report.keys = n + 1;
+            arrived_ = false;
+            pressed_ = 0;
+        }
+        return QObject::eventFilter(object, event);
     }
 
 protected:
     void customEvent(QEvent* event) override {
         StationReport& report = stationReport();
+        if (const int key = static_cast<Posted*>(event)->key; key != 0) {
+            QKeyEvent down(QEvent::KeyPress, key, Qt::NoModifier);
+            QCoreApplication::sendEvent(grid_, &down);
+            arrived_ = true;
+            return;
+        }
         const std::size_t n = report.waits;
         if (n < StationReport::capacity) {
             report.eventWait[n] = now() - static_cast<Posted*>(event)->posted;
@@ -60,11 +85,20 @@ protected:
 
 private:
     struct Posted : QEvent {
-        Posted() : QEvent(User), posted(now()) {}
+        explicit Posted(int ofKey = 0) : QEvent(User), posted(now()), key(ofKey) {}
         std::int64_t posted;
+        int key; // 0: none
     };
 
+    void press(int key) {
+        pressed_ = now();
+        QCoreApplication::postEvent(this, new Posted(key));
+    }
+
     QPlainTextEdit* monitor_;
+    QAbstractScrollArea* grid_;
+    std::atomic<std::int64_t> pressed_ = 0; // when the key not yet answered was pressed
+    bool arrived_ = false;
     int revision_ = -1;
 };
 
@@ -83,7 +117,8 @@ void serve(std::uint16_t port, bool txRx) {
     if (!window.cargar())
         return;
     window.findChild<QCheckBox*>(QStringLiteral("ChRxTx"))->setChecked(txRx);
-    Probe probe(window.findChild<QPlainTextEdit*>(QStringLiteral("txtTramas(1)")));
+    Probe probe(window.findChild<QPlainTextEdit*>(QStringLiteral("txtTramas(1)")),
+                window.findChild<QAbstractScrollArea*>(QStringLiteral("MSFlexGrid(1)")));
     std::thread([&probe] { probe.run(); }).detach();
     QApplication::exec();
 }

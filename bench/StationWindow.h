@@ -13,6 +13,8 @@ struct StationReport {
     std::atomic<std::int64_t> monitorChanged;     // when the frame monitor's box last changed, steady clock, ns
     std::atomic<std::size_t> waits;               // how many of the following are filled
     std::array<std::int64_t, capacity> eventWait; // of each posted window event, ns
+    std::atomic<std::size_t> keys;                // how many of the following are filled
+    std::array<std::int64_t, capacity> keyAnswer; // from each press of an arrow to the repaint of the grid, ns
 };
 
 // Makes the report that stations started from now on write; call before starting them. Lives as long as the process.

@@ -2,7 +2,8 @@
 // monitors on and off. Usage: relay [SLICES]
 //
 // The relays take turns in slices, so that what else the machine does falls upon all; a row is the median of the ratios
-// of neighbouring slices.
+// of neighbouring slices. Throughput stands beside the bytes a second of the relay's own processor time, which say the
+// same on a machine that does other things too, and the memory that the monitors take beside the bytes they show.
 #include "bridge/FrmConexionesPuentes.h"
 #include "platform/window/EventosQt.h"
 
@@ -17,12 +18,15 @@
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
+#include <ctime>
+#include <fstream>
 #include <functional>
 #include <netinet/in.h>
 #include <netinet/tcp.h>
 #include <poll.h>
 #include <sched.h>
 #include <stdexcept>
+#include <string>
 #include <sys/prctl.h>
 #include <sys/socket.h>
 #include <sys/wait.h>
@@ -117,8 +121,10 @@ void serveBareLoop(Ports ports) {
             }
 }
 
+enum class Monitors { off, text, hexadecimal };
+
 // The bridge window in its event loop, as the station runs it.
-void serveBridge(Ports ports, bool display) {
+void serveBridge(Ports ports, Monitors monitors) {
     setenv("QT_QPA_PLATFORM", "offscreen", 1);
     int argc = 1;
     std::array<char, 6> name{"relay"};
@@ -131,7 +137,8 @@ void serveBridge(Ports ports, bool display) {
     FrmConexionesPuentes window(principal, bridge);
     QSocketNotifier notifier(reactor.descriptor(), QSocketNotifier::Read);
     QObject::connect(&notifier, &QSocketNotifier::activated, &notifier, [&] { reactor.turn(); });
-    window.findChild<QCheckBox*>(QStringLiteral("chStop"))->setChecked(!display);
+    window.findChild<QCheckBox*>(QStringLiteral("chStop"))->setChecked(monitors == Monitors::off);
+    window.findChild<QCheckBox*>(QStringLiteral("chModbus"))->setChecked(monitors == Monitors::hexadecimal);
     window.show();
     QApplication::exec();
 }
@@ -173,6 +180,24 @@ public:
         return std::chrono::duration<double>(Clock::now() - began).count();
     }
 
+    // Seconds of processor time that the relay has taken.
+    double processorTime() const {
+        clockid_t clock = 0;
+        timespec time{};
+        if (clock_getcpuclockid(process_, &clock) != 0 || clock_gettime(clock, &time) != 0)
+            throw std::runtime_error("a relay ended");
+        return static_cast<double>(time.tv_sec) + 1e-9 * static_cast<double>(time.tv_nsec);
+    }
+
+    // Bytes of memory that are its own.
+    double memory() const {
+        std::ifstream file("/proc/" + std::to_string(process_) + "/statm");
+        double pages = 0;
+        double shared = 0;
+        file >> pages >> pages >> shared;
+        return (pages - shared) * static_cast<double>(sysconf(_SC_PAGESIZE));
+    }
+
     // Median seconds of a round trip of a small block, there and back.
     double roundTrip() {
         std::vector<double> times;
@@ -210,6 +235,12 @@ private:
     std::vector<char> buffer_ = std::vector<char>(largeBlock * 4);
 };
 
+double median(std::vector<double>& values) {
+    const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
+    std::nth_element(values.begin(), middle, values.end());
+    return *middle;
+}
+
 double medianRatio(int slices, const std::function<double()>& first, const std::function<double()>& second) {
     std::vector<double> ratios;
     first(); // not counted: lets the windows of the connections open up
@@ -218,35 +249,58 @@ double medianRatio(int slices, const std::function<double()>& first, const std::
         const double one = first();
         ratios.push_back(one / second());
     }
-    const auto middle = ratios.begin() + static_cast<std::ptrdiff_t>(ratios.size() / 2);
-    std::nth_element(ratios.begin(), middle, ratios.end());
-    return *middle;
+    return median(ratios);
+}
+
+// What a relay reaches of the bare loop's bytes a second, and of its bytes a second of processor time.
+void printThroughput(const char* title, int slices, Relay& bare, Relay& relay, std::size_t size) {
+    double ofBare = 0;
+    double ofRelay = 0;
+    const auto timed = [size](Relay& one, double& processor) {
+        const double before = one.processorTime();
+        const double seconds = one.transfer(size);
+        processor += one.processorTime() - before;
+        return seconds;
+    };
+    const double throughput = medianRatio(
+        slices, [&] { return timed(bare, ofBare); }, [&] { return timed(relay, ofRelay); });
+    std::printf("puente, caudal %s: %.2f; por tiempo de procesador %.2f\n", title, throughput, ofBare / ofRelay);
+}
+
+// Bytes of memory that a byte shown takes.
+void printMemory(const char* title, Relay& relay) {
+    constexpr std::size_t shown = 1600 * largeBlock; // 100 MiB
+    const double before = relay.memory();
+    relay.transfer(shown);
+    std::printf("puente, memoria por byte mostrado %s: %.2f (objetivo 1.5)\n", title,
+                (relay.memory() - before) / static_cast<double>(shown));
 }
 
 } // namespace
 
 int main(int argc, char** argv) {
     const int slices = argc > 1 ? std::max(1, std::atoi(argv[1])) : 15;
-    // The monitors keep everything, so with them on the slices are small.
-    constexpr std::size_t offSlice = 1024 * largeBlock;
-    constexpr std::size_t onSlice = 64 * largeBlock;
+    // Long enough that a repaint, which costs the same whatever came, falls upon all that came meanwhile. The monitors
+    // keep everything, so with them on there are fewer slices.
+    constexpr std::size_t slice = 1024 * largeBlock; // 64 MiB
+    const int shownSlices = std::max(1, slices / 2);
     try {
         Relay bare(serveBareLoop);
-        Relay quiet([](Ports ports) { serveBridge(ports, false); });
-        Relay shown([](Ports ports) { serveBridge(ports, true); });
+        Relay quiet([](Ports ports) { serveBridge(ports, Monitors::off); });
+        Relay text([](Ports ports) { serveBridge(ports, Monitors::text); });
+        Relay hexadecimal([](Ports ports) { serveBridge(ports, Monitors::hexadecimal); });
         runOnProcessor(sysconf(_SC_NPROCESSORS_ONLN) - 1);
-        const auto throughput = [&](Relay& relay, std::size_t size) {
-            return medianRatio(
-                slices, [&] { return bare.transfer(size); }, [&] { return relay.transfer(size); });
-        };
         const auto latency = [&](Relay& relay) {
             return medianRatio(
                 slices, [&] { return relay.roundTrip(); }, [&] { return bare.roundTrip(); });
         };
-        std::printf("puente, caudal sin monitores: %.2f (objetivo 0.90)\n", throughput(quiet, offSlice));
-        std::printf("puente, caudal con monitores: %.2f\n", throughput(shown, onSlice));
+        printThroughput("sin monitores (objetivo 0.90)", slices, bare, quiet, slice);
+        printThroughput("con monitores, texto (objetivo 0.80)", shownSlices, bare, text, slice);
+        printThroughput("con monitores, hexadecimal", shownSlices, bare, hexadecimal, slice);
+        printMemory("como texto", text);
+        printMemory("en hexadecimal", hexadecimal);
         std::printf("puente, ida y vuelta sin monitores: %.2f\n", latency(quiet));
-        std::printf("puente, ida y vuelta con monitores: %.2f\n", latency(shown));
+        std::printf("puente, ida y vuelta con monitores: %.2f\n", latency(text));
     } catch (const std::exception& failure) {
         std::fprintf(stderr, "relay: %s\n", failure.what());
         return 1;

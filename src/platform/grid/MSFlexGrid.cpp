@@ -231,7 +231,7 @@ void MSFlexGrid::medir() {
         ancho = std::max(ancho, titulo.horizontalAdvance(texto) + 2 * margen);
     verticalHeader()->setFixedWidth(ancho);
     horizontalHeader()->setFixedHeight(titulo.height() + 2 * margen);
-    horizontalHeader()->setMinimumSectionSize(letra.horizontalAdvance(fuente_.textoMasAncho()) + 2 * margen);
+    horizontalHeader()->setMinimumSectionSize(letra.horizontalAdvance(fuente_.textoMasAncho()) + margen + margen / 2);
     repartirColumnas();
     updateGeometries();
 }
