@@ -1,0 +1,1 @@
+WScript.Echo &H10 & "x" '> 16x

@@ -1,0 +1,2 @@
+Select Case "a" Case "a" WScript.Echo "uno" End Select
+'> uno
