@@ -1,6 +1,7 @@
 // Where a text failed: the line, the column and the wording of the line.
 #include "platform/vbscript/ScriptControl.h"
 
+#include <chrono>
 #include <gtest/gtest.h>
 #include <string>
 
@@ -65,6 +66,30 @@ TEST_F(Failure, isGoneAfterATextThatEndsWell) {
     EXPECT_EQ(control.error().number, 1002);
     EXPECT_TRUE(control.check(u"x = 1 / 0"));
     EXPECT_EQ(control.error(), ScriptFailure());
+}
+
+// A clock that runs a minute each time it is asked.
+class HurriedClock final : public Host {
+public:
+    double monotonicMilliseconds() override { return now_ += 60000; }
+
+private:
+    double now_ = 0;
+};
+
+TEST(TimeOut, isNoneUnlessItIsSetAndOutlivesAReset) {
+    const std::u16string_view longText = u"For i = 1 To 3000000 Next ";
+        HurriedClock host;
+    ScriptControl control(host);
+    EXPECT_TRUE(control.addCode(longText));
+    control.reset();
+    EXPECT_TRUE(control.addCode(longText));
+    control.setTimeout(std::chrono::milliseconds(1));
+    EXPECT_FALSE(control.addCode(longText));
+    control.reset();
+    EXPECT_FALSE(control.addCode(longText));
+    control.setTimeout(std::chrono::milliseconds(0));
+    EXPECT_TRUE(control.addCode(longText));
 }
 
 } // namespace
