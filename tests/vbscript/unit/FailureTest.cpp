@@ -78,8 +78,8 @@ private:
 };
 
 TEST(TimeOut, isNoneUnlessItIsSetAndOutlivesAReset) {
-    const std::u16string_view longText = u"For i = 1 To 3000000 Next ";
-        HurriedClock host;
+    const std::u16string_view longText = u"For i = 1 To 3000000 : Next";
+    HurriedClock host;
     ScriptControl control(host);
     EXPECT_TRUE(control.addCode(longText));
     control.reset();
