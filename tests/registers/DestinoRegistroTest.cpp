@@ -31,6 +31,10 @@ TEST_F(DestinoRegistroTest, aNameCountsWithoutCaseWholeFirstThenByItsBeginning) 
     EXPECT_EQ(destino("máximo"), "3:0");
 }
 
+TEST_F(DestinoRegistroTest, ofSeveralNamesThatBeginSoTheFirstCounts) {
+    EXPECT_EQ(destino("niv"), "1:5");
+}
+
 TEST_F(DestinoRegistroTest, anythingElseIsNoDestination) {
     for (const char* texto : {"", "   ", "-1", "3:", ":5", "3:-1", "1.5", "bomba", "99999999999999"})
         EXPECT_EQ(destino(texto), "") << texto;

@@ -240,7 +240,9 @@ TEST_F(StoreWithSlave1, bitWritesThatMakeNoSenseChangeNothing) {
     esclavos.escribir_bit(1, 5, 16, 1);
     esclavos.escribir_bit(1, 5, 16, 0);
     esclavos.escribir_bit(1, 5, 2, 2);
-    esclavos.escribir_bit(1, 5, 2, -1);
+    esclavos.escribir_bit(1, 5, 2, 1.2);
+    esclavos.escribir_bit(1, 5, 3, 2); // a bit that is set
+    esclavos.escribir_bit(1, 5, 0, -1);
     esclavos.escribir_bit(1, 5, -1, 1);
     EXPECT_EQ(registro5(), 9);
     esclavos.escribir_bit(6, 5, -1, 1);

@@ -6,6 +6,7 @@
 #include <deque>
 #include <gtest/gtest.h>
 #include <stdexcept>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -148,6 +149,19 @@ TEST_F(ReceiveEvent, silenceAfterAFaultOfThePortDropsWhatWasThere) {
     recibir({"media"});
     puertoCerrado = true;
     recibir({});
+    recepcion.alCallar();
+    EXPECT_EQ(recepcion.buffer(), "");
+}
+
+TEST_F(ReceiveEvent, silenceAfterAPortThatFailsInTheMiddleDropsWhatItGave) {
+    bool dado = false;
+    recepcion.alRecibir([&] {
+        if (std::exchange(dado, true))
+            throw std::runtime_error("El puerto no está abierto");
+        return std::string("AB");
+    });
+    EXPECT_EQ(pasos.back(), "rechazo : El puerto no está abierto");
+    EXPECT_EQ(recepcion.buffer(), "AB");
     recepcion.alCallar();
     EXPECT_EQ(recepcion.buffer(), "");
 }

@@ -1,6 +1,7 @@
 // One connection: its operations, events and states.
 #include "tests/platform/net/Peer.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
 #include <string>
 
@@ -88,6 +89,24 @@ TEST(Winsock, answersOfOneArrivalLeaveTogether) {
     EXPECT_TRUE(runUntil(station.reactor, [&] { return !station.events.arrivals.empty(); }));
     EXPECT_EQ(station.connection.bytesPending(), 0U);
     EXPECT_EQ(peer.await(7), "one two");
+}
+
+TEST(Winsock, aVeryLongAnswerDoesNotWaitForTheEndOfItsArrival) {
+    Station station;
+    const Peer peer = station.connect();
+    constexpr std::size_t piece = 1000;
+    constexpr std::size_t pieces = 300;
+    std::size_t most = 0;
+    station.events.arrival = [&](Winsock& socket, auto) {
+        for (std::size_t i = 0; i < pieces; ++i) {
+            EXPECT_TRUE(socket.SendData(bytesOf(std::string(piece, 'x'))));
+            peer.receive(); // so that the kernel has room
+            most = std::max(most, socket.bytesPending());
+        }
+    };
+    peer.send("?");
+    EXPECT_TRUE(runUntil(station.reactor, [&] { return !station.events.arrivals.empty(); }));
+    EXPECT_LT(most, pieces * piece / 2);
 }
 
 TEST(Winsock, flushSendsInTheMiddleOfAnArrival) {
