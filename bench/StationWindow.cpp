@@ -3,11 +3,11 @@
 #include "shell/Estacion.h"
 #include "shell/FrmPrincipal.h"
 
-#include <QAbstractScrollArea>
 #include <QApplication>
 #include <QCheckBox>
 #include <QKeyEvent>
 #include <QPlainTextEdit>
+#include <QTableView>
 
 #include <chrono>
 #include <cstdlib>
@@ -35,7 +35,7 @@ std::int64_t residentBytes() {
 // Stands for a click or a key: an event that another thread posts, and that notes how long it waited.
 class Probe final : public QObject {
 public:
-    Probe(QPlainTextEdit* monitor, QAbstractScrollArea* grid) : monitor_(monitor), grid_(grid) {
+    Probe(QPlainTextEdit* monitor, QTableView* grid) : monitor_(monitor), grid_(grid) {
         grid->viewport()->installEventFilter(this);
     }
 
@@ -44,7 +44,7 @@ public:
             std::this_thread::sleep_for(std::chrono::milliseconds(5));
             QCoreApplication::postEvent(this, new Posted);
             if (turn % 10 == 0 && pressed_ == 0)
-                press(turn % 20 == 0 ? Qt::Key_Right : Qt::Key_Left);
+                press();
         }
     }
 
@@ -64,9 +64,11 @@ public:
 protected:
     void customEvent(QEvent* event) override {
         StationReport& report = stationReport();
-        if (const int key = static_cast<Posted*>(event)->key; key != 0) {
-            QKeyEvent down(QEvent::KeyPress, key, Qt::NoModifier);
-            QCoreApplication::sendEvent(grid_, &down);
+        if (static_cast<Posted*>(event)->key) {
+            // Between the first two columns: every press changes what is painted.
+            QKeyEvent arrow(QEvent::KeyPress, grid_->currentIndex().column() > 0 ? Qt::Key_Left : Qt::Key_Right,
+                            Qt::NoModifier);
+            QCoreApplication::sendEvent(grid_, &arrow);
             arrived_ = true;
             return;
         }
@@ -85,18 +87,18 @@ protected:
 
 private:
     struct Posted : QEvent {
-        explicit Posted(int ofKey = 0) : QEvent(User), posted(now()), key(ofKey) {}
+        explicit Posted(bool ofKey = false) : QEvent(User), posted(now()), key(ofKey) {}
         std::int64_t posted;
-        int key; // 0: none
+        bool key; // an arrow is pressed
     };
 
-    void press(int key) {
+    void press() {
         pressed_ = now();
-        QCoreApplication::postEvent(this, new Posted(key));
+        QCoreApplication::postEvent(this, new Posted(true));
     }
 
     QPlainTextEdit* monitor_;
-    QAbstractScrollArea* grid_;
+    QTableView* grid_;
     std::atomic<std::int64_t> pressed_ = 0; // when the key not yet answered was pressed
     bool arrived_ = false;
     int revision_ = -1;
@@ -118,7 +120,7 @@ void serve(std::uint16_t port, bool txRx) {
         return;
     window.findChild<QCheckBox*>(QStringLiteral("ChRxTx"))->setChecked(txRx);
     Probe probe(window.findChild<QPlainTextEdit*>(QStringLiteral("txtTramas(1)")),
-                window.findChild<QAbstractScrollArea*>(QStringLiteral("MSFlexGrid(1)")));
+                window.findChild<QTableView*>(QStringLiteral("MSFlexGrid(1)")));
     std::thread([&probe] { probe.run(); }).detach();
     QApplication::exec();
 }

@@ -29,6 +29,8 @@ namespace fs = std::filesystem;
 namespace {
 
 double quantile(std::vector<double> values, double share) {
+    if (values.empty())
+        throw std::runtime_error("nothing was measured");
     const auto rank = static_cast<std::ptrdiff_t>(share * static_cast<double>(values.size() - 1));
     std::nth_element(values.begin(), values.begin() + rank, values.end());
     return values[static_cast<std::size_t>(rank)];
