@@ -117,10 +117,11 @@ Value round(Context& context, Arguments arguments) {
     if (places < 0 || places > 22) {
         raise(ErrorNumber::InvalidCall);
     }
-    if (const Value plain = withoutObject(context, arguments[0]); plain.type == Type::Boolean) {
-        return plain;
+    const Value given = withoutObject(context, arguments[0]); // asks a default member once
+    if (given.type == Type::Boolean) {
+        return given;
     }
-    Value x = numberArgument(context, arguments[0]);
+    Value x = numberArgument(context, given);
     if (x.type == Type::Single) {
         return Value::ofSingle(roundedTo(x.d, places));
     }

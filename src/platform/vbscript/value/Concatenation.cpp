@@ -21,8 +21,8 @@ Value joinedTexts(Context& context, const Value& left, const Value& right) {
         return Value::null();
     }
     if (left.hasOddByte() || right.hasOddByte()) {
-        return joinedBytes(left.isNull() ? String() : toString(context, left),
-                           right.isNull() ? String() : toString(context, right));
+        const String text = left.isNull() ? String() : toString(context, left);
+        return joinedBytes(text, right.isNull() ? String() : toString(context, right));
     }
     const Value nothing = Value::ofString(String());
     const TextArgument text(context, left.isNull() ? nothing : left);
@@ -48,7 +48,8 @@ Value concatenate(Context& context, const Value& a, const Value& b) {
     const Value& left = a.deref();
     const Value& right = b.deref();
     if (left.isObject() || right.isObject()) {
-        return joinedTexts(context, withoutObject(context, left), withoutObject(context, right));
+        const Value first = withoutObject(context, left); // its default member runs before the other's
+        return joinedTexts(context, first, withoutObject(context, right));
     }
     return joinedTexts(context, left, right);
 }
