@@ -45,7 +45,7 @@ struct Puesto {
 
     std::unique_ptr<Peer> conectar(Lado lado) const {
         auto cliente = std::make_unique<Peer>(static_cast<std::uint16_t>(puente.puerto(lado)));
-        if (!QTest::qWaitFor([&] { return estado(lado) == WinsockState::connected; }))
+        if (!QTest::qWaitFor([&] { return estado(lado) == WinsockState::connected; }, paciencia))
             qWarning("the bridge did not accept");
         return cliente;
     }
@@ -60,10 +60,12 @@ struct Puesto {
 
 QByteArray recibido(const Peer& cliente, int cuantos) {
     QByteArray todo;
-    [[maybe_unused]] const bool llego = QTest::qWaitFor([&] {
-        todo += QByteArray::fromStdString(cliente.receive());
-        return todo.size() >= cuantos;
-    });
+    [[maybe_unused]] const bool llego = QTest::qWaitFor(
+        [&] {
+            todo += QByteArray::fromStdString(cliente.receive());
+            return todo.size() >= cuantos;
+        },
+        paciencia);
     return todo;
 }
 
@@ -310,7 +312,7 @@ private Q_SLOTS:
         Puesto p;
         auto& echo = p.control<QCheckBox>("chEcho");
         p.ventana->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(p.ventana.get()));
+        QVERIFY(QTest::qWaitForWindowActive(p.ventana.get(), paciencia));
         echo.setFocus();
         QTest::keyClick(&echo, Qt::Key_Space);
         QVERIFY(echo.isChecked());

@@ -27,7 +27,7 @@ private:
         vista_ = std::make_unique<VistaMonitor>(*monitor_, nullptr, seguimiento);
         vista_->resize(500, 150);
         vista_->show();
-        QVERIFY(QTest::qWaitForWindowExposed(vista_.get()));
+        QVERIFY(QTest::qWaitForWindowExposed(vista_.get(), paciencia));
     }
     void pasar(std::chrono::milliseconds cuanto) { PasoDelTiempo(*vista_).pasar(cuanto); }
     // The text of the monitor starts over by itself.

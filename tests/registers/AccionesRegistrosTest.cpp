@@ -64,7 +64,7 @@ private:
     }
     QString mensajeDeUnaCaja() {
         QMessageBox* caja = nullptr;
-        if (!QTest::qWaitFor([&] { return (caja = ventana_->findChild<QMessageBox*>()) != nullptr; }))
+        if (!QTest::qWaitFor([&] { return (caja = ventana_->findChild<QMessageBox*>()) != nullptr; }, paciencia))
             return QStringLiteral("(ninguna)");
         const QString texto = caja->text();
         caja->close();
@@ -73,7 +73,8 @@ private:
     void escribirDestino(const QString& texto) {
         QTest::keyClick(&grid(), Qt::Key_G, Qt::ControlModifier);
         QInputDialog* dialogo = nullptr;
-        QVERIFY(QTest::qWaitFor([&] { return (dialogo = ventana_->findChild<QInputDialog*>()) != nullptr; }));
+        QVERIFY(
+            QTest::qWaitFor([&] { return (dialogo = ventana_->findChild<QInputDialog*>()) != nullptr; }, paciencia));
         auto* caja = dialogo->findChild<QLineEdit*>();
         QTest::keyClicks(caja, texto);
         QTest::keyClick(caja, Qt::Key_Return);
@@ -98,7 +99,7 @@ private Q_SLOTS:
         acciones_->ponerPagina(vista_);
         ventana_->resize(900, 700);
         ventana_->show();
-        QVERIFY(QTest::qWaitForWindowActive(ventana_.get()));
+        QVERIFY(QTest::qWaitForWindowActive(ventana_.get(), paciencia));
         vista_->irA(0);
     }
     void cleanup() { ventana_.reset(); }
@@ -265,7 +266,7 @@ private Q_SLOTS:
         QTest::keyClick(&grid(), Qt::Key_R, Qt::ControlModifier);
         auto* grafica = ventana_->findChild<FrmGrafica*>();
         QVERIFY(grafica != nullptr);
-        QVERIFY(QTest::qWaitForWindowExposed(grafica));
+        QVERIFY(QTest::qWaitForWindowExposed(grafica, paciencia));
         QCOMPARE(grafica->lineas().size(), std::size_t{2});
         QCOMPARE(grafica->lineas()[0].titulo, QStringLiteral("Nivel (2:5)"));
         QCOMPARE(grafica->lineas()[1].titulo, QStringLiteral("2:6"));
@@ -287,7 +288,7 @@ private Q_SLOTS:
         FrmGrafica grafica(*esclavos_, *anotaciones_, {&uno, 1});
         grafica.setAttribute(Qt::WA_DeleteOnClose, false);
         grafica.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&grafica));
+        QVERIFY(QTest::qWaitForWindowExposed(&grafica, paciencia));
         auto* vista = grafica.findChild<VistaGrafica*>();
         auto* pausa = grafica.findChild<QCheckBox*>(QStringLiteral("chPausa"));
         QTest::mouseClick(pausa, Qt::LeftButton, {}, QPoint(8, pausa->height() / 2));

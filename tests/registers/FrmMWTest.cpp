@@ -50,7 +50,7 @@ private Q_SLOTS:
         esclavos_->crearEsclavo(1, 0, 99);
         frm_ = std::make_unique<FrmMW>(*esclavos_);
         abrir(QStringLiteral("0"));
-        QVERIFY(QTest::qWaitForWindowActive(frm_.get()));
+        QVERIFY(QTest::qWaitForWindowActive(frm_.get(), paciencia));
     }
 
     void openingFillsTheFieldsAndPutsTheCursorBehindTheValue() {

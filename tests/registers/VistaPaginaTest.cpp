@@ -56,7 +56,7 @@ private Q_SLOTS:
         vista_ = std::make_unique<VistaPagina>(*esclavos_, pagina(), new QPlainTextEdit);
         vista_->resize(800, 600);
         vista_->show();
-        QVERIFY(QTest::qWaitForWindowExposed(vista_.get()));
+        QVERIFY(QTest::qWaitForWindowExposed(vista_.get(), paciencia));
         pinturas_ = 0;
         grid().viewport()->installEventFilter(this);
     }

@@ -65,7 +65,7 @@ private Q_SLOTS:
         todo->addWidget(otro_);
         barra_ = new BarraScript(*ventana_, [this] { ++paradas_; });
         ventana_->show();
-        QVERIFY(QTest::qWaitForWindowExposed(ventana_.get()));
+        QVERIFY(QTest::qWaitForWindowExposed(ventana_.get(), paciencia));
     }
     void cleanup() { ventana_.reset(); }
 

@@ -48,7 +48,7 @@ private Q_SLOTS:
         e_->show();
         e_->activateWindow();
         e_->setFocus();
-        QVERIFY(QTest::qWaitForWindowActive(e_.get()));
+        QVERIFY(QTest::qWaitForWindowActive(e_.get(), paciencia));
     }
     void cleanup() { e_.reset(); }
 

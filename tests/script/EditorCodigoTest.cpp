@@ -60,7 +60,7 @@ private Q_SLOTS:
         e_->resize(700, 500);
         e_->show();
         e_->setFocus();
-        QVERIFY(QTest::qWaitForWindowExposed(e_.get()));
+        QVERIFY(QTest::qWaitForWindowExposed(e_.get(), paciencia));
     }
 
     void cleanup() { e_.reset(); }

@@ -43,7 +43,7 @@ protected:
         frm_ = new FrmEdicionCodigo(*codigo_, *config_, *chScript_, *ejecutor_, eventos_, principal_.get());
         frm_->show();
         frm_->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(frm_));
+        QVERIFY(QTest::qWaitForWindowActive(frm_, paciencia));
     }
     void abrirCon(std::string_view texto) {
         escribirArchivo(archivo(), texto);

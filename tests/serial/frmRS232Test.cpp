@@ -290,7 +290,8 @@ private Q_SLOTS:
             pollfd llegada{linea, POLLIN, 0};
             QCOMPARE(::poll(&llegada, 1, 10'000), 1); // here: nobody reads before the event loop runs
             int esperan = 1;
-            QVERIFY(QTest::qWaitFor([&] { return ::ioctl(linea, FIONREAD, &esperan) == 0 && esperan == 0; }));
+            QVERIFY(
+                QTest::qWaitFor([&] { return ::ioctl(linea, FIONREAD, &esperan) == 0 && esperan == 0; }, paciencia));
             ::close(linea);
         };
         const frmRS232 ventana(par.carpeta(), configuracion, log, motor);
@@ -336,7 +337,7 @@ private Q_SLOTS:
     void tabWalksThroughTheControlsInOrder() {
         Estacion estacion;
         estacion.ventana->show();
-        QVERIFY(QTest::qWaitForWindowActive(estacion.ventana.get()));
+        QVERIFY(QTest::qWaitForWindowActive(estacion.ventana.get(), paciencia));
         estacion.control<QLineEdit>("txtConfigRS232")->setFocus();
         for (const char* siguiente : {"BtnAbrirPuerto", "BtnOcultar", "TxtInputCom", "txtTramas"}) {
             QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);

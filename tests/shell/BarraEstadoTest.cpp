@@ -30,7 +30,7 @@ public:
 
     QLabel& campo(const char* nombre) const { return control<QLabel>(nombre); }
     bool muestra(const char* nombre, const QString& texto) const {
-        return QTest::qWaitFor([&] { return campo(nombre).text() == texto; });
+        return QTest::qWaitFor([&] { return campo(nombre).text() == texto; }, paciencia);
     }
     QPushButton& error() const { return control<QPushButton>("BtnErrorScript"); }
     QTimer& reloj() const { return control<QTimer>("relojEstado"); }
@@ -75,11 +75,13 @@ private Q_SLOTS:
         const auto maestro = e.conectarMaestro();
         const auto ritmo = [&] { return e.campo("lblRitmo").text().split(u' ').first().toInt(); };
         QVERIFY(e.campo("lblRitmo").text().endsWith(QStringLiteral(" peticiones/s")));
-        QVERIFY(QTest::qWaitFor([&] {
-            EstacionVisible::pedir(*maestro, EstacionVisible::lectura(1), 13);
-            return ritmo() > 0;
-        }));
-        QVERIFY(QTest::qWaitFor([&] { return ritmo() == 0; }));
+        QVERIFY(QTest::qWaitFor(
+            [&] {
+                EstacionVisible::pedir(*maestro, EstacionVisible::lectura(1), 13);
+                return ritmo() > 0;
+            },
+            paciencia));
+        QVERIFY(QTest::qWaitFor([&] { return ritmo() == 0; }, paciencia));
     }
 
     void rateIsTheRequestsOfTheTimeSinceTheLastLook() {
@@ -93,7 +95,7 @@ private Q_SLOTS:
         pasado.start();
         for (int i = 0; i < 20; ++i)
             EstacionVisible::pedir(*maestro, EstacionVisible::lectura(1), 13);
-        QVERIFY(QTest::qWaitFor([&] { return pasado.elapsed() >= 100; }));
+        QVERIFY(QTest::qWaitFor([&] { return pasado.elapsed() >= 100; }, paciencia));
         Q_EMIT e.reloj().timeout({});
         const int ritmo = e.campo("lblRitmo").text().split(u' ').first().toInt();
         QVERIFY2(ritmo > 0 && ritmo <= 200, qPrintable(e.campo("lblRitmo").text()));
@@ -106,12 +108,14 @@ private Q_SLOTS:
         e.script("x = 1");
         e.pasada();
         e.pasada();
-        QVERIFY(QTest::qWaitFor([&] {
-            return QRegularExpression(
-                       QStringLiteral("^Pasadas: 2 \\(\\d+([.,]\\d+)? [mµ]?s; máx\\. \\d+([.,]\\d+)? [mµ]?s\\)$"))
-                .match(e.campo("lblPasadas").text())
-                .hasMatch();
-        }));
+        QVERIFY(QTest::qWaitFor(
+            [&] {
+                return QRegularExpression(
+                           QStringLiteral("^Pasadas: 2 \\(\\d+([.,]\\d+)? [mµ]?s; máx\\. \\d+([.,]\\d+)? [mµ]?s\\)$"))
+                    .match(e.campo("lblPasadas").text())
+                    .hasMatch();
+            },
+            paciencia));
         QVERIFY(!e.error().isVisible());
     }
 
@@ -120,7 +124,7 @@ private Q_SLOTS:
         e.ejecutarAMano();
         e.script("x = 1\r\ny = 2\r\nz = x / 0\r\n");
         e.pasada();
-        QVERIFY(QTest::qWaitFor([&] { return e.error().isVisible(); }));
+        QVERIFY(QTest::qWaitFor([&] { return e.error().isVisible(); }, paciencia));
         QVERIFY2(e.error().text().startsWith(QStringLiteral("Error, línea 3, columna ")), qPrintable(e.error().text()));
         QVERIFY(e.error().toolTip().contains(QStringLiteral("falló")));
         QTest::mouseClick(&e.error(), Qt::LeftButton);
@@ -135,11 +139,13 @@ private Q_SLOTS:
         e.ejecutarAMano();
         e.script("z = 1 / 0\r\n");
         e.pasada();
-        QVERIFY(QTest::qWaitFor([&] { return e.error().text().startsWith(QStringLiteral("Error, línea 1")); }));
+        QVERIFY(
+            QTest::qWaitFor([&] { return e.error().text().startsWith(QStringLiteral("Error, línea 1")); }, paciencia));
         QTest::mouseClick(&e.error(), Qt::LeftButton);
         auto* editor = e.ventana->findChild<QPlainTextEdit*>(QStringLiteral("txtCodigo"));
         editor->setPlainText(QStringLiteral("\n\nz = 1 / 0")); // the empty lines are not run
-        QVERIFY(QTest::qWaitFor([&] { return e.error().text().startsWith(QStringLiteral("Error, línea 3")); }));
+        QVERIFY(
+            QTest::qWaitFor([&] { return e.error().text().startsWith(QStringLiteral("Error, línea 3")); }, paciencia));
         QVERIFY(e.error().toolTip().replace(QChar::Nbsp, u' ').contains(QStringLiteral("línea 3")));
         e.pasada();
         auto& casilla = e.control<QCheckBox>("chScript");
@@ -155,7 +161,8 @@ private Q_SLOTS:
         e.pasada();
         e.script("y = 1\r\nz = y / 2\r\n");
         e.pasada();
-        QVERIFY(QTest::qWaitFor([&] { return e.error().text().startsWith(QStringLiteral("Último error, línea 2")); }));
+        QVERIFY(QTest::qWaitFor([&] { return e.error().text().startsWith(QStringLiteral("Último error, línea 2")); },
+                                paciencia));
         QTest::keyClick(&e.error(), Qt::Key_Space);
         auto* editor = e.ventana->findChild<QPlainTextEdit*>(QStringLiteral("txtCodigo"));
         QVERIFY(editor != nullptr);
@@ -167,7 +174,7 @@ private Q_SLOTS:
         const QString antes = e.campo("lblEnMarcha").text();
         QVERIFY2(QRegularExpression(QStringLiteral("^En marcha: \\d\\d:\\d\\d:\\d\\d$")).match(antes).hasMatch(),
                  qPrintable(antes));
-        QVERIFY(QTest::qWaitFor([&] { return e.campo("lblEnMarcha").text() != antes; }));
+        QVERIFY(QTest::qWaitFor([&] { return e.campo("lblEnMarcha").text() != antes; }, paciencia));
     }
 
     void noTimerRunsWhileTheWindowIsHidden() {
@@ -195,7 +202,7 @@ private Q_SLOTS:
         e.script("Err.Raise 1001, \"prueba\", \"Un texto de error que es mucho más largo de lo que cabe en la barra, "
                  "& con un signo que no es de teclado\"\r\n");
         e.pasada();
-        QVERIFY(QTest::qWaitFor([&] { return e.error().isVisible(); }));
+        QVERIFY(QTest::qWaitFor([&] { return e.error().isVisible(); }, paciencia));
         const auto& barra = e.control<QWidget>("BarraEstado");
         QVERIFY(e.campo("lblMaestros").isVisible() && e.campo("lblRitmo").isVisible());
         bool visible = true;

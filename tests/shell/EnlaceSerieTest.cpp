@@ -47,7 +47,7 @@ QString leerConMbpoll(std::uint16_t puerto) {
                    QStringLiteral("-1"), QStringLiteral("-0"), QStringLiteral("-a"), QStringLiteral("1"),
                    QStringLiteral("-r"), QStringLiteral("0"), QStringLiteral("-c"), QStringLiteral("5"),
                    QStringLiteral("127.0.0.1")});
-    if (!QTest::qWaitFor([&] { return maestro.state() == QProcess::NotRunning; }))
+    if (!QTest::qWaitFor([&] { return maestro.state() == QProcess::NotRunning; }, paciencia))
         qFatal("mbpoll does not end");
     return QString::fromLatin1(maestro.readAllStandardOutput());
 }
@@ -109,10 +109,12 @@ private Q_SLOTS:
         QVERIFY(estacion.cargar());
         QTest::mouseClick(&estacion.control<QPushButton>("btnVerFormularioRS232"), Qt::LeftButton);
         dispositivo.enviar("no es una lectura\n\r");
-        QVERIFY(QTest::qWaitFor([&] {
-            return std::filesystem::exists(estacion.carpeta.ruta() / "LOGS_Trelvano") &&
-                   archivosDeLog(estacion.carpeta.ruta()).find("error 1") != std::string::npos;
-        }));
+        QVERIFY(QTest::qWaitFor(
+            [&] {
+                return std::filesystem::exists(estacion.carpeta.ruta() / "LOGS_Trelvano") &&
+                       archivosDeLog(estacion.carpeta.ruta()).find("error 1") != std::string::npos;
+            },
+            paciencia));
         const auto maestro = estacion.conectarMaestro();
         QCOMPARE(PrincipalDePrueba::pedir(*maestro, PrincipalDePrueba::lectura(1), 13).size(), 13);
     }
@@ -142,7 +144,8 @@ private Q_SLOTS:
         estacion.control<QCheckBox>("chScript").setChecked(true);
         const auto validezDespuesDe = [&](const std::string& lectura) {
             dispositivo.enviar(lectura + "\t ");
-            if (!QTest::qWaitFor([&] { return tramas->toPlainText().contains(QString::fromStdString(lectura)); }))
+            if (!QTest::qWaitFor([&] { return tramas->toPlainText().contains(QString::fromStdString(lectura)); },
+                                 paciencia))
                 qWarning("no reading");
             estacion.ventana->ejecutarScript();
             return estacion.estacion->esclavos.valores(1)[4];
@@ -175,9 +178,11 @@ private Q_SLOTS:
                 return;
             reloj.stop();
             dispositivo.enviar("240517123\n\r");
-            buena = QTest::qWaitFor([&] { return tramas->toPlainText().contains(QStringLiteral("240517123")); });
+            buena =
+                QTest::qWaitFor([&] { return tramas->toPlainText().contains(QStringLiteral("240517123")); }, paciencia);
             dispositivo.enviar("no es una lectura\n\r");
-            mala = QTest::qWaitFor([&] { return rechazo->text().contains(QStringLiteral("no es una lectura")); });
+            mala = QTest::qWaitFor([&] { return rechazo->text().contains(QStringLiteral("no es una lectura")); },
+                                   paciencia);
             QTest::keyClick(caja, Qt::Key_Return);
         });
         reloj.start(5);

@@ -22,7 +22,7 @@ public:
 
     FrmEstadisticas& abrir() const {
         ventana->activateWindow();
-        if (!QTest::qWaitForWindowActive(ventana.get()))
+        if (!QTest::qWaitForWindowActive(ventana.get(), paciencia))
             qFatal("the window cannot be activated");
         QTest::keyClick(ventana.get(), Qt::Key_I, Qt::ControlModifier);
         auto* hallada = ventana->findChild<FrmEstadisticas*>();
@@ -80,12 +80,13 @@ private Q_SLOTS:
         p_->abrir();
         QCOMPARE(p_->fila("listaEsclavos", 0), QStringList({"Todos", "0", "0", "0", "0"}));
         leer(1);
-        QVERIFY(QTest::qWaitFor([&] { return p_->fila("listaEsclavos", 0).value(1) == QStringLiteral("1"); }));
+        QVERIFY(
+            QTest::qWaitFor([&] { return p_->fila("listaEsclavos", 0).value(1) == QStringLiteral("1"); }, paciencia));
         const auto otro = p_->conectarMaestro();
-        QVERIFY(QTest::qWaitFor([&] { return p_->filas("listaMaestros") == 2; }));
+        QVERIFY(QTest::qWaitFor([&] { return p_->filas("listaMaestros") == 2; }, paciencia));
         QCOMPARE(p_->fila("listaMaestros", 1)[4], QString()); // it has asked for nothing yet
         maestro_->close();
-        QVERIFY(QTest::qWaitFor([&] { return p_->filas("listaMaestros") == 1; }));
+        QVERIFY(QTest::qWaitFor([&] { return p_->filas("listaMaestros") == 1; }, paciencia));
         QCOMPARE(p_->fila("listaMaestros", 0)[1], QString::number(otro->localPort()));
     }
 
@@ -112,9 +113,9 @@ private Q_SLOTS:
         QCOMPARE(p_->fila("listaEsclavos", 0), QStringList({"Todos", "0", "0", "0", "0"}));
         QCOMPARE(p_->fila("listaMaestros", 0)[3], QStringLiteral("0"));
         QVERIFY(QTest::qWaitFor(
-            [&] { return p_->control<QLabel>("lblLecturas").text() == QStringLiteral("Lecturas: 0"); }));
+            [&] { return p_->control<QLabel>("lblLecturas").text() == QStringLiteral("Lecturas: 0"); }, paciencia));
         leer(3);
-        QVERIFY(QTest::qWaitFor([&] { return p_->fila("listaMaestros", 0)[3] == QStringLiteral("1"); }));
+        QVERIFY(QTest::qWaitFor([&] { return p_->fila("listaMaestros", 0)[3] == QStringLiteral("1"); }, paciencia));
     }
 
     void closedItRestsAndOpensAgain() {
@@ -122,7 +123,7 @@ private Q_SLOTS:
         const auto& reloj = p_->control<QTimer>("relojEstadisticas");
         QVERIFY(reloj.isActive());
         QCOMPARE(reloj.interval(), 500);
-        QVERIFY(QTest::qWaitForWindowActive(&ventana));
+        QVERIFY(QTest::qWaitForWindowActive(&ventana, paciencia));
         QTest::keyClick(&ventana, Qt::Key_Escape);
         QVERIFY(!ventana.isVisible());
         QVERIFY(!reloj.isActive());
@@ -142,9 +143,9 @@ private Q_SLOTS:
                 ver = uno;
         QVERIFY(ver != nullptr);
         p_->ventana->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(p_->ventana.get()));
+        QVERIFY(QTest::qWaitForWindowActive(p_->ventana.get(), paciencia));
         QTest::keyClick(p_->ventana.get(), Qt::Key_V, Qt::AltModifier);
-        QVERIFY(QTest::qWaitFor([&] { return ver->menu()->isVisible(); }));
+        QVERIFY(QTest::qWaitFor([&] { return ver->menu()->isVisible(); }, paciencia));
         QTest::keyClick(ver->menu(), Qt::Key_E);
         auto* hallada = p_->ventana->findChild<FrmEstadisticas*>();
         QVERIFY(hallada != nullptr && hallada->isVisible());

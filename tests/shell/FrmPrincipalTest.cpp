@@ -38,7 +38,7 @@ private Q_SLOTS:
         p_ = std::make_unique<PrincipalDePrueba>();
         QVERIFY(p_->cargar());
         ventana().activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(&ventana()));
+        QVERIFY(QTest::qWaitForWindowActive(&ventana(), paciencia));
     }
 
     void cleanup() { p_.reset(); }
@@ -242,7 +242,7 @@ private Q_SLOTS:
         QTest::keyClick(&control<QWidget>("ChRxTx"), Qt::Key_Space);
         QVERIFY(txrx() != nullptr && txrx()->isVisible());
         QCOMPARE(txrx()->windowTitle(), QStringLiteral("TxRx"));
-        QVERIFY(QTest::qWaitForWindowExposed(txrx()));
+        QVERIFY(QTest::qWaitForWindowExposed(txrx(), paciencia));
         QCOMPARE(QApplication::activeWindow(), &ventana());
         QCOMPARE(QApplication::focusWidget()->objectName(), QStringLiteral("ChRxTx"));
         marcar("ChRxTx");

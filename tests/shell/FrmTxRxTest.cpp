@@ -205,7 +205,7 @@ private Q_SLOTS:
         const MaestroApresurado maestro(p_->puerto);
         QTRY_VERIFY(maestro.hechas > 500);
         txrx().activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(&txrx()));
+        QVERIFY(QTest::qWaitForWindowActive(&txrx(), paciencia));
         auto& vista = control<VistaTexto>("Text1");
         auto& esclavos = control<QLineEdit>("txtEsclavos");
         esclavos.setFocus();

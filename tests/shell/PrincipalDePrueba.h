@@ -69,10 +69,12 @@ public:
     }
     static QByteArray recibir(const Peer& maestro, int cuantos) {
         QByteArray respuesta;
-        [[maybe_unused]] const bool llego = QTest::qWaitFor([&] {
-            respuesta += QByteArray::fromStdString(maestro.receive());
-            return respuesta.size() >= cuantos;
-        });
+        [[maybe_unused]] const bool llego = QTest::qWaitFor(
+            [&] {
+                respuesta += QByteArray::fromStdString(maestro.receive());
+                return respuesta.size() >= cuantos;
+            },
+            paciencia);
         return respuesta;
     }
 

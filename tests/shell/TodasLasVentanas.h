@@ -42,8 +42,8 @@ public:
         QCoreApplication::processEvents(); // what was activated before has its turn first
         cual.show();
         cual.activateWindow();
-        if (!QTest::qWaitForWindowActive(&cual) ||
-            !QTest::qWaitFor([&] { return QApplication::activeWindow() == &cual; }))
+        if (!QTest::qWaitForWindowActive(&cual, paciencia) ||
+            !QTest::qWaitFor([&] { return QApplication::activeWindow() == &cual; }, paciencia))
             qFatal("a window cannot be activated");
     }
 
@@ -65,7 +65,7 @@ private:
             for (QWidget* const suelta : QApplication::topLevelWidgets())
                 if (suelta->objectName() == QLatin1String(nombre))
                     nueva = suelta;
-        if (nueva == nullptr || !QTest::qWaitForWindowExposed(nueva))
+        if (nueva == nullptr || !QTest::qWaitForWindowExposed(nueva, paciencia))
             qFatal("%s does not open; in front: %s, focus: %s", nombre,
                    QApplication::activeWindow() ? qPrintable(QApplication::activeWindow()->objectName()) : "-",
                    QApplication::focusWidget() ? qPrintable(QApplication::focusWidget()->objectName()) : "-");

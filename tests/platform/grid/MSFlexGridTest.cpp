@@ -72,7 +72,7 @@ private Q_SLOTS:
         grid_->show();
         grid_->activateWindow();
         grid_->setFocus();
-        QVERIFY(QTest::qWaitForWindowActive(grid_.get()));
+        QVERIFY(QTest::qWaitForWindowActive(grid_.get(), paciencia));
     }
 
     void textMatrixCountsWithTheHeadings() {
@@ -160,7 +160,7 @@ private Q_SLOTS:
         otra.setCurrentIndex(otra.model()->index(49, 1));
         QCOMPARE(otra.Row(), 50);
         otra.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&otra));
+        QVERIFY(QTest::qWaitForWindowExposed(&otra, paciencia));
         QCOMPARE(otra.verticalHeader()->count(), 99);
         QCOMPARE(otra.verticalHeader()->selectionModel(), otra.selectionModel());
         QCOMPARE(otra.Row(), 50);

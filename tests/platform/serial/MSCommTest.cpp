@@ -146,7 +146,7 @@ private Q_SLOTS:
             QCOMPARE(QByteArray::fromStdString(comm.Settings()), QByteArray(ajustes));
             QSignalSpy llegada(&comm, &MSComm::OnComm);
             par.enviar("x");
-            QVERIFY(llegada.wait());
+            QVERIFY(llegada.wait(paciencia));
             QCOMPARE(comm.Input(), std::string("x"));
         }
     }
@@ -300,7 +300,7 @@ private Q_SLOTS:
         abrir(comm);
         QSignalSpy perdido(&comm, &MSComm::perdido);
         par.desconectar();
-        QVERIFY(perdido.wait());
+        QVERIFY(perdido.wait(paciencia));
         QVERIFY(!comm.PortOpen());
         correrLoPendiente();
         QVERIFY(!QAbstractEventDispatcher::instance()->processEvents(QEventLoop::AllEvents)); // nothing goes on
@@ -320,7 +320,7 @@ private Q_SLOTS:
         QSignalSpy perdido(&comm, &MSComm::perdido);
         abrir(comm);
         par.enviar("x");
-        QVERIFY(perdido.wait());
+        QVERIFY(perdido.wait(paciencia));
         QVERIFY(!comm.PortOpen());
         QCOMPARE(perdido.count(), 1);
     }
@@ -334,7 +334,7 @@ private Q_SLOTS:
         for (int vez = 1; vez <= 3; ++vez) {
             abrir(comm);
             par.desconectar();
-            QVERIFY(perdido.wait());
+            QVERIFY(perdido.wait(paciencia));
             QCOMPARE(perdido.count(), vez);
             par.conectar();
         }

@@ -28,7 +28,7 @@ std::string lineas(int cuantas) {
 void mostrarEnPantalla(VistaTexto& vista) {
     vista.resize(400, 200);
     vista.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&vista));
+    QVERIFY(QTest::qWaitForWindowExposed(&vista, paciencia));
 }
 
 } // namespace
