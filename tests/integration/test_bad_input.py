@@ -46,11 +46,16 @@ class Configuration(unittest.TestCase):
             station.launch()
             station.port = 502
             wait_for(lambda: station.alive() and (station.accepts() or "502" in station.errors()), "port 502")
-            before = station.processor_seconds()
-            time.sleep(1)  # an interval to measure over
-            self.assertLess(station.processor_seconds() - before, 0.5, "the station spins")
+            wait_for(lambda: self.rests(station), "a second of rest: the station spins")
         finally:
             station.__exit__()
+
+    @staticmethod
+    def rests(station):
+        """Writing the missing keys into a large file goes on for a while after the port is open."""
+        before = station.processor_seconds()
+        time.sleep(1)  # an interval to measure over
+        return station.processor_seconds() - before < 0.5
 
     def test_junk(self):
         self.serves_by_default(lambda s: s.ini.write_bytes(random.Random(1).randbytes(5000)))
