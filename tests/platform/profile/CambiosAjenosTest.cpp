@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 #include <sys/syscall.h>
 #include <unistd.h>
+#include <utility>
 
 namespace {
 
@@ -25,35 +26,34 @@ protected:
         std::filesystem::rename(carpeta / "editor", archivo);
     }
 
+    // What another program does once, while the new text goes down to the disk.
+    static void alPrimerAsiento(std::function<void()> accion) {
+        alAsentar = [accion = std::move(accion)] {
+            alAsentar = nullptr; // fsync calls a copy
+            accion();
+        };
+    }
+
     CarpetaTemporal carpeta;
     std::filesystem::path archivo = carpeta / "p.ini";
 };
 
 TEST_F(CambiosAjenos, aFileReplacedWhileAKeyIsWrittenKeepsBothChanges) {
     escribirArchivo(archivo, "[s]\nk=1\nsuya=1\n");
-    alAsentar = [this] {
-        alAsentar = nullptr;
-        guardarEnOtroPrograma("[s]\nk=1\nsuya=2\n");
-    };
+    alPrimerAsiento([this] { guardarEnOtroPrograma("[s]\nk=1\nsuya=2\n"); });
     EXPECT_FALSE(escribir("k", "9"));
     EXPECT_EQ(contenidoDe(archivo), "[s]\nk=9\nsuya=2\n");
 }
 
 TEST_F(CambiosAjenos, aFileWrittenInPlaceWhileAKeyIsWrittenKeepsBothChanges) {
     escribirArchivo(archivo, "[s]\nk=1\nsuya=1\n");
-    alAsentar = [this] {
-        alAsentar = nullptr;
-        escribirArchivo(archivo, "[s]\nk=1\nsuya=2\n");
-    };
+    alPrimerAsiento([this] { escribirArchivo(archivo, "[s]\nk=1\nsuya=2\n"); });
     EXPECT_FALSE(escribir("k", "9"));
     EXPECT_EQ(contenidoDe(archivo), "[s]\nk=9\nsuya=2\n");
 }
 
 TEST_F(CambiosAjenos, aFileThatAppearsMeanwhileTakesTheKey) {
-    alAsentar = [this] {
-        alAsentar = nullptr;
-        guardarEnOtroPrograma("[s]\nsuya=2\n");
-    };
+    alPrimerAsiento([this] { guardarEnOtroPrograma("[s]\nsuya=2\n"); });
     EXPECT_FALSE(escribir("k", "9"));
     EXPECT_EQ(contenidoDe(archivo), "[s]\nsuya=2\nk=9\n");
 }

@@ -24,7 +24,7 @@ bool fails() noexcept {
 
 } // namespace
 
-// The linker sends every call of malloc and realloc here (--wrap).
+// The linker sends every call of malloc and realloc here (--wrap); these names are its own, reserved or not.
 extern "C" {
 void* __real_malloc(std::size_t size);                // NOLINT(bugprone-reserved-identifier)
 void* __real_realloc(void* memory, std::size_t size); // NOLINT(bugprone-reserved-identifier)
