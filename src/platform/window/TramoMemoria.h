@@ -27,7 +27,8 @@ struct AsignadorTramos {
 
     AsignadorTramos() = default;
     template <typename Otro>
-    AsignadorTramos(const AsignadorTramos<Otro>& /*otro*/) {} // NOLINT(google-explicit-constructor)
+    // Containers convert their allocator by themselves. NOLINTNEXTLINE(google-explicit-constructor)
+    AsignadorTramos(const AsignadorTramos<Otro>& /*otro*/) {}
 
     T* allocate(std::size_t cuantos) {
         const std::size_t bytes = cuantos * sizeof(T);
