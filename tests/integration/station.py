@@ -1,5 +1,6 @@
 """Starts the real program in a folder of its own, without a screen, and ends it again."""
 
+import contextlib
 import os
 import re
 import resource
@@ -110,6 +111,20 @@ class Station:
             return True
         except ConnectionRefusedError:
             return False
+
+    def settled(self):
+        """Whether this very process listens on the port or has said that it cannot: another program may hold it."""
+        return self.alive() and (self.listens() or str(self.port) in self.errors())
+
+    def listens(self):
+        own = set()
+        for descriptor in Path(f"/proc/{self.process.pid}/fd").iterdir():
+            with contextlib.suppress(FileNotFoundError):  # closed meanwhile
+                own.add(os.readlink(descriptor))
+        tables = [table.read_text() for table in Path("/proc/net").glob("tcp*")]
+        sockets = [line.split() for text in tables for line in text.splitlines()[1:]]
+        return any(state == "0A" and int(address.rsplit(":", 1)[1], 16) == self.port and f"socket:[{inode}]" in own
+                   for _, address, _, state, _, _, _, _, _, inode, *_ in sockets)
 
     def connect(self):
         return socket.create_connection(("127.0.0.1", self.port), timeout=PATIENCE)

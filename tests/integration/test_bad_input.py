@@ -45,7 +45,7 @@ class Configuration(unittest.TestCase):
             prepare(station)
             station.launch()
             station.port = 502
-            wait_for(lambda: station.alive() and (station.accepts() or "502" in station.errors()), "port 502")
+            wait_for(station.settled, "port 502")
             wait_for(lambda: self.rests(station), "a second of rest: the station spins")
         finally:
             station.__exit__()

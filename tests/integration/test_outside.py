@@ -90,7 +90,7 @@ class Settings(unittest.TestCase):
             try:
                 station.launch()
                 station.port = 502
-                wait_for(lambda: station.alive() and (station.accepts() or "502" in station.errors()), "port 502")
+                wait_for(station.settled, "port 502")
             finally:
                 station.__exit__()
 
