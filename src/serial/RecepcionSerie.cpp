@@ -2,9 +2,9 @@
 
 #include <exception>
 
-void RecepcionSerie::alRecibir(const Entrada& Input) {
+void RecepcionSerie::alRecibir() {
     try {
-        recibir(Input);
+        recibir();
     } catch (const LecturaRechazada& rechazo) {
         salida_.rechazar(rechazo.lectura(), rechazo.what());
     } catch (const std::exception& fallo) {
@@ -13,16 +13,16 @@ void RecepcionSerie::alRecibir(const Entrada& Input) {
     instantanea_ = cortador_.version();
 }
 
-void RecepcionSerie::recibir(const Entrada& Input) {
+void RecepcionSerie::recibir() {
     std::string trama;
-    std::string trozo = Input();
+    std::string trozo = Input_();
     do {
         cortador_.agregar(trozo);
         salida_.agregarRecibido(trozo);
         cortador_.cortar(trama);
         if (!trama.empty())
             salida_.agregarListado(interprete_.interpretarTrama(trama));
-        trozo = Input();
+        trozo = Input_();
     } while (!trozo.empty());
 }
 

@@ -15,6 +15,7 @@
 #include <functional>
 #include <string>
 #include <string_view>
+#include <utility>
 
 // Where the operator sees what happens. All texts but the cause are ANSI.
 class SalidaSerie {
@@ -37,12 +38,12 @@ public:
     // The characters waiting at the port (ANSI bytes), taken; empty without any. May raise a std::exception.
     using Entrada = std::function<std::string()>;
 
-    // All but the mark are borrowed.
-    RecepcionSerie(const MarcaFin& marca, Ajustes& ajustes, MotorSerie& motor, SalidaSerie& salida)
-        : cortador_(marca), interprete_(marca, ajustes, motor), salida_(salida) {}
+    // All but the mark and the input are borrowed.
+    RecepcionSerie(const MarcaFin& marca, Ajustes& ajustes, MotorSerie& motor, Entrada Input, SalidaSerie& salida)
+        : cortador_(marca), interprete_(marca, ajustes, motor), Input_(std::move(Input)), salida_(salida) {}
 
     // The receive event, of whatever kind. Faults go to the output, none passes through.
-    void alRecibir(const Entrada& Input);
+    void alRecibir();
 
     // Every tick of the silence timer: forgets an unfinished frame when nothing came since the last event.
     void alCallar();
@@ -50,10 +51,11 @@ public:
     std::string_view buffer() const { return cortador_.buffer(); }
 
 private:
-    void recibir(const Entrada& Input);
+    void recibir();
 
     CortadorTramas cortador_;
     InterpreteTramas interprete_;
+    Entrada Input_;
     SalidaSerie& salida_;
     std::uint64_t instantanea_ = 0; // version of the buffer at the end of the last event
 };

@@ -59,7 +59,9 @@ frmRS232::frmRS232(const QString& carpeta, Ajustes& ajustes, LogSerie& log, Moto
 
     // A step that is logged may open a box, in which characters arrive.
     SetearConfig();
-    recepcion_.emplace(leerMarcaFin(ajustes_, log_), ajustes_, motor_, static_cast<SalidaSerie&>(*this));
+    recepcion_.emplace(
+        leerMarcaFin(ajustes_, log_), ajustes_, motor_, [this] { return comm_.Input(); },
+        static_cast<SalidaSerie&>(*this));
 
     timerLimpiarBuffer_.setObjectName(QStringLiteral("timerLimpiarBuffer"));
     timerLimpiarBuffer_.setInterval(3000ms);
@@ -169,7 +171,7 @@ void frmRS232::MSComm_OnComm() {
         return;
     }
     timerLimpiarBuffer_.stop();
-    recepcion_->alRecibir([this] { return comm_.Input(); });
+    recepcion_->alRecibir();
     timerLimpiarBuffer_.start();
 }
 

@@ -16,19 +16,21 @@ using Pasos = std::vector<std::string>;
 // A port, an engine and a window that tell in order what was done to them.
 class ReceiveEvent : public testing::Test, protected MotorSerie, protected SalidaSerie {
 protected:
-    void recibir(std::deque<std::string> entradas) {
+    void recibir(std::deque<std::string> llegan) {
         pasos.clear();
-        recepcion.alRecibir([&] {
-            if (puertoCerrado)
-                throw std::runtime_error("El puerto no está abierto");
-            std::string entrada;
-            if (!entradas.empty()) {
-                entrada = entradas.front();
-                entradas.pop_front();
-            }
-            pasos.push_back("Input " + entrada);
-            return entrada;
-        });
+        entradas = std::move(llegan);
+        recepcion.alRecibir();
+    }
+    std::string Input() {
+        if (puertoCerrado && entradas.empty())
+            throw std::runtime_error("El puerto no está abierto");
+        std::string entrada;
+        if (!entradas.empty()) {
+            entrada = entradas.front();
+            entradas.pop_front();
+        }
+        pasos.push_back("Input " + entrada);
+        return entrada;
     }
 
     void AddCode(std::string_view codigo) override {
@@ -45,10 +47,11 @@ protected:
     }
 
     Pasos pasos;
-    std::string mala = "nada"; // a reading's first two characters; the engine rejects it
-    bool puertoCerrado = false;
+    std::string mala = "nada";        // a reading's first two characters; the engine rejects it
+    std::deque<std::string> entradas; // at the port
+    bool puertoCerrado = false;       // once they are taken
     AjustesFalsos configuracion;
-    RecepcionSerie recepcion{MarcaFin('.', ';'), configuracion, *this, *this};
+    RecepcionSerie recepcion{MarcaFin('.', ';'), configuracion, *this, [this] { return Input(); }, *this};
 };
 
 TEST_F(ReceiveEvent, stepsComeInTheirOrder) {
@@ -154,12 +157,8 @@ TEST_F(ReceiveEvent, silenceAfterAFaultOfThePortDropsWhatWasThere) {
 }
 
 TEST_F(ReceiveEvent, silenceAfterAPortThatFailsInTheMiddleDropsWhatItGave) {
-    bool dado = false;
-    recepcion.alRecibir([&] {
-        if (std::exchange(dado, true))
-            throw std::runtime_error("El puerto no está abierto");
-        return std::string("AB");
-    });
+    puertoCerrado = true;
+    recibir({"AB"});
     EXPECT_EQ(pasos.back(), "rechazo : El puerto no está abierto");
     EXPECT_EQ(recepcion.buffer(), "AB");
     recepcion.alCallar();
