@@ -131,7 +131,9 @@ public:
 
 class RelojParado final : public Reloj {
 public:
-    std::string_view hora() override { return "00:00:00"; }
+    Instante instante() const override { return {}; }
+    Hora hora() const override { return {}; }
+    std::time_t segundo() const override { return 0; }
 };
 
 constexpr int peticionesPorVuelta = 20000;

@@ -62,7 +62,9 @@ private:
 
 class RelojParado final : public Reloj {
 public:
-    std::string_view hora() override { return "00:00:00"; }
+    Instante instante() const override { return {}; }
+    Hora hora() const override { return {}; }
+    std::time_t segundo() const override { return 0; }
 };
 
 void comprobarLimites(const Esclavos& esclavos, Monitores& monitores) {

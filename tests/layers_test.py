@@ -22,7 +22,7 @@ BELOW = {  # folder: the folders whose files it may include, beside its own
     "registers": {"platform"},
     "ajustes": {"platform"},
 }
-FLOOR = {"platform/text", "platform/posix", "platform/events"}  # known to the other folders of platform/
+FLOOR = {"platform/text", "platform/posix", "platform/events", "platform/clock"}  # known to the other folders of platform/
 # The script engine's rooms, from left to right; a file includes, and a target links, only what stands left of it.
 ENGINE = "platform/vbscript"
 ROOMS = ["value", "syntax", "compile", "run", "library", ""]  # the last is the public face

@@ -37,7 +37,7 @@ protected:
 
 // A master that is connected.
 struct Maestro {
-    using Instante = std::chrono::steady_clock::time_point;
+    using Instante = Reloj::Instante;
 
     std::string direccion; // dotted text
     std::uint16_t puerto;  // its own, not the station's

@@ -22,12 +22,7 @@ void agregarNumero(std::string& texto, int numero) {
 
 } // namespace
 
-std::int64_t Reloj::microsegundos() {
-    using namespace std::chrono;
-    return duration_cast<std::chrono::microseconds>(system_clock::now().time_since_epoch()).count();
-}
-
-Peticiones::Peticiones(Esclavos& esclavos, Monitores& monitores, Reloj& reloj)
+Peticiones::Peticiones(Esclavos& esclavos, Monitores& monitores, const Reloj& reloj)
     : esclavos_(esclavos), monitores_(monitores), reloj_(reloj) {}
 
 void Peticiones::atender(Bytes llegada, Conexion& conexion) noexcept {
@@ -226,7 +221,7 @@ void Peticiones::anotarEscritura(Bytes peticion, const Conexion& conexion) {
 }
 
 std::string& Peticiones::empezarLinea(std::string_view titulo) {
-    linea_.assign(reloj_.hora()).append(titulo);
+    linea_.assign(hora_.texto()).append(titulo);
     return linea_;
 }
 
@@ -246,5 +241,6 @@ bool Peticiones::enviar(Conexion& conexion, Bytes respuesta) {
 void Peticiones::guardar(Conexion& conexion, Trafico::Sentido sentido, Bytes bytes) {
     if (!monitores_.trafico.conocida(conexion.numero))
         conexion.numero = monitores_.trafico.nuevaConexion(conexion.extremos());
-    monitores_.trafico.anotar(reloj_.microsegundos(), conexion.numero, sentido, bytes);
+    const auto ahora = std::chrono::duration_cast<std::chrono::microseconds>(reloj_.hora().time_since_epoch());
+    monitores_.trafico.anotar(ahora.count(), conexion.numero, sentido, bytes);
 }

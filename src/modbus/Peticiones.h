@@ -10,7 +10,9 @@
 #pragma once
 
 #include "modbus/Contadores.h"
+#include "modbus/HoraDeLinea.h"
 #include "modbus/Monitores.h"
+#include "platform/clock/Reloj.h"
 #include "registers/Esclavos.h"
 
 #include <array>
@@ -36,20 +38,10 @@ protected:
     ~Conexion() = default;
 };
 
-// The wall clock of the monitor lines.
-class Reloj {
-public:
-    virtual std::string_view hora() = 0;  // "HH:mm:ss", valid until the next call
-    virtual std::int64_t microsegundos(); // since 1970, UTC
-
-protected:
-    ~Reloj() = default;
-};
-
 class Peticiones {
 public:
     // All borrowed.
-    Peticiones(Esclavos& esclavos, Monitores& monitores, Reloj& reloj);
+    Peticiones(Esclavos& esclavos, Monitores& monitores, const Reloj& reloj);
 
     // Handles one arrival of any length, 0 included. Never throws.
     void atender(std::span<const std::uint8_t> llegada, Conexion& conexion) noexcept;
@@ -87,7 +79,8 @@ private:
 
     Esclavos& esclavos_;
     Monitores& monitores_;
-    Reloj& reloj_;
+    const Reloj& reloj_;
+    HoraDeLinea hora_{reloj_};
     std::array<Contadores, numerosDeEsclavo + 1> contadores_{}; // the last: of arrivals that name no slave
     std::string linea_; // reused, so that a line allocates nothing once it has grown
 };

@@ -5,15 +5,14 @@
 #include "registers/Cambios.h"
 #include "registers/Etiquetas.h"
 
-#include <chrono>
+#include <cstdint>
 
 struct Anotaciones {
     static constexpr std::int64_t tiempoResaltado = 3000; // ms that a changed cell takes to fade out
 
-    Cambios cambios{[] {
-        const auto ahora = std::chrono::system_clock::now().time_since_epoch();
-        return std::int64_t{std::chrono::duration_cast<std::chrono::milliseconds>(ahora).count()};
-    }};
+    explicit Anotaciones(const Reloj& reloj = relojDelSistema()) : cambios(reloj) {} // borrowed
+
+    Cambios cambios;
     Etiquetas etiquetas;
     bool resaltarCambios = true;
 };

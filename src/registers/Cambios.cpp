@@ -8,7 +8,7 @@ void Cambios::registroEscrito(int esclavo, int direccion, double antes, double a
     Escritura& e = escrituras_[lugar(esclavo, direccion)];
     if (e.esclavo != esclavo || e.direccion != direccion)
         e = {.direccion = direccion, .esclavo = static_cast<std::int16_t>(esclavo)};
-    e.escrito = ahora_();
+    e.escrito = hora();
     e.autor = autor;
     if (antes != ahora)
         e.cambiado = e.escrito;
@@ -25,7 +25,7 @@ std::optional<Escritura> Cambios::ultima(int esclavo, int direccion) const {
 
 std::optional<std::int64_t> Cambios::desdeElCambio(int esclavo, int direccion) const {
     const auto e = ultima(esclavo, direccion);
-    return e && e->cambiado != 0 ? std::optional(ahora_() - e->cambiado) : std::nullopt;
+    return e && e->cambiado != 0 ? std::optional(hora() - e->cambiado) : std::nullopt;
 }
 
 void Cambios::agregar(ObservadorCambios* observador) {

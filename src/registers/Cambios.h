@@ -9,11 +9,11 @@
 //     cambios.ultima(1, 5)->autor;      // Autor::maestro
 #pragma once
 
+#include "platform/clock/Reloj.h"
 #include "registers/Autor.h"
 
 #include <cstddef>
 #include <cstdint>
-#include <functional>
 #include <optional>
 #include <vector>
 
@@ -37,9 +37,8 @@ struct Escritura {
 class Cambios final : public ObservadorCambios {
 public:
     static constexpr std::size_t lugares = 1 << 16;
-    using Ahora = std::function<std::int64_t()>; // the clock
 
-    explicit Cambios(Ahora ahora) : ahora_(std::move(ahora)) {}
+    explicit Cambios(const Reloj& reloj) : reloj_(reloj) {} // borrowed
 
     void registroEscrito(int esclavo, int direccion, double antes, double ahora, Autor autor) override;
 
@@ -53,7 +52,9 @@ public:
     void agregar(ObservadorCambios* observador);
     void quitar(ObservadorCambios* observador);
 
-    std::int64_t hora() const { return ahora_(); }
+    std::int64_t hora() const {
+        return std::chrono::duration_cast<std::chrono::milliseconds>(reloj_.hora().time_since_epoch()).count();
+    }
 
 private:
     // Neighbours of a slave never share a place, nor do the first registers of neighbouring slaves.
@@ -61,7 +62,7 @@ private:
         return (static_cast<std::size_t>(esclavo) * 4099 + static_cast<std::size_t>(direccion)) % lugares;
     }
 
-    Ahora ahora_;
+    const Reloj& reloj_;
     std::vector<Escritura> escrituras_; // empty until the first write
     std::vector<ObservadorCambios*> observadores_;
 };

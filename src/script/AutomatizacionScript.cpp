@@ -12,7 +12,6 @@
 #include "script/PeriodoScript.h"
 
 #include <QCheckBox>
-#include <QElapsedTimer>
 #include <QEvent>
 #include <QLabel>
 
@@ -22,11 +21,11 @@
 
 AutomatizacionScript::AutomatizacionScript(Esclavos& esclavos, Ajustes& ajustes,
                                            const std::filesystem::path& carpetaPrograma, Eventos& eventos,
-                                           const Ventana& ventana, std::chrono::milliseconds limite)
-    : QObject(&ventana.principal), ajustes_(ajustes), eventos_(eventos), ventana_(ventana),
-      host_(&ventana.principal, ventana.sinPantalla), codigo_(ajustes, carpetaPrograma),
+                                           const Reloj& reloj, const Ventana& ventana, std::chrono::milliseconds limite)
+    : QObject(&ventana.principal), ajustes_(ajustes), eventos_(eventos), reloj_(reloj), ventana_(ventana),
+      host_(&ventana.principal, ventana.sinPantalla, reloj), codigo_(ajustes, carpetaPrograma),
       mw_(vbs::makeObject<ObjetoMW>(esclavos, [this](double num) { ejecutor_.ejecucionPedidaPorScript(num); })),
-      ScriptControl1_(host_), ejecutor_(ScriptControl1_, codigo_, *this, eventos_) {
+      ScriptControl1_(host_), ejecutor_(ScriptControl1_, codigo_, *this, eventos_, reloj) {
     ScriptControl1_.setTimeout(limite);
     host_.alParar([this] { detener(); });
     prepararTimers();
@@ -92,12 +91,11 @@ void AutomatizacionScript::armarTimer(double periodo) {
 }
 
 void AutomatizacionScript::alVencer() {
-    if (!puedePasar_ || !reposo_.hasExpired())
+    if (!puedePasar_ || reposando())
         return;
-    QElapsedTimer reloj;
-    reloj.start();
+    const Reloj::Instante comienzo = reloj_.instante();
     ejecucion_timers(EjecutorScript::TIMER_SCRIPT);
-    if (timerScript_.isActive() && (!reposo_.hasExpired() || reloj.elapsed() >= timerScript_.interval()))
+    if (timerScript_.isActive() && (reposando() || reloj_.instante() - comienzo >= timerScript_.intervalAsDuration()))
         timerScript_.start();
 }
 
@@ -107,7 +105,7 @@ bool AutomatizacionScript::ejecucionActiva() const {
 
 void AutomatizacionScript::mostrarResultado(bool sinError) {
     if (host_.terminarPasada())
-        reposo_.setRemainingTime(pausaTrasPersona);
+        reposo_ = reloj_.instante() + pausaTrasPersona;
     if (editor_)
         editor_->mostrarFallo(ejecutor_.ultimoError());
     contarFallo();
@@ -119,7 +117,7 @@ void AutomatizacionScript::mostrarResultado(bool sinError) {
 void AutomatizacionScript::contarFallo() {
     const vbs::ScriptFailure& fallo = ejecutor_.ultimoError();
     if (fallo.number != 0)
-        horaDelFallo_ = QTime::currentTime();
+        horaDelFallo_ = reloj_.hora();
     if (fallo == fallo_)
         return;
     fallo_ = fallo;
@@ -133,8 +131,7 @@ void AutomatizacionScript::contarPasada() {
         return;
     const QString texto =
         fallo_.number != 0
-            ? textoDeFallo(QStringLiteral("Con error a las ") + horaDelFallo_.toString(QStringLiteral("HH:mm:ss")),
-                           fallo_, lineaDe(fallo_))
+            ? textoDeFallo(QStringLiteral("Con error a las ") + textoDeHora(horaDelFallo_), fallo_, lineaDe(fallo_))
             : QStringLiteral("Sin errores. Pasadas: %1; la última duró %2")
                   .arg(QString::number(pasadas.cuantas), textoDeDuracion(pasadas.ultima));
     ventana_.chScript.setToolTip(texto);

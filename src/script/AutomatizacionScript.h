@@ -10,10 +10,8 @@
 #include "script/HostScript.h"
 #include "script/ObjetoMW.h"
 
-#include <QDeadlineTimer>
 #include <QObject>
 #include <QPointer>
-#include <QTime>
 #include <QTimer>
 
 #include <chrono>
@@ -45,7 +43,8 @@ public:
 
     // All borrowed; they outlive this object.
     AutomatizacionScript(Esclavos& esclavos, Ajustes& ajustes, const std::filesystem::path& carpetaPrograma,
-                         Eventos& eventos, const Ventana& ventana, std::chrono::milliseconds limite = tiempoLimite);
+                         Eventos& eventos, const Reloj& reloj, const Ventana& ventana,
+                         std::chrono::milliseconds limite = tiempoLimite);
     ~AutomatizacionScript() override;
 
     // Part of the main window's start: gives the engine "mw" and sets chScript from the configuration.
@@ -90,9 +89,11 @@ private:
     void prepararTimers();
     void armarTimer(double periodo);
     void alVencer();
+    bool reposando() const { return reloj_.instante() < reposo_; }
 
     Ajustes& ajustes_;
     Eventos& eventos_;
+    const Reloj& reloj_;
     Ventana ventana_;
     HostScript host_;
     Modulo_Codigo codigo_;
@@ -102,8 +103,8 @@ private:
     QTimer timerScript_{this};
     QTimer timerAplazada_{this}; // a pass that was put off
     QPointer<FrmEdicionCodigo> editor_;
-    QDeadlineTimer reposo_; // no pass before it has expired
+    Reloj::Instante reposo_{}; // no pass before
     bool puedePasar_ = false;
     vbs::ScriptFailure fallo_; // that the tooltip of chScript tells; number 0: none
-    QTime horaDelFallo_;
+    Reloj::Hora horaDelFallo_;
 };

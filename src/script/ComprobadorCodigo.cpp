@@ -1,7 +1,5 @@
 #include "script/ComprobadorCodigo.h"
 
-#include <QElapsedTimer>
-
 #include <algorithm>
 #include <utility>
 
@@ -9,8 +7,9 @@ namespace {
 constexpr int pausaPorTrabajo = 10; // a tenth of the time at most goes into compiling
 } // namespace
 
-ComprobadorCodigo::ComprobadorCodigo(std::function<QString()> texto, std::function<qsizetype()> cuantos, QObject* padre)
-    : QObject(padre), texto_(std::move(texto)), cuantos_(std::move(cuantos)) {
+ComprobadorCodigo::ComprobadorCodigo(std::function<QString()> texto, std::function<qsizetype()> cuantos,
+                                     const Reloj& reloj, QObject* padre)
+    : QObject(padre), texto_(std::move(texto)), cuantos_(std::move(cuantos)), tiempo_(reloj) {
     reloj_.setSingleShot(true);
     connect(&reloj_, &QTimer::timeout, this, &ComprobadorCodigo::comprobar);
 }
@@ -27,10 +26,9 @@ void ComprobadorCodigo::pedir() {
 void ComprobadorCodigo::comprobar() {
     reloj_.stop();
     const QString texto = texto_();
-    QElapsedTimer reloj;
-    reloj.start();
+    const Reloj::Instante comienzo = tiempo_.instante();
     motor_.check(
         std::u16string_view(reinterpret_cast<const char16_t*>(texto.utf16()), static_cast<std::size_t>(texto.size())));
-    ultima_ = std::chrono::nanoseconds(reloj.nsecsElapsed());
+    ultima_ = tiempo_.instante() - comienzo;
     Q_EMIT comprobado(motor_.error());
 }

@@ -4,6 +4,7 @@
 // it. Beyond `maximo` characters it compiles only when told to.
 #pragma once
 
+#include "platform/clock/Reloj.h"
 #include "platform/vbscript/ScriptControl.h"
 
 #include <QObject>
@@ -20,8 +21,10 @@ public:
     static constexpr std::chrono::milliseconds pausa{300};
     static constexpr qsizetype maximo = 1'000'000;
 
-    // `texto` gives the text to compile; `cuantos` its length, without the cost of making it.
-    ComprobadorCodigo(std::function<QString()> texto, std::function<qsizetype()> cuantos, QObject* padre);
+    // `texto` gives the text to compile; `cuantos` its length, without the cost of making it. The clock is
+    // borrowed.
+    ComprobadorCodigo(std::function<QString()> texto, std::function<qsizetype()> cuantos, const Reloj& reloj,
+                      QObject* padre);
 
     // The text has changed: compile it after a pause.
     void pedir();
@@ -41,6 +44,7 @@ Q_SIGNALS:
 private:
     std::function<QString()> texto_;
     std::function<qsizetype()> cuantos_;
+    const Reloj& tiempo_;
     vbs::Host host_;
     vbs::ScriptControl motor_{host_};
     QTimer reloj_{this};

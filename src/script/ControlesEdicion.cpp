@@ -32,8 +32,9 @@ void FrmEdicionCodigo::crearControles() {
     lblEstado_->setTextInteractionFlags(Qt::TextSelectableByMouse);
     lblEstado_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     lblPosicion_ = nombrado(new QLabel(this), "lblPosicion", QString());
-    comprobador_ = new ComprobadorCodigo([this] { return txtCodigo_->texto(); },
-                                         [this] { return txtCodigo_->document()->characterCount(); }, this);
+    comprobador_ =
+        new ComprobadorCodigo([this] { return txtCodigo_->texto(); },
+                              [this] { return txtCodigo_->document()->characterCount(); }, ejecutor_.reloj(), this);
 
     auto* estado = new QHBoxLayout;
     estado->addWidget(lblEstado_, 1);

@@ -32,8 +32,8 @@ private:
 } // namespace
 
 EjecutorScript::EjecutorScript(vbs::ScriptControl& motor, const Modulo_Codigo& codigo, EntornoScript& entorno,
-                               Eventos& eventos)
-    : motor_(motor), codigo_(codigo), entorno_(entorno), eventos_(eventos) {}
+                               Eventos& eventos, const Reloj& reloj)
+    : motor_(motor), codigo_(codigo), entorno_(entorno), eventos_(eventos), reloj_(reloj) {}
 
 void EjecutorScript::ejecucion_timers(double num) {
     if (num == TIMER_SCRIPT)
@@ -69,9 +69,9 @@ void EjecutorScript::pasar() {
 
 void EjecutorScript::ejecutar(const std::string& texto) {
     ponerConsola(texto);
-    const auto comienzo = std::chrono::steady_clock::now();
+    const Reloj::Instante comienzo = reloj_.instante();
     motor_.addCode(texto);
-    pasadas_.ultima = std::chrono::steady_clock::now() - comienzo;
+    pasadas_.ultima = reloj_.instante() - comienzo;
     pasadas_.maxima = std::max(pasadas_.maxima, pasadas_.ultima);
     ++pasadas_.cuantas;
     if (motor_.error().number == 0)

@@ -5,6 +5,7 @@
 // is put off until the handler is through: the script may last, or wait for a person in a box.
 #pragma once
 
+#include "platform/clock/Reloj.h"
 #include "platform/events/Eventos.h"
 #include "platform/vbscript/ScriptControl.h"
 #include "script/ConsolaScript.h"
@@ -42,7 +43,8 @@ public:
     static constexpr double TIMER_SCRIPT = 1; // id of the script timer
 
     // All borrowed.
-    EjecutorScript(vbs::ScriptControl& motor, const Modulo_Codigo& codigo, EntornoScript& entorno, Eventos& eventos);
+    EjecutorScript(vbs::ScriptControl& motor, const Modulo_Codigo& codigo, EntornoScript& entorno, Eventos& eventos,
+                   const Reloj& reloj = relojDelSistema());
 
     // What the program's timer callback does with every timer: a pass when `num` is exactly TIMER_SCRIPT.
     void ejecucion_timers(double num);
@@ -58,6 +60,8 @@ public:
 
     // Since the start; a pass with "Ejecutar" unticked does not count.
     const Pasadas& pasadas() const { return pasadas_; }
+
+    const Reloj& reloj() const { return reloj_; }
 
     // What the script wrote with WScript.Echo. The name is there for every text that has nothing of its own under it.
     ConsolaScript& consola() { return *consola_; }
@@ -77,6 +81,7 @@ private:
     const Modulo_Codigo& codigo_;
     EntornoScript& entorno_;
     Eventos& eventos_;
+    const Reloj& reloj_;
     vbs::ScriptFailure ultimoError_;
     bool enPasada_ = false;
     Pasadas pasadas_;

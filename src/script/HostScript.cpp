@@ -28,6 +28,10 @@ std::u16string HostScript::inputBox(std::u16string_view prompt, std::u16string_v
     return InputBox(padre_, deUtf16(prompt), deUtf16(title), deUtf16(defaultText)).toStdU16String();
 }
 
+double HostScript::monotonicMilliseconds() {
+    return std::chrono::duration<double, std::milli>(reloj_.instante().time_since_epoch()).count();
+}
+
 // In the box that waits above the other windows, if there is one: they take no input then.
 void HostScript::longRun(std::chrono::milliseconds elapsed) {
     QWidget* const caja = QApplication::activeModalWidget();

@@ -2,6 +2,7 @@
 // of the user's country.
 #pragma once
 
+#include "platform/clock/Reloj.h"
 #include "platform/vbscript/Host.h"
 #include "script/LocaleQt.h"
 
@@ -15,14 +16,17 @@ class QWidget;
 
 class HostScript final : public vbs::Host {
 public:
-    // `padre` is borrowed and may be null. Where nobody sees the windows (`sinPantalla`), a message goes to stderr and
-    // is answered with its default button, and a question is answered with its default: waiting for a person would
-    // never end.
-    HostScript(QWidget* padre, bool sinPantalla) : padre_(padre), sinPantalla_(sinPantalla) {}
+    // `padre` is borrowed and may be null; the clock is borrowed. Where nobody sees the windows (`sinPantalla`), a
+    // message goes to stderr and is answered with its default button, and a question is answered with its default:
+    // waiting for a person would never end.
+    HostScript(QWidget* padre, bool sinPantalla, const Reloj& reloj = relojDelSistema())
+        : padre_(padre), sinPantalla_(sinPantalla), reloj_(reloj) {}
 
     int messageBox(std::u16string_view text, int buttons, std::u16string_view title) override;
     std::u16string inputBox(std::u16string_view prompt, std::u16string_view title,
                             std::u16string_view defaultText) override;
+    vbs::LocalTime now() override { return vbs::localTime(reloj_.hora()); }
+    double monotonicMilliseconds() override;
     // Shows the bar with which the operator can stop a script that has run for `elapsed`, boxes not counted.
     void longRun(std::chrono::milliseconds elapsed) override;
     const vbs::Locale* locale(int id) override { return locales_.locale(id); }
@@ -37,6 +41,7 @@ public:
 private:
     QWidget* padre_;
     bool sinPantalla_;
+    const Reloj& reloj_;
     std::function<void()> parar_;
     QPointer<BarraScript> barra_; // owned by the window that it stands in
     bool huboPersona_ = false;

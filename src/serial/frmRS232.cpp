@@ -10,7 +10,6 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QSplitter>
-#include <QTime>
 #include <QVBoxLayout>
 
 #include <chrono>
@@ -31,10 +30,6 @@ QWidget* conRotulo(VistaTexto* vista) {
     return panel;
 }
 
-QString conHora(const QString& texto) {
-    return QTime::currentTime().toString(QStringLiteral("HH:mm:ss ")) + texto;
-}
-
 // A reading as the operator can read it: characters without a shape as their code in angle brackets, of a long one the
 // beginning.
 QString legible(std::string_view lectura) {
@@ -47,8 +42,9 @@ QString legible(std::string_view lectura) {
 
 } // namespace
 
-frmRS232::frmRS232(const QString& carpeta, Ajustes& ajustes, LogSerie& log, MotorSerie& motor, QWidget* parent)
-    : QWidget(parent, Qt::Window), ajustes_(ajustes), log_(log), motor_(motor), comm_(carpeta, this) {
+frmRS232::frmRS232(const QString& carpeta, Ajustes& ajustes, LogSerie& log, MotorSerie& motor, const Reloj& reloj,
+                   QWidget* parent)
+    : QWidget(parent, Qt::Window), ajustes_(ajustes), log_(log), motor_(motor), reloj_(reloj), comm_(carpeta, this) {
     crearControles();
     comm_.setObjectName(QStringLiteral("MSComm"));
     connect(&comm_, &MSComm::OnComm, this, &frmRS232::MSComm_OnComm);
@@ -152,6 +148,10 @@ void frmRS232::abrirPuerto() {
     }
 }
 
+QString frmRS232::conHora(const QString& texto) const {
+    return textoDeHora(reloj_.hora()) + u' ' + texto;
+}
+
 void frmRS232::cerradoPor(std::string_view causa) {
     causaCierre_ = conHora(deUtf8(causa));
     timerEstado_Timer();
@@ -196,7 +196,7 @@ void frmRS232::agregarListado(std::string_view listado) {
 void frmRS232::rechazar(std::string_view lectura, std::string_view causa) {
     const QString que = legible(lectura);
     const std::uint64_t veces =
-        fallosRecepcion_.anotar(conAjustes("OnComm"), que.toStdString(), causa, std::chrono::steady_clock::now());
+        fallosRecepcion_.anotar(conAjustes("OnComm"), que.toStdString(), causa, reloj_.instante());
     QString texto = lectura.empty() ? QStringLiteral("No se pudo leer el puerto: ")
                                     : QStringLiteral("Lectura rechazada «") + que + QStringLiteral("»: ");
     texto += deUtf8(causa);

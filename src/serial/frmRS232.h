@@ -4,6 +4,7 @@
 // port. It tells why the port is closed, and which reading was refused last and why; both go to the log as well.
 #pragma once
 
+#include "platform/clock/Reloj.h"
 #include "platform/serial/MSComm.h"
 #include "serial/EntornoSerie.h"
 #include "serial/FallosRepetidos.h"
@@ -24,7 +25,8 @@ class frmRS232 final : public QWidget, private SalidaSerie {
 
 public:
     // `carpeta` is the program's folder, where the links com<n> stand. The others are borrowed.
-    frmRS232(const QString& carpeta, Ajustes& ajustes, LogSerie& log, MotorSerie& motor, QWidget* parent = nullptr);
+    frmRS232(const QString& carpeta, Ajustes& ajustes, LogSerie& log, MotorSerie& motor,
+             const Reloj& reloj = relojDelSistema(), QWidget* parent = nullptr);
 
     // Reads the settings, sets the port up and opens it. A step that fails goes to the log and the next one follows.
     void SetearConfig();
@@ -35,6 +37,7 @@ private:
     void timerEstado_Timer();
     void abrirPuerto();
     void cerradoPor(std::string_view causa);
+    QString conHora(const QString& texto) const;
     std::string conAjustes(std::string_view operacion) const;
     void escribirFallo(std::string_view operacion, std::string_view detalle, std::string_view descripcion);
 
@@ -46,6 +49,7 @@ private:
     Ajustes& ajustes_;
     LogSerie& log_;
     MotorSerie& motor_;
+    const Reloj& reloj_;
     MSComm comm_;
     ConfiguracionRS232 configuracion_;
     FallosRepetidos fallosRecepcion_{log_};

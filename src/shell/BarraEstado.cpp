@@ -11,6 +11,8 @@
 #include <QTextDocument>
 
 #include <algorithm>
+#include <chrono>
+#include <utility>
 
 namespace {
 
@@ -83,7 +85,7 @@ QSize BarraEstado::sizeHint() const {
 
 void BarraEstado::showEvent(QShowEvent* evento) {
     QWidget::showEvent(evento);
-    desdeMuestra_.invalidate();
+    muestra_.reset();
     refrescar();
     reloj_.start();
 }
@@ -109,19 +111,18 @@ void BarraEstado::refrescar() {
     mostrarPeticiones();
     mostrarScript();
     campos_[enMarcha]->setText(QStringLiteral("En marcha: ") +
-                               textoDuracion(std::chrono::steady_clock::now() - estacion_.inicio));
+                               textoDuracion(estacion_.reloj.instante() - estacion_.inicio));
     acomodar();
 }
 
 void BarraEstado::mostrarPeticiones() {
     const Contadores total = estacion_.peticiones().total();
-    const qint64 pasado = desdeMuestra_.isValid() ? desdeMuestra_.restart() : 0;
-    if (!desdeMuestra_.isValid())
-        desdeMuestra_.start();
+    const Reloj::Instante ahora = estacion_.reloj.instante();
+    const std::chrono::duration<double> pasado = ahora - std::exchange(muestra_, ahora).value_or(ahora);
     // Set to zero meanwhile: there is nothing to compare with.
     const std::uint64_t nuevas = total.peticiones >= peticionesVistas_ ? total.peticiones - peticionesVistas_ : 0;
     peticionesVistas_ = total.peticiones;
-    const double ritmoAhora = pasado > 0 ? static_cast<double>(nuevas) * 1000 / static_cast<double>(pasado) : 0;
+    const double ritmoAhora = pasado.count() > 0 ? static_cast<double>(nuevas) / pasado.count() : 0;
     campos_[ritmo]->setText(QStringLiteral("%1 peticiones/s").arg(qRound64(ritmoAhora)));
     campos_[lecturas]->setText(QStringLiteral("Lecturas: %1").arg(total.lecturas));
     campos_[escrituras]->setText(QStringLiteral("Escrituras: %1").arg(total.escrituras));

@@ -4,12 +4,14 @@
 // weight are left out, and the text of the script error is cut short; each field has a tooltip.
 #pragma once
 
-#include <QElapsedTimer>
+#include "platform/clock/Reloj.h"
+
 #include <QTimer>
 #include <QWidget>
 
 #include <array>
 #include <cstdint>
+#include <optional>
 
 class Estacion;
 class QLabel;
@@ -52,6 +54,6 @@ private:
     QPushButton* BtnErrorScript_;
     QString textoError_; // empty: none yet
     QTimer reloj_{this};
-    QElapsedTimer desdeMuestra_; // not valid before the first look since it was shown
+    std::optional<Reloj::Instante> muestra_; // the last look since it was shown
     std::uint64_t peticionesVistas_ = 0;
 };

@@ -10,8 +10,9 @@
 #include <stdexcept>
 
 EnlaceSerie::EnlaceSerie(QWidget& principal, Modulo_Config& config, vbs::ScriptControl& motor, std::string ejecutable,
-                         bool depurar)
-    : principal_(principal), config_(config), motor_(motor), ejecutable_(std::move(ejecutable)), log_(*this, depurar) {}
+                         bool depurar, const Reloj& reloj)
+    : principal_(principal), config_(config), motor_(motor), ejecutable_(std::move(ejecutable)), reloj_(reloj),
+      log_(*this, depurar) {}
 
 EnlaceSerie::~EnlaceSerie() {
     delete formulario_;
@@ -19,8 +20,8 @@ EnlaceSerie::~EnlaceSerie() {
 
 frmRS232& EnlaceSerie::formulario() {
     if (!formulario_) {
-        formulario_ =
-            new frmRS232(QString::fromStdString(carpetaPrograma().string()), config_, *this, *this, &principal_);
+        formulario_ = new frmRS232(QString::fromStdString(carpetaPrograma().string()), config_, *this, *this, reloj_,
+                                   &principal_);
         ponerAyudaContextual(*formulario_);
     }
     return *formulario_;
@@ -47,7 +48,7 @@ void EnlaceSerie::AddCode(std::string_view codigo) {
 }
 
 std::tm EnlaceSerie::ahora() {
-    const std::time_t segundos = std::time(nullptr);
+    const std::time_t segundos = reloj_.segundo();
     std::tm local{};
     localtime_r(&segundos, &local);
     return local;

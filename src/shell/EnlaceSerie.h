@@ -2,6 +2,7 @@
 // the daily logs, its readings to the main window's script engine.
 #pragma once
 
+#include "platform/clock/Reloj.h"
 #include "serial/EntornoSerie.h"
 #include "shell/Modulo_DEBUG.h"
 
@@ -22,7 +23,7 @@ class EnlaceSerie final : private LogSerie, private MotorSerie, private EntornoD
 public:
     // All borrowed. The log lines name `ejecutable`; `depurar` shows every logged error in a message box too.
     EnlaceSerie(QWidget& principal, Modulo_Config& config, vbs::ScriptControl& motor, std::string ejecutable,
-                bool depurar);
+                bool depurar, const Reloj& reloj);
     ~EnlaceSerie();
     EnlaceSerie(const EnlaceSerie&) = delete;
     EnlaceSerie& operator=(const EnlaceSerie&) = delete;
@@ -49,6 +50,7 @@ private:
     Modulo_Config& config_;
     vbs::ScriptControl& motor_;
     std::string ejecutable_;
+    const Reloj& reloj_;
     Modulo_DEBUG log_;
     QPointer<frmRS232> formulario_;
 };

@@ -12,8 +12,8 @@ constexpr int descriptoresDeReserva = 16;
 
 } // namespace
 
-Estacion::Estacion(const std::filesystem::path& carpeta, Arranque conQue)
-    : arranque(std::move(conQue)), config(carpeta, decimalSign()),
+Estacion::Estacion(const std::filesystem::path& carpeta, Arranque conQue, const Reloj& conReloj)
+    : reloj(conReloj), arranque(std::move(conQue)), config(carpeta, decimalSign()),
       escucha_(reactor, peticiones_, *this, eventos, arranque.rutaPrograma),
       avisador_(reactor.descriptor(), QSocketNotifier::Read),
       archivoEtiquetas_(config.rutaArchivo().parent_path(), anotaciones.etiquetas) {
@@ -25,11 +25,11 @@ Estacion::Estacion(const std::filesystem::path& carpeta, Arranque conQue)
 void Estacion::abrirVentana(VentanaEstacion& ventana, const AutomatizacionScript::Ventana& controles) {
     ventana_ = &ventana;
     script_ = std::make_unique<AutomatizacionScript>(esclavos, config, config.rutaArchivo().parent_path(), eventos,
-                                                     controles, arranque.limiteScript);
+                                                     reloj, controles, arranque.limiteScript);
     decir(avisoCarpeta_, arranque.avisoCarpeta);
     enlaceSerie_ = std::make_unique<EnlaceSerie>(controles.principal, config, script_->ScriptControl1(),
                                                  std::filesystem::path(arranque.rutaPrograma).filename().string(),
-                                                 arranque.depurar);
+                                                 arranque.depurar, reloj);
 }
 
 void Estacion::cerrarVentana() {

@@ -11,6 +11,7 @@
 #include "modbus/Escucha.h"
 #include "modbus/Monitores.h"
 #include "modbus/Peticiones.h"
+#include "platform/clock/Reloj.h"
 #include "platform/net/Reactor.h"
 #include "platform/window/EventosQt.h"
 #include "registers/Anotaciones.h"
@@ -19,7 +20,6 @@
 #include "shell/ArchivoEtiquetas.h"
 #include "shell/EnlaceSerie.h"
 #include "shell/Modulo_Config.h"
-#include "shell/RelojSistema.h"
 
 #include <QSocketNotifier>
 #include <QString>
@@ -56,8 +56,9 @@ protected:
 
 class Estacion final : private EntornoEscucha {
 public:
-    // `carpeta` holds the configuration file, the script and the logs. Opens no port and reads no key yet.
-    Estacion(const std::filesystem::path& carpeta, Arranque arranque);
+    // `carpeta` holds the configuration file, the script and the logs; the clock is borrowed. Opens no port and reads
+    // no key yet.
+    Estacion(const std::filesystem::path& carpeta, Arranque arranque, const Reloj& reloj = relojDelSistema());
 
     // The station shows itself in this window from now on; script automation and serial link, which work with its
     // controls, come into being. One window at a time.
@@ -77,14 +78,15 @@ public:
     AutomatizacionScript& script() { return *script_; }  // while a window is open
     EnlaceSerie& enlaceSerie() { return *enlaceSerie_; } // while a window is open
 
-    const std::chrono::steady_clock::time_point inicio = std::chrono::steady_clock::now();
+    const Reloj& reloj;
+    const Reloj::Instante inicio = reloj.instante();
     const Arranque arranque;
     Modulo_Config config;
     Esclavos esclavos;
-    Anotaciones anotaciones;
+    Anotaciones anotaciones{reloj};
     Monitores monitores;
-    EventosQt eventos;
-    Reactor reactor;
+    EventosQt eventos{reloj};
+    Reactor reactor{reloj};
     Puente puente{reactor, eventos};
 
 private:
@@ -101,8 +103,7 @@ private:
 
     void decir(std::string& aviso, const std::string& texto);
 
-    RelojSistema reloj_;
-    Peticiones peticiones_{esclavos, monitores, reloj_};
+    Peticiones peticiones_{esclavos, monitores, reloj};
     VentanaEstacion* ventana_ = nullptr; // borrowed; null: what there is to show is dropped
     Escucha escucha_;
     QSocketNotifier avisador_;           // wakes the event loop for the reactor's sockets

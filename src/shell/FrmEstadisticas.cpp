@@ -143,11 +143,12 @@ void FrmEstadisticas::refrescar() {
 void FrmEstadisticas::mostrarMaestros() {
     int cuantos = 0;
     for (const Maestro& maestro : estacion_.escucha().maestros())
-        ponerFila(*listaMaestros_, cuantos++,
-                  {QString::fromStdString(maestro.direccion), QString::number(maestro.puerto),
-                   textoInstante(maestro.desde, QStringLiteral("dd/MM/yyyy HH:mm:ss")),
-                   QString::number(maestro.peticiones),
-                   maestro.ultima ? textoInstante(*maestro.ultima, QStringLiteral("HH:mm:ss")) : QString()});
+        ponerFila(
+            *listaMaestros_, cuantos++,
+            {QString::fromStdString(maestro.direccion), QString::number(maestro.puerto),
+             textoInstante(estacion_.reloj, maestro.desde, QStringLiteral("dd/MM/yyyy HH:mm:ss")),
+             QString::number(maestro.peticiones),
+             maestro.ultima ? textoInstante(estacion_.reloj, *maestro.ultima, QStringLiteral("HH:mm:ss")) : QString()});
     recortar(*listaMaestros_, cuantos);
 }
 

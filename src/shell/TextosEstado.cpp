@@ -1,6 +1,8 @@
 #include "shell/TextosEstado.h"
 
-#include <QDateTime>
+#include "platform/window/Controles.h"
+
+#include <QTime>
 
 namespace {
 
@@ -8,7 +10,7 @@ constexpr long long segundosPorDia = 86400;
 
 } // namespace
 
-QString textoDuracion(std::chrono::steady_clock::duration duracion) {
+QString textoDuracion(Reloj::Instante::duration duracion) {
     const long long segundos = std::chrono::duration_cast<std::chrono::seconds>(duracion).count();
     const QString hora =
         QTime::fromMSecsSinceStartOfDay(static_cast<int>(segundos % segundosPorDia) * 1000).toString(u"HH:mm:ss");
@@ -16,9 +18,7 @@ QString textoDuracion(std::chrono::steady_clock::duration duracion) {
     return dias == 0 ? hora : QStringLiteral("%1 d %2").arg(dias).arg(hora);
 }
 
-QString textoInstante(std::chrono::steady_clock::time_point instante, const QString& formato) {
-    const auto hace = std::chrono::steady_clock::now() - instante;
-    return QDateTime::currentDateTime()
-        .addMSecs(-std::chrono::duration_cast<std::chrono::milliseconds>(hace).count())
-        .toString(formato);
+QString textoInstante(const Reloj& reloj, Reloj::Instante instante, const QString& formato) {
+    const auto hace = std::chrono::duration_cast<Reloj::Hora::duration>(reloj.instante() - instante);
+    return textoDeHora(reloj.hora() - hace, formato);
 }

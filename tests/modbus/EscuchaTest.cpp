@@ -1,10 +1,13 @@
 #include "modbus/Escucha.h"
 
 #include "EventosFalsos.h"
+#include "RelojDePrueba.h"
 #include "tests/platform/net/Peer.h"
 
 #include <gmock/gmock.h>
 #include <memory>
+
+using namespace std::chrono_literals;
 
 namespace {
 
@@ -39,10 +42,6 @@ struct Ventana : EntornoEscucha {
     std::vector<std::string> avisos;
     std::vector<std::string> anuncios;
     std::vector<Fila> filas;
-};
-
-struct HoraFija : Reloj {
-    std::string_view hora() override { return "10:32:05"; }
 };
 
 // A port that was free a moment ago.
@@ -85,11 +84,11 @@ protected:
     const Fila libre{"127.0.0.1", "NO CONECTADO Y LIBRE"};
 
     Ventana ventana;
-    HoraFija reloj;
+    RelojDePrueba reloj;
     Esclavos esclavos;
     Monitores monitores;
     Peticiones peticiones{esclavos, monitores, reloj};
-    Reactor reactor;
+    Reactor reactor{reloj};
     EventosFalsos eventos;
     std::unique_ptr<Escucha> dueno =
         std::make_unique<Escucha>(reactor, peticiones, ventana, eventos, "/opt/esclavo-modbus");
@@ -117,10 +116,12 @@ TEST_F(EscuchaTest, answersARequest) {
 
 TEST_F(EscuchaTest, tellsOfEachConnectedMaster) {
     escucha.levantarEscucha();
-    const auto antes = Maestro::Instante::clock::now();
+    const Reloj::Instante antes = reloj.instante();
+    reloj.pasar(1min);
     const Peer callado(puerto());
     ASSERT_TRUE(runUntil(reactor, [&] { return escucha.conectados() == 1; }));
     const auto hablador = conectar();
+    reloj.pasar(3s);
     hablador->send(peticion);
     ASSERT_TRUE(runUntil(reactor, [&] { return escucha.maestros().back().peticiones == 2; }));
     const std::vector<Maestro> maestros = escucha.maestros();
@@ -130,8 +131,8 @@ TEST_F(EscuchaTest, tellsOfEachConnectedMaster) {
     EXPECT_EQ(maestros[1].direccion, "127.0.0.1");
     EXPECT_EQ(maestros[1].puerto, hablador->localPort());
     EXPECT_NE(maestros[0].puerto, maestros[1].puerto);
-    EXPECT_GE(maestros[1].desde, antes);
-    EXPECT_GT(maestros[1].ultima, maestros[1].desde);
+    EXPECT_EQ(maestros[1].desde, antes + 1min);
+    EXPECT_EQ(maestros[1].ultima, antes + 1min + 3s);
     escucha.ponerACero();
     EXPECT_EQ(escucha.maestros()[1].peticiones, 0U);
 }

@@ -29,7 +29,7 @@ protected:
 
     Esclavos esclavos;
     Monitores monitores;
-    RelojFijo reloj;
+    RelojDePrueba reloj;
     ConexionFalsa conexion;
     Peticiones peticiones{esclavos, monitores, reloj};
 };

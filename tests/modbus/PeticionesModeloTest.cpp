@@ -11,6 +11,8 @@
 #include <cstdio>
 #include <gtest/gtest.h>
 
+using namespace std::chrono_literals;
+
 namespace {
 
 constexpr std::uint64_t semilla = 20240611;
@@ -117,7 +119,8 @@ private:
         std::array<char, 16> hora{};
         std::snprintf(hora.data(), hora.size(), "%02d:%02d:%02d", segundos_ / 3600 % 24, segundos_ / 60 % 60,
                       segundos_ % 60);
-        reloj_.texto = modelo_.hora = hora.data();
+        modelo_.hora = hora.data();
+        reloj_.pasar(1s);
 
         peticiones_.atender(llegada_, conexion_);
         modelo_.llegada(llegada_, socket_);
@@ -136,11 +139,11 @@ private:
     }
 
     Generador& azar_;
-    int segundos_ = 0;
+    int segundos_ = (12 * 60 + 34) * 60 + 56;
     std::vector<std::uint8_t> llegada_;
     Esclavos esclavos_;
     Monitores monitores_;
-    RelojFijo reloj_;
+    RelojDePrueba reloj_;
     ConexionFalsa conexion_;
     Peticiones peticiones_{esclavos_, monitores_, reloj_};
     modelo::Estacion modelo_;

@@ -1,6 +1,7 @@
 // What the request handler's tests put in the place of a socket and a clock, and the frames they send.
 #pragma once
 
+#include "RelojDePrueba.h"
 #include "modbus/Peticiones.h"
 
 #include <cstdint>
@@ -28,14 +29,6 @@ public:
     int enviosBuenos = -1; // sends that succeed before every further one fails; -1: all succeed
     std::string remota = "10.0.0.7";
     std::vector<Bytes> enviadas;
-};
-
-// A clock that stands still.
-class RelojFijo final : public Reloj {
-public:
-    std::string_view hora() override { return texto; }
-
-    std::string texto = "12:34:56";
 };
 
 inline std::uint8_t byteAlto(int palabra) {

@@ -2,6 +2,7 @@
 
 #include "CajaDeMensaje.h"
 #include "PasoDelTiempo.h"
+#include "RelojDePrueba.h"
 #include "platform/grid/MSFlexGrid.h"
 #include "registers/FrmGrafica.h"
 #include "registers/Pegado.h"
@@ -30,7 +31,7 @@ class TestAccionesRegistros : public QObject {
     Q_OBJECT
 
 private:
-    std::int64_t hora_ = 0; // ms since 1970
+    RelojDePrueba reloj_;
     std::unique_ptr<Esclavos> esclavos_;
     std::unique_ptr<Anotaciones> anotaciones_;
     std::unique_ptr<QWidget> ventana_;
@@ -59,7 +60,7 @@ private:
     }
     // Clock and timers of the window.
     void pasar(std::chrono::milliseconds cuanto) {
-        hora_ += cuanto.count();
+        reloj_.pasar(cuanto);
         PasoDelTiempo(*ventana_).pasar(cuanto);
     }
     QString mensajeDeUnaCaja() {
@@ -86,8 +87,7 @@ private Q_SLOTS:
         QLocale::setDefault(QLocale(QLocale::Spanish, QLocale::Spain));
         esclavos_ = std::make_unique<Esclavos>();
         esclavos_->crearEsclavo(2, 0, 99);
-        hora_ = std::int64_t{1'800'000'000'000};
-        anotaciones_ = std::make_unique<Anotaciones>(Anotaciones{Cambios([this] { return hora_; }), {}, true});
+        anotaciones_ = std::make_unique<Anotaciones>(reloj_);
         anotaciones_->etiquetas.leer("2;5;Nivel;%;sonda norte\n");
         esclavos_->observarCambios(&anotaciones_->cambios);
         ventana_ = std::make_unique<QWidget>();
@@ -158,7 +158,7 @@ private Q_SLOTS:
         int ultima = 0; // ms after the change
         for (int ms = 20; ms <= 10'000; ms += 20) {
             pinturas_ = 0;
-            hora_ += 20;
+            reloj_.pasar(20ms);
             tiempo.pasar(20ms);
             veces += pinturas_;
             ultima = pinturas_ > 0 ? ms : ultima;

@@ -1,8 +1,11 @@
 #include "registers/Cambios.h"
 
+#include "RelojDePrueba.h"
 #include "registers/Esclavos.h"
 
 #include <gtest/gtest.h>
+
+using namespace std::chrono_literals;
 
 namespace {
 
@@ -11,8 +14,8 @@ struct CambiosTest : testing::Test {
         esclavos.crearEsclavo(1, 0, 99);
         esclavos.observarCambios(&cambios);
     }
-    std::int64_t hora = 1000;
-    Cambios cambios{[this] { return hora; }};
+    RelojDePrueba reloj;
+    Cambios cambios{reloj};
     Esclavos esclavos;
 };
 
@@ -37,11 +40,11 @@ TEST_F(CambiosTest, eachWriterIsRemembered) {
 
 TEST_F(CambiosTest, theSameValueIsAWriteAndNoChange) {
     esclavos.escribir(1, 5, 7);
-    hora = 2000;
+    reloj.pasar(1s);
     esclavos.escribir(1, 5, 7);
-    hora = 2500;
-    EXPECT_EQ(cambios.ultima(1, 5)->escrito, 2000);
-    EXPECT_EQ(cambios.desdeElCambio(1, 5), 1500);
+    reloj.pasar(1500ms);
+    EXPECT_EQ(cambios.hora() - cambios.ultima(1, 5)->escrito, 1500);
+    EXPECT_EQ(cambios.desdeElCambio(1, 5), 2500);
 }
 
 TEST_F(CambiosTest, aRegisterThatKeptItsValueHasNoChange) {
@@ -60,7 +63,7 @@ TEST_F(CambiosTest, aLaterRegisterOfTheSamePlaceTakesIt) {
     esclavos.escribir(1, 3, 7);
     esclavos.escribir(1, 3.0 + Cambios::lugares, 8);
     EXPECT_FALSE(cambios.ultima(1, 3));
-    EXPECT_EQ(cambios.ultima(1, 3 + static_cast<int>(Cambios::lugares))->escrito, 1000);
+    EXPECT_EQ(cambios.ultima(1, 3 + static_cast<int>(Cambios::lugares))->escrito, cambios.hora());
 }
 
 TEST_F(CambiosTest, observersHearOfWritesUntilTheyAreDetached) {

@@ -4,6 +4,7 @@
 
 #include "AjustesFalsos.h"
 #include "CarpetaTemporal.h"
+#include "RelojDePrueba.h"
 #include "platform/window/EventosQt.h"
 #include "script/EditorCodigo.h"
 #include "script/EjecutorScript.h"
@@ -26,11 +27,8 @@ protected:
     std::unique_ptr<QWidget> principal_;
     QCheckBox* chScript_ = nullptr;
     std::vector<bool> clics_; // of chScript
-    // Each look at the clock is a millisecond later than the last: events are let pass whenever they are to be.
-    EventosQt eventos_{[] {
-        static EventosQt::Instante hora;
-        return hora += EventosQt::pausa;
-    }};
+    RelojDePrueba reloj_;
+    EventosQt eventos_{reloj_};
     vbs::Host host_;
     std::unique_ptr<vbs::ScriptControl> motor_;
     std::unique_ptr<EjecutorScript> ejecutor_;
@@ -67,10 +65,12 @@ protected:
         config_ = std::make_unique<AjustesFalsos>();
         codigo_ = std::make_unique<Modulo_Codigo>(*config_, carpeta_->ruta());
         motor_ = std::make_unique<vbs::ScriptControl>(host_);
-        ejecutor_ = std::make_unique<EjecutorScript>(*motor_, *codigo_, static_cast<EntornoScript&>(*this), eventos_);
+        ejecutor_ =
+            std::make_unique<EjecutorScript>(*motor_, *codigo_, static_cast<EntornoScript&>(*this), eventos_, reloj_);
         principal_ = std::make_unique<QWidget>();
         chScript_ = new QCheckBox(principal_.get());
         clics_.clear();
+        reloj_.porMirada = EventosQt::pausa; // events are let pass whenever they are to be
         connect(chScript_, &QCheckBox::toggled, this, [this](bool marcada) { clics_.push_back(marcada); });
     }
 

@@ -14,6 +14,8 @@
 #include <QTimer>
 #include <QTreeWidget>
 
+using namespace std::chrono_literals;
+
 class TestEditorEnMarcha : public EditorDePrueba {
     Q_OBJECT
 
@@ -146,16 +148,31 @@ private Q_SLOTS:
 
     void timesOfPassesAndOfCompilingAreShown() {
         abrirCon("x = 1");
-        QTRY_VERIFY(tiempos().startsWith(QStringLiteral("Sin pasadas todavía; compilar: ")));
+        QTRY_COMPARE(tiempos(), QStringLiteral("Sin pasadas todavía; compilar: ") + textoDeDuracion(1ms));
+        reloj_.porMirada = 30ms;
         pasada("x = 1");
-        pasada("For i = 1 To 100000 : Next");
-        QTRY_VERIFY(tiempos().startsWith(QStringLiteral("Pasadas: 2, la última ")));
-        QVERIFY(ejecutor_->pasadas().ultima == ejecutor_->pasadas().maxima);
-        QVERIFY(tiempos().contains(QStringLiteral("la más larga ") + textoDeDuracion(ejecutor_->pasadas().maxima)));
+        reloj_.porMirada = 4ms;
+        pasada("x = 1");
+        QTRY_COMPARE(tiempos(), QStringLiteral("Pasadas: 2, la última %1, la más larga %2; compilar: %3")
+                                    .arg(textoDeDuracion(4ms), textoDeDuracion(30ms), textoDeDuracion(1ms)));
+    }
+
+    void textIsCompiledTheLaterTheLongerTheLastTimeTook() {
+        abrirCon("x = 1");
+        PasoDelTiempo tiempo(*frm_);
+        reloj_.porMirada = 100ms;
+        tecla(Qt::Key_Space);
+        tiempo.pasar(300ms);
+        QVERIFY(tiempos().endsWith(textoDeDuracion(100ms)));
+        reloj_.porMirada = 5ms;
+        tecla(Qt::Key_Space);
+        tiempo.pasar(999ms);
+        QVERIFY(tiempos().endsWith(textoDeDuracion(100ms)));
+        tiempo.pasar(1ms);
+        QVERIFY(tiempos().endsWith(textoDeDuracion(5ms)));
     }
 
     void durationsHaveThreeFigures() {
-        using namespace std::chrono_literals;
         const QChar coma = QLocale().decimalPoint().front();
         QCOMPARE(textoDeDuracion(850us), QStringLiteral("0") + coma + QStringLiteral("85 ms"));
         QCOMPARE(textoDeDuracion(12'340us), QStringLiteral("12") + coma + QStringLiteral("3 ms"));

@@ -4,9 +4,9 @@
 #include "EsperasDelBucle.h"
 #include "EventosPendientes.h"
 #include "PrincipalDePrueba.h"
+#include "RelojDePrueba.h"
 
 #include <QCheckBox>
-#include <QElapsedTimer>
 #include <QHelpEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -29,8 +29,9 @@ constexpr const char* clavePeriodo = "Ejecucion_Codigo_Milisegundos";
 
 class EstacionConScript : public PrincipalDePrueba {
 public:
-    explicit EstacionConScript(const std::string& masConfiguracion = "", std::chrono::milliseconds limite = 50s)
-        : PrincipalDePrueba(masConfiguracion, arranque(limite)) {}
+    explicit EstacionConScript(const std::string& masConfiguracion = "", std::chrono::milliseconds limite = 50s,
+                               const Reloj& reloj = relojDelSistema())
+        : PrincipalDePrueba(masConfiguracion, arranque(limite), reloj) {}
 
     static Arranque arranque(std::chrono::milliseconds limite) {
         Arranque a;
@@ -121,13 +122,15 @@ private Q_SLOTS:
     }
 
     void boxTellsTheErrorWithItsPlaceAndTime() {
-        EstacionConScript e("Codigo_Ejecutar=1\r\n");
+        RelojDePrueba reloj;
+        EstacionConScript e("Codigo_Ejecutar=1\r\n" + sinPasadasPropias, 50s, reloj);
         QVERIFY(e.cargar());
+        reloj.pasar(3min);
         e.script("x = 1\r\nx = 1 / 0");
         e.pasada();
-        const QRegularExpression error(QStringLiteral(
-            "^Con error a las \\d\\d:\\d\\d:\\d\\d, línea 2, columna \\d+: División por cero \\(error 11\\)$"));
-        QVERIFY2(error.match(e.chScript().toolTip()).hasMatch(), qPrintable(e.chScript().toolTip()));
+        reloj.pasar(1min);
+        QCOMPARE(e.chScript().toolTip(),
+                 QStringLiteral("Con error a las 12:37:56, línea 2, columna 1: División por cero (error 11)"));
         QCOMPARE(e.chScript().accessibleDescription(), e.chScript().toolTip());
         e.script("x = y(");
         e.pasada();
@@ -402,15 +405,21 @@ private Q_SLOTS:
     }
 
     void afterABoxTheOperatorHasTimeToUntickHoweverShortThePeriod() {
-        EstacionConScript e("Codigo_Ejecutar=1\r\nEjecucion_Codigo_Milisegundos=10\r\n");
-        // The script itself looks at the clock: whoever looks on may come late.
-        e.script("n = n + 1\r\nIf n = 2 Then mw.escribir 1, 0, (DateDiff(\"s\", antes, Now) * 10) + 1\r\n"
-                 "MsgBox \"a\"\r\nantes = Now");
+        RelojDePrueba reloj;
+        EstacionConScript e("Codigo_Ejecutar=1\r\n" + sinPasadasPropias, 50s, reloj);
+        e.script("MsgBox \"a\"");
         QVERIFY(e.cargar());
         CajaDeMensaje caja;
-        QTRY_VERIFY(e.registro(1, 0) > 0);
-        QVERIFY2(e.registro(1, 0) > 10, "the next pass came within the same second");
-        e.chScript().setChecked(false);
+        const auto alVencer = [&] { // how many boxes there have been when the timer has fired once more
+            Q_EMIT e.timer()->timeout({});
+            return caja.vistas;
+        };
+        QCOMPARE(alVencer(), 1);
+        QCOMPARE(alVencer(), 1);
+        reloj.pasar(999ms);
+        QCOMPARE(alVencer(), 1);
+        reloj.pasar(1ms);
+        QCOMPARE(alVencer(), 2);
     }
 
     // The period would be over by the end of the pass.
@@ -431,13 +440,14 @@ private Q_SLOTS:
     }
 
     void endlessLoopIsStoppedAtTheTimeOutRedAndTheStationServesAgain() {
-        EstacionConScript e("Codigo_Ejecutar=1\r\nEjecucion_Codigo_Milisegundos=50\r\n", 200ms);
+        RelojDePrueba reloj;
+        reloj.porMirada = 1ms;
+        EstacionConScript e("Codigo_Ejecutar=1\r\nEjecucion_Codigo_Milisegundos=50\r\n", 200ms, reloj);
         e.script("mw.escribir 1, 0, 9\r\nOn Error Resume Next\r\nDo\r\nLoop");
         QVERIFY(e.cargar());
-        QElapsedTimer reloj;
-        reloj.start();
         QTRY_COMPARE(e.color(), rojo);
-        QVERIFY(reloj.elapsed() >= 200);
+        QVERIFY(e.estacion->script().pasadas().ultima >= 200ms);
+        QVERIFY(e.estacion->script().pasadas().ultima < 210ms);
         const auto maestro = e.conectarMaestro();
         QCOMPARE(PrincipalDePrueba::pedir(*maestro, PrincipalDePrueba::lectura(1), 13).mid(9),
                  QByteArray("\0\x9\0\0", 4));
@@ -448,25 +458,27 @@ private Q_SLOTS:
 
     // What a master asks meanwhile waits, so that it sees the pass as one step.
     void scriptThatDoesNotEndShowsItsBarAndPararEndsThePassWithAnErrorOfItsOwn() {
-        EstacionConScript e(sinPasadasPropias);
+        RelojDePrueba reloj;
+        reloj.porMirada = 1ms;
+        EstacionConScript e(sinPasadasPropias, 50s, reloj);
         e.script("mw.escribir 1, 0, 9\r\nOn Error Resume Next\r\nDo\r\nLoop");
         QVERIFY(e.cargar());
         const auto maestro = e.conectarMaestro();
         e.chScript().setChecked(true);
-        QElapsedTimer reloj;
-        qint64 primera = -1;
+        Reloj::Instante comienzo;
+        Reloj::Instante::duration primera{};
         QByteArray entretanto;
         QString dicho;
         const AlPintar vigia("BarraScript", [&](QWidget& barra) {
-            primera = reloj.elapsed();
+            primera = reloj.instante() - comienzo;
             maestro->send(PrincipalDePrueba::lectura(1).toStdString());
             entretanto = QByteArray::fromStdString(maestro->receive());
             dicho = barra.findChild<QLabel*>()->text();
             QTest::mouseClick(barra.findChild<QPushButton*>(QStringLiteral("BtnPararScript")), Qt::LeftButton);
         });
-        reloj.start();
+        comienzo = reloj.instante();
         e.pasada();
-        QVERIFY(primera >= 500);
+        QVERIFY(primera >= 500ms);
         QCOMPARE(entretanto, QByteArray());
         QVERIFY(dicho.startsWith(QStringLiteral("El script lleva ")));
         QCOMPARE(e.color(), rojo);

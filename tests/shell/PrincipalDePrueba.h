@@ -23,8 +23,10 @@ inline std::uint16_t puertoLibre() {
 
 class PrincipalDePrueba {
 public:
-    explicit PrincipalDePrueba(const std::string& masConfiguracion = "", Arranque arranque = {})
-        : puerto(puertoLibre()), config(carpeta.ruta()) {
+    // The clock is borrowed.
+    explicit PrincipalDePrueba(const std::string& masConfiguracion = "", Arranque arranque = {},
+                               const Reloj& reloj = relojDelSistema())
+        : puerto(puertoLibre()), config(carpeta.ruta()), reloj_(reloj) {
         escribirConfig("PUERTO_VALOR=" + std::to_string(puerto) + "\r\n" + masConfiguracion);
         encender(std::move(arranque));
     }
@@ -33,7 +35,7 @@ public:
     void encender(Arranque arranque = {}) {
         useSystemLocale();
         ventana.reset();
-        estacion = std::make_unique<Estacion>(carpeta.ruta(), std::move(arranque));
+        estacion = std::make_unique<Estacion>(carpeta.ruta(), std::move(arranque), reloj_);
         ventana = std::make_unique<FrmPrincipal>(*estacion);
     }
 
@@ -91,4 +93,7 @@ public:
     Modulo_Config config;
     std::unique_ptr<Estacion> estacion;
     std::unique_ptr<FrmPrincipal> ventana;
+
+private:
+    const Reloj& reloj_;
 };

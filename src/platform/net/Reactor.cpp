@@ -11,8 +11,6 @@
 
 namespace {
 
-using Clock = std::chrono::steady_clock;
-
 constexpr long retryNanoseconds = 100'000'000;
 
 std::uint32_t epollMask(Reactor::Interest interest) {
@@ -33,8 +31,9 @@ Reactor::Watch watchOf(const epoll_event& event) {
 
 } // namespace
 
-Reactor::Reactor()
-    : epoll_(epoll_create1(EPOLL_CLOEXEC)), timer_(timerfd_create(CLOCK_MONOTONIC, TFD_NONBLOCK | TFD_CLOEXEC)) {
+Reactor::Reactor(const Reloj& clock)
+    : clock_(clock), epoll_(epoll_create1(EPOLL_CLOEXEC)),
+      timer_(timerfd_create(CLOCK_MONOTONIC, TFD_NONBLOCK | TFD_CLOEXEC)) {
     if (!epoll_ || !timer_ || !alive(add(timer_.number(), retryTimer_, Interest::read)))
         throw std::system_error(errno, std::system_category(), "reactor");
 }
@@ -45,7 +44,7 @@ bool Reactor::turn(std::chrono::microseconds budget) {
     if (const Slot* outer = find(current_))
         outer->handler->onNestedTurn();
     ++depth_;
-    callTime_ = Clock::now();
+    callTime_ = clock_.instante();
     const auto end = callTime_ + budget;
     bool more = true;
     do {
@@ -54,7 +53,7 @@ bool Reactor::turn(std::chrono::microseconds budget) {
             const epoll_event event = batch_[batchNext_++];
             dispatch(event);
         }
-        callTime_ = Clock::now();
+        callTime_ = clock_.instante();
     } while (more && callTime_ < end);
     --depth_;
     return more;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/clock/Reloj.h"
 #include "platform/posix/Descriptor.h"
 
 #include <array>
@@ -55,8 +56,8 @@ public:
     // stack.
     static constexpr std::size_t maxNesting = 8;
 
-    // Throws std::system_error when the system refuses the descriptors.
-    Reactor();
+    // The clock is borrowed. Throws std::system_error when the system refuses the descriptors.
+    explicit Reactor(const Reloj& clock = relojDelSistema());
     ~Reactor() = default;
     Reactor(const Reactor&) = delete;
     Reactor& operator=(const Reactor&) = delete;
@@ -69,7 +70,7 @@ public:
     bool turn(std::chrono::microseconds budget = turnBudget);
 
     // About when the handler call under way began. Costs nothing: the turn reads the clock anyway.
-    std::chrono::steady_clock::time_point callTime() const { return callTime_; }
+    Reloj::Instante callTime() const { return callTime_; }
 
     // Watches a descriptor. The handler is borrowed until remove(). Alive unless the system refuses (errno says why).
     [[nodiscard]] Watch add(int descriptor, Handler& handler, Interest interest);
@@ -127,6 +128,7 @@ private:
     bool refill();
     void dispatch(const epoll_event& event);
 
+    const Reloj& clock_;
     Descriptor epoll_;
     int spareDescriptors_ = 0;
     Descriptor timer_;
@@ -140,7 +142,7 @@ private:
     std::size_t batchEnd_ = 0;
     Watch current_;
     std::size_t depth_ = 0;
-    std::chrono::steady_clock::time_point callTime_;
+    Reloj::Instante callTime_;
     std::array<std::unique_ptr<std::uint8_t[]>, maxNesting> receiveBuffers_;
     std::vector<Watch> waiting_;
     std::vector<Offer> offers_;

@@ -1,6 +1,7 @@
 #include "platform/window/Controles.h"
 
 #include <QCheckBox>
+#include <QDateTime>
 #include <QLabel>
 #include <QPushButton>
 
@@ -69,4 +70,9 @@ QString deUtf8(std::string_view utf8) {
 
 QString deUtf16(std::u16string_view utf16) {
     return QString::fromUtf16(utf16.data(), static_cast<qsizetype>(utf16.size()));
+}
+
+QString textoDeHora(Reloj::Hora hora, const QString& formato) {
+    const auto desde1970 = std::chrono::duration_cast<std::chrono::milliseconds>(hora.time_since_epoch());
+    return QDateTime::fromMSecsSinceEpoch(desde1970.count()).toString(formato);
 }

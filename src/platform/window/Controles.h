@@ -5,6 +5,8 @@
 //     auto* caja = nombrado(new QLineEdit(this), nombreDeElemento("txtTramas", 3), QStringLiteral("Tramas"));
 #pragma once
 
+#include "platform/clock/Reloj.h"
+
 #include <QColor>
 #include <QString>
 
@@ -64,3 +66,5 @@ bool ponerFondoDeEstado(QWidget& control, bool bien);
 
 QString deUtf8(std::string_view utf8);
 QString deUtf16(std::u16string_view utf16);
+QString textoDeHora(Reloj::Hora hora,
+                    const QString& formato = QStringLiteral("HH:mm:ss")); // local; QDateTime's letters

@@ -7,14 +7,14 @@
 #include <utility>
 
 void EventosQt::dejarPasarEventos() {
-    if (nivel_ >= maxNivel || ahora_() - ultima_ < pausa)
+    if (nivel_ >= maxNivel || reloj_.instante() - ultima_ < pausa)
         return;
     const int anterior = std::exchange(bucle_, QThread::currentThread()->loopLevel());
     ++nivel_;
     const auto salida = qScopeGuard([this, anterior] {
         --nivel_;
         bucle_ = anterior;
-        ultima_ = ahora_();
+        ultima_ = reloj_.instante();
     });
     QCoreApplication::processEvents();
 }

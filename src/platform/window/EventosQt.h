@@ -5,26 +5,24 @@
 // cannot pile up on the stack. One instance for the program, handed to those who need it.
 #pragma once
 
+#include "platform/clock/Reloj.h"
 #include "platform/events/Eventos.h"
 
 #include <chrono>
 
 class EventosQt final : public Eventos {
 public:
-    using Instante = std::chrono::steady_clock::time_point;
-    using Ahora = Instante (*)();
-
     static constexpr std::chrono::milliseconds pausa{1};
     static constexpr int maxNivel = 4;
 
-    explicit EventosQt(Ahora ahora = &std::chrono::steady_clock::now) : ahora_(ahora) {}
+    explicit EventosQt(const Reloj& reloj = relojDelSistema()) : reloj_(reloj) {} // borrowed
 
     void dejarPasarEventos() override;
     bool enElFondo() const override;
 
 private:
-    Ahora ahora_;
-    Instante ultima_{};
+    const Reloj& reloj_;
+    Reloj::Instante ultima_{};
     int nivel_ = 0;
     int bucle_ = 0; // event loops on the stack when the innermost level began
 };

@@ -1,8 +1,8 @@
 #include "platform/window/EventosQt.h"
 
 #include "EsperasDelBucle.h"
+#include "RelojDePrueba.h"
 
-#include <QElapsedTimer>
 #include <QEventLoop>
 #include <QTest>
 #include <QTimer>
@@ -25,9 +25,7 @@ protected:
     void customEvent(QEvent* /*evento*/) override {
         mayor = qMax(mayor, ++nivel);
         llamar();
-        QElapsedTimer espera;
-        espera.start();
-        while (espera.elapsed() < 3)
+        for (int vez = 0; vez < 3; ++vez)
             eventos_.dejarPasarEventos();
         --nivel;
     }
@@ -41,7 +39,10 @@ private:
 class TestEventosQt : public QObject {
     Q_OBJECT
 
-private Q_SLOTS:
+    RelojDePrueba deprisa; // each call finds its pause over
+
+    void initTestCase() { deprisa.porMirada = EventosQt::pausa; }
+
     void pendingEventsRun() {
         bool corrio = false;
         QTimer reloj;
@@ -64,13 +65,12 @@ private Q_SLOTS:
         QTimer reloj;
         connect(&reloj, &QTimer::timeout, this, [&turnos] { ++turnos; });
         reloj.start(0);
-        static EventosQt::Instante hora;
-        hora = EventosQt::Instante(1h);
-        EventosQt eventos([] { return hora; });
+        RelojDePrueba hora;
+        EventosQt eventos(hora);
         for (int i = 0; i < 100; ++i)
             eventos.dejarPasarEventos();
         QCOMPARE(turnos, 1);
-        hora += EventosQt::pausa;
+        hora.pasar(EventosQt::pausa);
         for (int i = 0; i < 100; ++i)
             eventos.dejarPasarEventos();
         QCOMPARE(turnos, 2);
@@ -120,15 +120,13 @@ private Q_SLOTS:
     }
 
     void itCanBeCalledByAHandlerThatItStarted() {
-        EventosQt eventos;
+        EventosQt eventos(deprisa);
         int nivel = 0;
         int mayor = 0;
         QTimer reloj;
         connect(&reloj, &QTimer::timeout, this, [&] {
             mayor = qMax(mayor, ++nivel);
-            QElapsedTimer espera;
-            espera.start();
-            while (espera.elapsed() < 3)
+            for (int vez = 0; vez < 3; ++vez)
                 eventos.dejarPasarEventos();
             --nivel;
         });
@@ -142,7 +140,7 @@ private Q_SLOTS:
     }
 
     void handlersDoNotPileUp() {
-        EventosQt eventos;
+        EventosQt eventos(deprisa);
         Apilador apilador(eventos);
         apilador.llamar();
         eventos.dejarPasarEventos();

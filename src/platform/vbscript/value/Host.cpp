@@ -47,8 +47,11 @@ std::u16string Host::inputBox(std::u16string_view /*prompt*/, std::u16string_vie
 void Host::longRun(std::chrono::milliseconds /*elapsed*/) {}
 
 LocalTime Host::now() {
+    return localTime(std::chrono::system_clock::now());
+}
+
+LocalTime localTime(std::chrono::system_clock::time_point instant) {
     using namespace std::chrono;
-    const auto instant = system_clock::now();
     const std::time_t seconds = system_clock::to_time_t(instant);
     std::tm local{};
     localtime_r(&seconds, &local);

@@ -17,6 +17,9 @@ struct LocalTime {
     int millisecond = 0;
 };
 
+// That moment in the zone of the user.
+LocalTime localTime(std::chrono::system_clock::time_point instant);
+
 // The buttons of a message box of that style, in their order (1 OK, 2 Cancel, 3 Abort, 4 Retry, 5 Ignore, 6 Yes, 7 No),
 // and the one that the style makes the default.
 std::span<const int> buttonsOf(int style) noexcept;

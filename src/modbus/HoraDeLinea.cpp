@@ -1,7 +1,7 @@
-#include "shell/RelojSistema.h"
+#include "modbus/HoraDeLinea.h"
 
-std::string_view RelojSistema::hora() {
-    const std::time_t ahora = std::time(nullptr);
+std::string_view HoraDeLinea::texto() {
+    const std::time_t ahora = reloj_.segundo();
     if (ahora != segundo_) {
         segundo_ = ahora;
         std::tm local{};
