@@ -48,12 +48,11 @@ bool esTrabajo(QEvent::Type tipo) {
 } // namespace
 
 BarraScript::BarraScript(QWidget& ventana, std::function<void()> parar)
-    : QFrame(&ventana), parar_(std::move(parar)), texto_(new QLabel) {
+    : QFrame(&ventana), parar_(std::move(parar)), texto_(nombrado(new QLabel, "lblScriptLleva")) {
     setObjectName(QStringLiteral("BarraScript"));
     setAccessibleName(QStringLiteral("Script en marcha"));
     setFrameShape(QFrame::StyledPanel);
     setAutoFillBackground(true);
-    texto_->setObjectName(QStringLiteral("lblScriptLleva"));
     auto* boton = crearBoton(this, "BtnPararScript", QStringLiteral("&Parar"));
     connect(boton, &QPushButton::clicked, this, [this] { parar_(); });
     auto* fila = new QHBoxLayout(this);

@@ -1,5 +1,6 @@
 #include "shell/BarraEstado.h"
 
+#include "platform/window/Controles.h"
 #include "script/BarraEjecucion.h"
 #include "script/FalloScript.h"
 #include "shell/Estacion.h"
@@ -55,17 +56,14 @@ QString ayudaDeError(const Pasadas& pasadas, int linea) {
 } // namespace
 
 BarraEstado::BarraEstado(Estacion& estacion, QWidget* padre)
-    : QWidget(padre), estacion_(estacion), BtnErrorScript_(new QPushButton(this)) {
-    setObjectName(QStringLiteral("BarraEstado"));
-    setAccessibleName(QStringLiteral("Estado"));
+    : QWidget(padre), estacion_(estacion), BtnErrorScript_(crearBoton(this, "BtnErrorScript", QString())) {
+    nombrado(this, "BarraEstado", QStringLiteral("Estado"));
     setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     for (int i = 0; i < cuantosCampos; ++i) {
-        auto* etiqueta = campos_[static_cast<std::size_t>(i)] = new QLabel(this);
-        etiqueta->setObjectName(QLatin1String(descripciones[i].nombre));
+        auto* etiqueta = campos_[static_cast<std::size_t>(i)] = nombrado(new QLabel(this), descripciones[i].nombre);
         etiqueta->setToolTip(QString::fromUtf8(descripciones[i].ayuda));
         etiqueta->setAccessibleDescription(etiqueta->toolTip());
     }
-    BtnErrorScript_->setObjectName(QStringLiteral("BtnErrorScript"));
     BtnErrorScript_->setFlat(true);
     QFont subrayada = BtnErrorScript_->font(); // as what can be pressed without the frame of a button
     subrayada.setUnderline(true);

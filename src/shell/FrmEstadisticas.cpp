@@ -1,5 +1,6 @@
 #include "shell/FrmEstadisticas.h"
 
+#include "platform/window/Controles.h"
 #include "platform/window/PaginaManual.h"
 #include "shell/AyudaContextual.h"
 #include "shell/Estacion.h"
@@ -20,9 +21,7 @@ namespace {
 constexpr int columnaDesde = 2; // of the masters
 
 QTreeWidget* tabla(QWidget* padre, const char* nombre, const QString& titulo, const QStringList& columnas) {
-    auto* lista = new QTreeWidget(padre);
-    lista->setObjectName(QLatin1String(nombre));
-    lista->setAccessibleName(titulo);
+    auto* lista = nombrado(new QTreeWidget(padre), nombre, titulo);
     lista->setRootIsDecorated(false);
     lista->setUniformRowHeights(true);
     lista->setAllColumnsShowFocus(true);
@@ -89,9 +88,7 @@ FrmEstadisticas::FrmEstadisticas(Estacion& estacion, QWidget& principal)
     auto* botones = new QHBoxLayout;
     botones->addStretch(1);
     const auto agregarBoton = [&](const char* nombre, const QString& texto, const QString& ayuda, auto accion) {
-        auto* boton = new QPushButton(texto, this);
-        boton->setObjectName(QLatin1String(nombre));
-        boton->setToolTip(ayuda);
+        auto* boton = crearBoton(this, nombre, texto, ayuda);
         connect(boton, &QPushButton::clicked, this, accion);
         botones->addWidget(boton);
     };
@@ -145,7 +142,7 @@ void FrmEstadisticas::mostrarMaestros() {
     for (const Maestro& maestro : estacion_.escucha().maestros())
         ponerFila(
             *listaMaestros_, cuantos++,
-            {QString::fromStdString(maestro.direccion), QString::number(maestro.puerto),
+            {deUtf8(maestro.direccion), QString::number(maestro.puerto),
              textoInstante(estacion_.reloj, maestro.desde, QStringLiteral("dd/MM/yyyy HH:mm:ss")),
              QString::number(maestro.peticiones),
              maestro.ultima ? textoInstante(estacion_.reloj, *maestro.ultima, QStringLiteral("HH:mm:ss")) : QString()});

@@ -1,5 +1,6 @@
 #include "shell/FrmManual.h"
 
+#include "platform/window/Controles.h"
 #include "shell/PaginaVisible.h"
 
 #include <QHBoxLayout>
@@ -23,8 +24,7 @@ constexpr int lugar = Qt::UserRole; // the URL of an entry
 FrmManual::FrmManual(QWidget* padre) : QWidget(padre, Qt::Window) {
     setObjectName(QStringLiteral("FrmManual"));
     setWindowTitle(QStringLiteral("Manual del Esclavo Modbus"));
-    auto* divisor = new QSplitter(this);
-    divisor->setObjectName(QStringLiteral("divisorManual"));
+    auto* divisor = nombrado(new QSplitter(this), "divisorManual");
     divisor->setChildrenCollapsible(false);
     divisor->addWidget(crearIzquierda());
     divisor->addWidget(crearDerecha());
@@ -41,30 +41,22 @@ FrmManual::FrmManual(QWidget* padre) : QWidget(padre, Qt::Window) {
 }
 
 QPushButton* FrmManual::boton(const char* nombre, const QString& texto, const QString& ayuda) {
-    auto* nuevo = new QPushButton(texto, this);
-    nuevo->setObjectName(QLatin1String(nombre));
-    nuevo->setToolTip(ayuda);
+    auto* nuevo = crearBoton(this, nombre, texto, ayuda);
     nuevo->setAutoDefault(false);
     return nuevo;
 }
 
 QWidget* FrmManual::crearIzquierda() {
     auto* lado = new QWidget(this);
-    txtBuscarEnTodo_ = new QLineEdit(lado);
-    txtBuscarEnTodo_->setObjectName(QStringLiteral("txtBuscarEnTodo"));
+    txtBuscarEnTodo_ = nombrado(new QLineEdit(lado), "txtBuscarEnTodo", QStringLiteral("Buscar en el manual"));
     txtBuscarEnTodo_->setPlaceholderText(QStringLiteral("Buscar en el manual (Ctrl+K)"));
-    txtBuscarEnTodo_->setAccessibleName(QStringLiteral("Buscar en el manual"));
     txtBuscarEnTodo_->setToolTip(QStringLiteral("Busca estas palabras en todas las páginas (Ctrl+K)"));
     txtBuscarEnTodo_->setClearButtonEnabled(true);
     txtBuscarEnTodo_->installEventFilter(this);
-    indice_ = new QTreeWidget(lado);
-    indice_->setObjectName(QStringLiteral("indiceManual"));
-    indice_->setAccessibleName(QStringLiteral("Índice del manual"));
+    indice_ = nombrado(new QTreeWidget(lado), "indiceManual", QStringLiteral("Índice del manual"));
     indice_->setHeaderHidden(true);
     indice_->setIndentation(fontMetrics().averageCharWidth() * 2);
-    hallazgos_ = new QListWidget(lado);
-    hallazgos_->setObjectName(QStringLiteral("listaHallazgos"));
-    hallazgos_->setAccessibleName(QStringLiteral("Páginas halladas"));
+    hallazgos_ = nombrado(new QListWidget(lado), "listaHallazgos", QStringLiteral("Páginas halladas"));
     hallazgos_->setWordWrap(true);
     hallazgos_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     hallazgos_->setAlternatingRowColors(true);

@@ -2,6 +2,7 @@
 
 #include "modbus/ArchivoPcap.h"
 #include "modbus/VistaTxRx.h"
+#include "platform/window/Controles.h"
 #include "platform/window/MsgBox.h"
 #include "platform/window/PaginaManual.h"
 #include "shell/AyudaContextual.h"
@@ -18,15 +19,14 @@
 #include <QVBoxLayout>
 
 FrmTxRx::FrmTxRx(QWidget& principal, Monitores& monitores)
-    : QWidget(&principal, Qt::Window), monitores_(monitores), Text1_(new VistaTxRx(monitores, this)) {
+    : QWidget(&principal, Qt::Window), monitores_(monitores),
+      Text1_(nombrado(new VistaTxRx(monitores, this), "Text1", QStringLiteral("Tramas de todos los esclavos"))) {
     setObjectName(QStringLiteral("FrmTxRx"));
     setWindowTitle(QStringLiteral("TxRx"));
     ponerPaginaManual(*this, "monitores.md#la-ventana-txrx");
     setWindowIcon(principal.windowIcon());
     setAttribute(Qt::WA_ShowWithoutActivating);
 
-    Text1_->setObjectName(QStringLiteral("Text1"));
-    Text1_->setAccessibleName(QStringLiteral("Tramas de todos los esclavos"));
     auto* diseno = new QVBoxLayout(this);
     diseno->addLayout(crearMandos());
     diseno->addWidget(lblFiltro_);
@@ -43,17 +43,14 @@ void FrmTxRx::keyPressEvent(QKeyEvent* evento) {
 }
 
 QCheckBox* FrmTxRx::casilla(const char* nombre, const QString& texto, const QString& ayuda, bool marcada) {
-    auto* nueva = new QCheckBox(texto, this);
-    nueva->setObjectName(QLatin1String(nombre));
-    nueva->setToolTip(ayuda);
+    auto* nueva = crearCasilla(this, nombre, texto, ayuda);
     nueva->setChecked(marcada);
     connect(nueva, &QCheckBox::toggled, this, &FrmTxRx::filtrar);
     return nueva;
 }
 
 QHBoxLayout* FrmTxRx::crearMandos() {
-    txtEsclavos_ = new QLineEdit(this);
-    txtEsclavos_->setObjectName(QStringLiteral("txtEsclavos"));
+    txtEsclavos_ = nombrado(new QLineEdit(this), "txtEsclavos");
     txtEsclavos_->setPlaceholderText(QStringLiteral("todos"));
     txtEsclavos_->setToolTip(QStringLiteral("Los esclavos que se muestran, por ejemplo 1, 3-5; vacío, todos"));
     txtEsclavos_->setClearButtonEnabled(true);
@@ -66,14 +63,11 @@ QHBoxLayout* FrmTxRx::crearMandos() {
                        QStringLiteral("Excepciones: funciones que no se sirven y lecturas demasiado largas"), true);
     chHexadecimal_ =
         casilla("chHexadecimal", QStringLiteral("&Hexadecimal"), QStringLiteral("Los bytes en hexadecimal"), false);
-    auto* guardar = new QPushButton(QStringLiteral("&Guardar tráfico…"), this);
-    guardar->setObjectName(QStringLiteral("btnGuardarTrafico"));
-    guardar->setToolTip(
-        QStringLiteral("Guarda los últimos 4 MB de peticiones y respuestas como captura para Wireshark"));
+    auto* guardar =
+        crearBoton(this, "btnGuardarTrafico", QStringLiteral("&Guardar tráfico…"),
+                   QStringLiteral("Guarda los últimos 4 MB de peticiones y respuestas como captura para Wireshark"));
     connect(guardar, &QPushButton::clicked, this, &FrmTxRx::guardarTrafico);
-    lblFiltro_ = new QLabel(QStringLiteral("No se entiende la lista de esclavos: escriba, por ejemplo, 1, 3-5"), this);
-    lblFiltro_->setObjectName(QStringLiteral("lblFiltro"));
-    lblFiltro_->hide();
+    lblFiltro_ = crearAviso(this, "lblFiltro");
 
     auto* fila = new QHBoxLayout;
     fila->addWidget(rotulo);
@@ -86,7 +80,8 @@ QHBoxLayout* FrmTxRx::crearMandos() {
 
 void FrmTxRx::filtrar() {
     const auto esclavos = leerEsclavos(txtEsclavos_->text().toStdString());
-    lblFiltro_->setVisible(!esclavos);
+    avisar(*lblFiltro_,
+           esclavos ? QString() : QStringLiteral("No se entiende la lista de esclavos: escriba, por ejemplo, 1, 3-5"));
     if (!esclavos)
         return; // what was shown stays until the list is whole
     FiltroTramas filtro;

@@ -1,5 +1,7 @@
 #include "platform/window/BarraBusqueda.h"
 
+#include "platform/window/Controles.h"
+
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
@@ -11,13 +13,12 @@ BarraBusqueda::BarraBusqueda(DondeBuscar& donde, QWidget* padre, bool puedeReemp
     : QWidget(padre), donde_(donde), txtBuscar_(campo("txtBuscar", QStringLiteral("Buscar"))),
       chMayusculas_(
           boton("chMayusculas", QStringLiteral("Aa"), QStringLiteral("Distinguir mayúsculas y minúsculas (Alt+M)"))),
-      mensaje_(new QLabel(this)) {
+      mensaje_(nombrado(new QLabel(this), "lblBusqueda")) {
     setObjectName(QStringLiteral("barraBusqueda"));
     setAutoFillBackground(true);
     setCursor(Qt::ArrowCursor);
     chMayusculas_->setCheckable(true);
     chMayusculas_->setShortcut(Qt::ALT | Qt::Key_M);
-    mensaje_->setObjectName(QStringLiteral("lblBusqueda"));
     auto* anterior = boton("btnAnterior", QStringLiteral("▲"), QStringLiteral("Anterior (Mayús+F3)"));
     auto* siguiente = boton("btnSiguiente", QStringLiteral("▼"), QStringLiteral("Siguiente (F3)"));
     auto* cerrarla = boton("btnCerrarBusqueda", QStringLiteral("✕"), QStringLiteral("Cerrar la búsqueda (Esc)"));
@@ -43,20 +44,16 @@ BarraBusqueda::BarraBusqueda(DondeBuscar& donde, QWidget* padre, bool puedeReemp
 }
 
 QLineEdit* BarraBusqueda::campo(const char* nombre, const QString& rotulo) {
-    auto* nuevo = new QLineEdit(this);
-    nuevo->setObjectName(QLatin1String(nombre));
-    nuevo->setAccessibleName(rotulo);
+    auto* nuevo = nombrado(new QLineEdit(this), nombre, rotulo);
     nuevo->setPlaceholderText(rotulo);
     nuevo->setClearButtonEnabled(true);
     return nuevo;
 }
 
 QToolButton* BarraBusqueda::boton(const char* nombre, const QString& texto, const QString& ayuda) {
-    auto* nuevo = new QToolButton(this);
-    nuevo->setObjectName(QLatin1String(nombre));
+    auto* nuevo = nombrado(new QToolButton(this), nombre, ayuda);
     nuevo->setText(texto);
     nuevo->setToolTip(ayuda);
-    nuevo->setAccessibleName(ayuda);
     nuevo->setAutoRaise(true);
     nuevo->setFocusPolicy(Qt::StrongFocus);
     return nuevo;

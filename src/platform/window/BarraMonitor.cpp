@@ -1,5 +1,6 @@
 #include "platform/window/BarraMonitor.h"
 
+#include "platform/window/Controles.h"
 #include "platform/window/VistaTexto.h"
 
 #include <QGuiApplication>
@@ -67,11 +68,10 @@ BarraMonitor::BarraMonitor(VistaTexto& monitor) : QWidget(&monitor) {
     columna->setSpacing(0);
     const int lado = fontMetrics().ascent();
     const auto boton = [&](const char* nombre, Dibujo dibujo, const QString& rotulo, const QString& tecla) {
-        auto* nuevo = new QToolButton(this);
-        nuevo->setObjectName(QLatin1String(nombre));
+        auto* nuevo =
+            nombrado(new QToolButton(this), nombre, QStringLiteral("%1: %2").arg(rotulo, monitor.accessibleName()));
         nuevo->setIcon(QIcon(new IconoDibujado(dibujo)));
         nuevo->setText(rotulo);
-        nuevo->setAccessibleName(QStringLiteral("%1: %2").arg(rotulo, monitor.accessibleName()));
         nuevo->setToolTip(QStringLiteral("%1 (%2)").arg(rotulo, tecla));
         nuevo->setAutoRaise(true);
         nuevo->setFocusPolicy(Qt::NoFocus);
