@@ -37,6 +37,16 @@ class Start(unittest.TestCase):
             wait_for(lambda: "oculta" in station.errors(), "the line about the hidden window")
             self.assertEqual(len(station.errors().splitlines()), 2)
 
+    def test_a_run_time_folder_that_qt_does_not_like_is_no_line_of_the_stations(self):
+        with tempfile.TemporaryDirectory() as folder:
+            os.chmod(folder, 0o755)
+            for place in (folder, folder + "/no-existe"):
+                environment = {**os.environ, "QT_QPA_PLATFORM": "offscreen", "XDG_RUNTIME_DIR": place}
+                with self.subTest(place=place), Station(environment=environment) as station:
+                    wait_for(lambda: station.setting("ver") is not None, "the window to be shown")
+                    self.assertEqual(station.errors().splitlines(),
+                                     [f"esclavo-modbus: escucha en el puerto {station.port}"])
+
     def test_a_master_over_ipv6_is_served_where_there_is_one(self):
         with Station() as station:
             try:

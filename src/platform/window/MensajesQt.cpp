@@ -6,9 +6,10 @@
 
 namespace {
 
-// A missing run-time folder is replaced by one of its own, and a screen that nobody sees has no window sizes to keep.
+// A run-time folder that is missing or not to its liking is replaced by one of its own, and a screen that nobody sees
+// has no window sizes to keep.
 bool sobra(const QString& texto) {
-    return texto.startsWith(QLatin1String("QStandardPaths: XDG_RUNTIME_DIR not set")) ||
+    return texto.startsWith(QLatin1String("QStandardPaths: ")) ||
            texto == QLatin1String("This plugin does not support propagateSizeHints()");
 }
 
