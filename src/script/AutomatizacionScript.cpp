@@ -104,8 +104,8 @@ bool AutomatizacionScript::ejecucionActiva() const {
 }
 
 void AutomatizacionScript::mostrarResultado(bool sinError) {
-    if (host_.terminarPasada())
-        reposo_ = reloj_.instante() + pausaTrasPersona;
+    if (const auto atencion = host_.terminarPasada(); atencion != HostScript::Atencion::ninguna)
+        reposo_ = reloj_.instante() + (atencion == HostScript::Atencion::parada ? pausaTrasParada : pausaTrasCuadro);
     if (editor_)
         editor_->mostrarFallo(ejecutor_.ultimoError());
     contarFallo();

@@ -31,8 +31,9 @@ public:
     static constexpr std::chrono::milliseconds tiempoLimite{50000}; // of one pass
 
     // After a pass that had the operator's attention the next one waits at least so long, however short the period: he
-    // must be able to untick "Ejecutar".
-    static constexpr std::chrono::milliseconds pausaTrasPersona{1000};
+    // must be able to untick "Ejecutar". A script that he stopped would take no click there if it ran again.
+    static constexpr std::chrono::milliseconds pausaTrasCuadro{1000};
+    static constexpr std::chrono::milliseconds pausaTrasParada{5000};
 
     struct Ventana {
         QWidget& principal; // parent of every message box and of the editor

@@ -13,7 +13,7 @@
 
 int HostScript::messageBox(std::u16string_view text, int buttons, std::u16string_view title) {
     if (!sinPantalla_) {
-        huboPersona_ = true;
+        atencion_ = Atencion::cuadro;
         return MsgBox(padre_, deUtf16(text), buttons, deUtf16(title));
     }
     std::fprintf(stderr, "esclavo-modbus: %s: %s\n", qUtf8Printable(deUtf16(title)), qUtf8Printable(deUtf16(text)));
@@ -24,7 +24,7 @@ std::u16string HostScript::inputBox(std::u16string_view prompt, std::u16string_v
                                     std::u16string_view defaultText) {
     if (sinPantalla_)
         return vbs::Host::inputBox(prompt, title, defaultText);
-    huboPersona_ = true;
+    atencion_ = Atencion::cuadro;
     return InputBox(padre_, deUtf16(prompt), deUtf16(title), deUtf16(defaultText)).toStdU16String();
 }
 
@@ -40,13 +40,13 @@ void HostScript::longRun(std::chrono::milliseconds elapsed) {
         return;
     if (!barra_)
         barra_ = new BarraScript(*ventana, [this] {
-            huboPersona_ = true;
+            atencion_ = Atencion::parada;
             parar_();
         });
     barra_->atender(std::chrono::duration_cast<std::chrono::seconds>(elapsed));
 }
 
-bool HostScript::terminarPasada() {
+HostScript::Atencion HostScript::terminarPasada() {
     delete barra_;
-    return std::exchange(huboPersona_, false);
+    return std::exchange(atencion_, Atencion::ninguna);
 }

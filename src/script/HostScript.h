@@ -34,9 +34,12 @@ public:
     // What stops the running script.
     void alParar(std::function<void()> parar) { parar_ = std::move(parar); }
 
-    // To be called at the end of each pass: takes the bar from the screen. Returns whether the script has had the
-    // operator's attention since the last call: he answered a box or stopped it.
-    bool terminarPasada();
+    // What the operator has had to do with a pass: answer its boxes, stop it.
+    enum class Atencion { ninguna, cuadro, parada };
+
+    // To be called at the end of each pass: takes the bar from the screen, and tells what there was since the last
+    // call.
+    Atencion terminarPasada();
 
 private:
     QWidget* padre_;
@@ -44,6 +47,6 @@ private:
     const Reloj& reloj_;
     std::function<void()> parar_;
     QPointer<BarraScript> barra_; // owned by the window that it stands in
-    bool huboPersona_ = false;
+    Atencion atencion_ = Atencion::ninguna;
     LocalesQt locales_;
 };

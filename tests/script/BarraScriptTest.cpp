@@ -153,13 +153,13 @@ private Q_SLOTS:
         host.longRun(600ms);
         QVERIFY(barra() != nullptr && barra()->isVisible());
         QCOMPARE(barra()->findChild<QLabel*>()->text(), QStringLiteral("El script lleva 0 s —"));
-        QVERIFY(!host.terminarPasada());
+        QCOMPARE(host.terminarPasada(), HostScript::Atencion::ninguna);
         QVERIFY(barra() == nullptr);
         host.longRun(2100ms);
         barra()->findChild<QPushButton*>()->click();
         QCOMPARE(veces, 1);
-        QVERIFY(host.terminarPasada());
-        QVERIFY(!host.terminarPasada());
+        QCOMPARE(host.terminarPasada(), HostScript::Atencion::parada);
+        QCOMPARE(host.terminarPasada(), HostScript::Atencion::ninguna);
     }
 
     void withoutAScreenOrBehindAHiddenWindowThereIsNone() {

@@ -487,6 +487,30 @@ private Q_SLOTS:
         QCOMPARE(PrincipalDePrueba::recibir(*maestro, 13).mid(9), QByteArray("\0\x9\0\0", 4));
     }
 
+    // From "Parar" to the box "Ejecutar" it is a long way for the mouse, and a script that runs again takes no click
+    // there.
+    void afterPararTheOperatorHasFiveSecondsToUntick() {
+        RelojDePrueba reloj;
+        reloj.porMirada = 1ms;
+        EstacionConScript e("Codigo_Ejecutar=1\r\n" + sinPasadasPropias, 50s, reloj);
+        e.script("Do\r\nLoop");
+        QVERIFY(e.cargar());
+        const AlPintar parar("BarraScript", [](QWidget& barra) {
+            QTest::mouseClick(barra.findChild<QPushButton*>(QStringLiteral("BtnPararScript")), Qt::LeftButton);
+        });
+        const auto alVencer = [&] { // how many passes there have been when the timer has fired once more
+            Q_EMIT e.timer()->timeout({});
+            return e.estacion->script().pasadas().cuantas;
+        };
+        QCOMPARE(alVencer(), 1U);
+        e.script("a = 1");
+        QCOMPARE(alVencer(), 1U);
+        reloj.pasar(4900ms);
+        QCOMPARE(alVencer(), 1U);
+        reloj.pasar(100ms);
+        QCOMPARE(alVencer(), 2U);
+    }
+
     void timeOutOfTheProgramIsFiftySeconds() { QCOMPARE(Arranque().limiteScript, std::chrono::milliseconds(50000)); }
 
     void endingStopsAScriptThatWaitsInAMessageBox() {
