@@ -80,11 +80,13 @@ void TeclasSangria::trasTecla(const QKeyEvent& tecla) {
 void TeclasSangria::trasEscribir() {
     QTextCursor cursor = editor_.textCursor();
     const QTextBlock linea = cursor.block();
+    if (movida_ != linea.blockNumber() || lineas_ != editor_.blockCount())
+        movida_ = -1; // another line by now
     if (cursor.hasSelection() || !cursor.atBlockEnd())
         return;
     const EfectoLinea esta = efecto(linea.text());
     const QString actual = sangriaDe(linea.text());
-    const bool movida = movida_ == linea.blockNumber() && ancho(actual) < ancho(sangriaPrevia_);
+    const bool movida = movida_ >= 0 && ancho(actual) < ancho(sangriaPrevia_);
     if (esta.cierra == 0 && !movida)
         return;
     cursor.beginEditBlock(); // a step of its own: who did not want it undoes it and keeps the word
@@ -97,6 +99,7 @@ void TeclasSangria::trasEscribir() {
         movida_ = -1;
     else if (sangriaDe(linea.text()) != actual) {
         movida_ = linea.blockNumber();
+        lineas_ = editor_.blockCount();
         sangriaPrevia_ = actual;
     }
 }

@@ -29,6 +29,7 @@ private:
     void alinearCierre(const QTextCursor& cursor, int cierra) const;
 
     QPlainTextEdit& editor_;
-    int movida_ = -1;       // the line that trasEscribir() moved back, from 0
+    int movida_ = -1;       // the line that trasEscribir() moved back, from 0; -1: none, or it may be another one
+    int lineas_ = 0;        // how many there were then
     QString sangriaPrevia_; // which it had before
 };

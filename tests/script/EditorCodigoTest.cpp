@@ -222,6 +222,23 @@ private Q_SLOTS:
         QCOMPARE(e_->texto(), QStringLiteral("For i = 1 To 2\n    NextStep = 1"));
     }
 
+    void moveOfACloserIsForgottenWithItsLine() {
+        teclas(QStringLiteral("Do\na = 1\nLoop"));
+        QTest::keyClick(e_.get(), Qt::Key_A, Qt::ControlModifier);
+        teclas(QStringLiteral("a = 1\nb = 2\nc = 3"));
+        QCOMPARE(e_->texto(), QStringLiteral("a = 1\nb = 2\nc = 3"));
+    }
+
+    void moveOfACloserIsForgottenWhenLinesComeBeforeIt() {
+        teclas(QStringLiteral("Do\nLoop"));
+        e_->irA(1, 1);
+        teclas(QStringLiteral("a\nb"));
+        QTest::keyClick(e_.get(), Qt::Key_Return);
+        e_->irA(2, 2);
+        teclas(QStringLiteral("c"));
+        QCOMPARE(e_->texto(), QStringLiteral("a\nbc\nDo\nLoop"));
+    }
+
     void moveOfACloserIsAStepOfItsOwnToUndo() {
         e_->ponerTexto(QStringLiteral("Do\n    "));
         e_->moveCursor(QTextCursor::End);
