@@ -32,12 +32,22 @@ double HostScript::monotonicMilliseconds() {
     return std::chrono::duration<double, std::milli>(reloj_.instante().time_since_epoch()).count();
 }
 
-// In the box that waits above the other windows, if there is one: they take no input then.
+// Where the operator is: in the box that waits above the other windows, which take no input then, or in the window in
+// use. While that is another program's the bar stays where it was.
+QWidget* HostScript::ventanaEnUso() const {
+    if (QWidget* const caja = QApplication::activeModalWidget())
+        return caja;
+    if (QWidget* const activa = QApplication::activeWindow())
+        return activa;
+    return barra_ ? barra_->window() : padre_;
+}
+
 void HostScript::longRun(std::chrono::milliseconds elapsed) {
-    QWidget* const caja = QApplication::activeModalWidget();
-    QWidget* const ventana = caja != nullptr ? caja : padre_;
-    if (sinPantalla_ || ventana == nullptr || !ventana->isVisible())
+    QWidget* const ventana = sinPantalla_ ? nullptr : ventanaEnUso();
+    if (ventana == nullptr || !ventana->isVisible())
         return;
+    if (barra_ && barra_->window() != ventana)
+        delete barra_;
     if (!barra_)
         barra_ = new BarraScript(*ventana, [this] {
             atencion_ = Atencion::parada;

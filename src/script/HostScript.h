@@ -42,6 +42,8 @@ public:
     Atencion terminarPasada();
 
 private:
+    QWidget* ventanaEnUso() const;
+
     QWidget* padre_;
     bool sinPantalla_;
     const Reloj& reloj_;

@@ -3,6 +3,7 @@
 
 #include "script/HostScript.h"
 
+#include <QApplication>
 #include <QLabel>
 #include <QPushButton>
 #include <QSocketNotifier>
@@ -160,6 +161,22 @@ private Q_SLOTS:
         QCOMPARE(veces, 1);
         QCOMPARE(host.terminarPasada(), HostScript::Atencion::parada);
         QCOMPARE(host.terminarPasada(), HostScript::Atencion::ninguna);
+    }
+
+    void theHostShowsItInTheWindowThatTheOperatorUses() {
+        QWidget editor;
+        editor.resize(600, 400);
+        editor.show();
+        editor.activateWindow();
+        QTRY_COMPARE(QApplication::activeWindow(), &editor);
+        HostScript host(ventana_.get(), false);
+        host.longRun(600ms);
+        QCOMPARE(editor.findChildren<BarraScript*>().size(), 1);
+        ventana_->activateWindow();
+        QTRY_COMPARE(QApplication::activeWindow(), ventana_.get());
+        host.longRun(1s);
+        QCOMPARE(editor.findChildren<BarraScript*>().size(), 0);
+        QCOMPARE(ventana_->findChildren<BarraScript*>().size(), 2); // besides this test's own
     }
 
     void withoutAScreenOrBehindAHiddenWindowThereIsNone() {
