@@ -108,9 +108,9 @@ void EditorCodigo::marcarError(int linea, int columna) {
 }
 
 void EditorCodigo::marcarFallo(int linea) {
-    const QTextBlock bloque = document()->findBlockByNumber(linea - 1);
-    conFallo_ = linea > 0 && bloque.isValid();
-    fallo_ = conFallo_ ? QTextCursor(bloque) : QTextCursor();
+    fallo_ = linea > 0 ? QTextCursor(document()->findBlockByNumber(linea - 1)) : QTextCursor();
+    fallo_.movePosition(QTextCursor::EndOfBlock);
+    fallo_.movePosition(QTextCursor::StartOfBlock, QTextCursor::KeepAnchor);
     ponerMarcas();
 }
 
@@ -125,7 +125,7 @@ void EditorCodigo::ponerMarcas() {
         marcas.append(marca);
     };
     lineaEntera(textCursor(), colores().lineaActual);
-    if (conFallo_)
+    if (fallo_.hasSelection())
         lineaEntera(fallo_, colores().lineaError);
     ponerParejas(marcas);
     if (error_.hasSelection()) {
@@ -271,7 +271,7 @@ void EditorCodigo::pintarMargen(QPaintEvent& evento) {
     const int derecha = margen_->width() - fontMetrics().horizontalAdvance(u'9');
     qreal y = blockBoundingGeometry(firstVisibleBlock()).translated(contentOffset()).top();
     for (QTextBlock linea = firstVisibleBlock(); linea.isValid() && y <= evento.rect().bottom(); linea = linea.next()) {
-        const bool fallida = conFallo_ && fallo_.blockNumber() == linea.blockNumber();
+        const bool fallida = lineaFallo() == linea.blockNumber() + 1;
         const bool actual = textCursor().blockNumber() == linea.blockNumber();
         pintor.setPen(fallida ? colores().error : actual ? palette().color(QPalette::Text) : colores().numeroLinea);
         pintor.drawText(QRectF(0, y, derecha, fontMetrics().height()), Qt::AlignRight,

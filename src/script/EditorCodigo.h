@@ -34,7 +34,7 @@ public:
     void marcarFallo(int linea);
 
     // Where that mark stands now, from 1; 0: nowhere.
-    int lineaFallo() const { return conFallo_ ? fallo_.blockNumber() + 1 : 0; }
+    int lineaFallo() const { return fallo_.hasSelection() ? fallo_.blockNumber() + 1 : 0; }
 
     // Puts the text cursor there, in sight; line and column from 1, beyond the text its end.
     void irA(int linea, int columna);
@@ -73,8 +73,7 @@ private:
     CompletadorCodigo* completador_;
     QWidget* margen_;
     QTextCursor error_; // its selection is underlined; without one: no error
-    QTextCursor fallo_; // in the line marked
-    bool conFallo_ = false;
-    QString patron_; // whose occurrences are marked
+    QTextCursor fallo_; // its selection is the line marked, from its end to its beginning; without one: none
+    QString patron_;    // whose occurrences are marked
     Qt::CaseSensitivity cajaPatron_ = Qt::CaseInsensitive;
 };

@@ -419,6 +419,18 @@ private Q_SLOTS:
         QCOMPARE(lineaMarcada(), 0);
     }
 
+    void markOfTheFailureGoesWithTheTextOfItsLine() {
+        e_->ponerTexto(QStringLiteral("a\nb = 1 / 0\nc"));
+        e_->marcarFallo(2);
+        e_->irA(2, 1);
+        teclas(QStringLiteral("x"));
+        QCOMPARE(lineaMarcada(), 2);
+        QTest::keyClick(e_.get(), Qt::Key_A, Qt::ControlModifier);
+        teclas(QStringLiteral("d\ne"));
+        QCOMPARE(lineaMarcada(), 0);
+        QCOMPARE(e_->lineaFallo(), 0);
+    }
+
     void replacingAllIsOneStepToUndo() {
         e_->ponerTexto(QStringLiteral("a b A\na"));
         QCOMPARE(e_->reemplazarTodo(QStringLiteral("a"), QStringLiteral("xx"), Qt::CaseInsensitive), 3);
