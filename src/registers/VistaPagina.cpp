@@ -2,6 +2,7 @@
 
 #include "platform/grid/MSFlexGrid.h"
 #include "platform/window/Controles.h"
+#include "platform/window/PaginaManual.h"
 #include "registers/MarcoControles.h"
 
 #include <QCheckBox>
@@ -80,6 +81,7 @@ QWidget* VistaPagina::crearMarco() {
     auto* marco = new MarcoControles(QStringLiteral("Controles de #%1").arg(numero()),
                                      {recibir, responder, recibirEscrituras, responderEscrituras});
     nombrar(marco, "FrameControles", QStringLiteral("Controles de #%1"));
+    ponerPaginaManual(*marco, "cuadricula.md#las-casillas-de-un-esclavo");
     return marco;
 }
 

@@ -1,6 +1,7 @@
 #include "script/PanelEjecucion.h"
 
 #include "platform/window/Controles.h"
+#include "platform/window/PaginaManual.h"
 #include "script/ConsolaScript.h"
 #include "script/ResumenValor.h"
 
@@ -62,6 +63,7 @@ QWidget* PanelEjecucion::crearVariables() {
 
 QWidget* PanelEjecucion::crearConsola() {
     auto* parte = new QWidget(this);
+    ponerPaginaManual(*parte, "scripts.md#la-consola");
     auto* rotulo = new QLabel(QStringLiteral("Consola (WScript.Echo)"), parte);
     auto* borrar = crearBoton(parte, "btnBorrarConsola", QStringLiteral("Borrar &consola"));
     connect(borrar, &QPushButton::clicked, this, &PanelEjecucion::borrarConsola);

@@ -197,16 +197,24 @@ private Q_SLOTS:
         PrincipalDePrueba p;
         QVERIFY(p.cargar());
         TodasLasVentanas::activar(*p.ventana);
-        const std::map<const char*, const char*> esperadas{{"MSFlexGrid(1)", "cuadricula.md"},
-                                                           {"txtTramas(1)", "monitores.md#tramas"},
-                                                           {"txtEscrituras", "monitores.md#escrituras"},
-                                                           {"chScript", "scripts.md#las-pasadas"},
-                                                           {"BarraEstado", "estado.md"}};
+        const std::map<const char*, const char*> esperadas{
+            {"MSFlexGrid(1)", "cuadricula.md"},      {"ChResponder(1)", "cuadricula.md#las-casillas-de-un-esclavo"},
+            {"txtTramas(1)", "monitores.md#tramas"}, {"txtEscrituras", "monitores.md#escrituras"},
+            {"chScript", "scripts.md#las-pasadas"},  {"BarraEstado", "estado.md"}};
         for (const auto& [nombre, esperada] : esperadas) {
             QTest::keyClick(&p.control<QWidget>(nombre), Qt::Key_F1);
             QVERIFY2(manual() != nullptr, nombre);
             QCOMPARE(lugar(), QString::fromUtf8(esperada));
         }
+    }
+
+    void f1OnTheConsoleTellsOfTheConsole() {
+        TodasLasVentanas p;
+        for (const auto& una : p.todas)
+            if (auto* consola = una.ventana->findChild<QWidget*>(QStringLiteral("txtConsola")))
+                QTest::keyClick(consola, Qt::Key_F1);
+        QVERIFY(manual() != nullptr);
+        QCOMPARE(lugar(), QStringLiteral("scripts.md#la-consola"));
     }
 
     void f1OpensItAboveABoxThatWaits() {
