@@ -10,6 +10,7 @@
 #include <QTest>
 #include <QTimer>
 #include <QVBoxLayout>
+#include <QWindow>
 
 #include <array>
 #include <memory>
@@ -43,7 +44,7 @@ class TestBarraScript : public QObject {
     Q_OBJECT
 
     void dejarPintar(const std::function<bool()>& condicion) {
-        for (int vez = 0; vez < 200 && !condicion(); ++vez) {
+        for (int vez = 0; vez < 12'000 && !condicion(); ++vez) {
             barra_->atender(3s);
             QTest::qSleep(5);
         }
@@ -88,6 +89,15 @@ private Q_SLOTS:
             hecho = true;
         });
         dejarPintar([&] { return hecho; });
+        QCOMPARE(paradas_, 1);
+    }
+
+    void itsKeyStopsWhereverTheFocusIs() {
+        ventana_->activateWindow();
+        QTRY_COMPARE(QApplication::activeWindow(), ventana_.get());
+        otro_->setFocus();
+        const AlPintarse vigia(*barra_, [&] { QTest::keyClick(ventana_->windowHandle(), Qt::Key_P, Qt::AltModifier); });
+        dejarPintar([&] { return paradas_ > 0; }); // the button stays down for a moment
         QCOMPARE(paradas_, 1);
     }
 
