@@ -44,7 +44,7 @@ inline constexpr Clave periodoDelEditor{
 inline constexpr Clave puertoSerie{.nombre = "RS232_NomCOM",
                                    .porDefecto = "1",
                                    .significado = "número de puerto serie",
-                                   .cuandoVale = "con \"Abrir Puerto\"",
+                                   .cuandoVale = "con \"Abrir Puerto\", si está cerrado",
                                    .lector = "serial/Modulo_RS232"};
 
 inline constexpr Clave baudios{.nombre = "RS232_Baudios",
@@ -80,13 +80,13 @@ inline constexpr Clave validez{.nombre = "RS232_Cant_Intervalos_Validez",
 inline constexpr Clave finDeTrama1{.nombre = "Caracter_Fin_TRAMA_1",
                                    .porDefecto = "10",
                                    .significado = "código del primer carácter de fin de trama",
-                                   .cuandoVale = "al arrancar",
+                                   .cuandoVale = "al abrir \"RS232\" por primera vez",
                                    .lector = "serial/Modulo_RS232"};
 
 inline constexpr Clave finDeTrama2{.nombre = "Caracter_Fin_TRAMA_2",
                                    .porDefecto = "13",
                                    .significado = "código del segundo carácter de fin de trama",
-                                   .cuandoVale = "al arrancar",
+                                   .cuandoVale = "al abrir \"RS232\" por primera vez",
                                    .lector = "serial/Modulo_RS232"};
 
 inline constexpr Clave rutaProyecto{
