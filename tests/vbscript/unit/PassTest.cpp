@@ -254,4 +254,14 @@ TEST_F(PassTest, aTextOfFiveMegabytesCompiles) {
     EXPECT_TRUE(control.check(text)) << control.error().number << " at " << control.error().line;
 }
 
+// A text may come before the one that makes its values run code; when it comes back it knows.
+TEST_F(PassTest, aTextRunAgainReckonsWithTheDefaultMembersOfALaterOne) {
+    constexpr const char* sums = "g = 1\nIf IsObject(o) Then If g + Len(o) <> 2 Then Err.Raise 77";
+    EXPECT_TRUE(control.addCode("Dim o"));
+    EXPECT_TRUE(control.addCode(sums));
+    EXPECT_TRUE(control.addCode("Class C\nPublic Default Property Get V\ng = g + 1\nV = 1\nEnd Property\nEnd Class\n"
+                                "Set o = New C"));
+    EXPECT_TRUE(control.addCode(sums)) << control.error().number;
+}
+
 } // namespace

@@ -71,6 +71,7 @@ enum class Store : std::uint8_t { Raw = 0, Let = 1, Set = 2, Discard = 3 };
     OP(Not)                                                                                                            \
     OP(Join)       /* A = texts B, B+1 ... (X of them) in a row */                                                     \
     OP(Append)     /* A = A & texts B, B+1 ... (X of them) */                                                          \
+    OP(Settle)     /* values A, A+1 ... (X of them) become what & makes of them */                                     \
     OP(Jump)       /* J */                                                                                             \
     OP(JumpIf)     /* A: J */                                                                                          \
     OP(JumpUnless) /* A: J */                                                                                          \
@@ -92,6 +93,7 @@ enum class Store : std::uint8_t { Raw = 0, Let = 1, Set = 2, Discard = 3 };
     OP(UnlessBoth)                                                                                                     \
     OP(JumpNothing) /* A Is B, which is the constant Nothing: J */                                                     \
     OP(UnlessNothing)                                                                                                  \
+    OP(JumpByValue)    /* A: J, unless it holds code of a script, which takes its arguments by reference */            \
     OP(Back)           /* J, at the end of a loop: polls */                                                            \
     OP(ForPrepare)     /* A variable, B limit, B+1 step, B+2 start; J past the loop if it does not run */              \
     OP(ForLoop)        /* A variable, B limit, B+1 step; J to the body while it runs */                                \

@@ -5,6 +5,7 @@
 #include "platform/vbscript/value/Library.h"
 
 #include <optional>
+#include <span>
 #include <string_view>
 #include <unordered_map>
 #include <unordered_set>
@@ -48,7 +49,8 @@ public:
     // The global slot of a name; the error for too many of them stands at `at`, or where the name is declared.
     std::uint32_t slotOf(Symbol symbol);
     std::uint32_t slotOf(Symbol symbol, Position declared);
-    Position at{1, 1}; // of what is being compiled
+    Position at{1, 1};         // of what is being compiled
+    bool valuesRunCode = true; // a default member may be code of a script
     // The procedure or class is no global: only this text and its scope know it.
     void keepLocal(Symbol symbol, Callable* callable) { local_[symbol] = callable; }
     // The name will be a global variable because the main text assigns it.
@@ -76,6 +78,13 @@ private:
     std::unordered_set<Symbol> passed_; // of those
     std::unordered_map<Symbol, Callable*> local_;
 };
+
+inline const Expr* withoutParentheses(const Expr* e) noexcept {
+    while (e->kind == Expr::Kind::Parentheses) {
+        e = e->a;
+    }
+    return e;
+}
 
 class CodeGen {
 public:
@@ -139,9 +148,15 @@ private:
     bool joinTo(const Expr* e, Operand to);
     void memberTo(const Expr* e, Operand to, Store store);
     void newTo(const Expr* e, Operand to, Store store);
-    Operand leftOperand(const Expr* left, const Expr* right);
+    Operand leftOperand(const Expr* left, const Expr* right, Store store = Store::Raw);
     bool mayChange(const Expr* variable, const Expr* by);
     bool runsUserCode(const Expr* e);
+    bool mayBeObject(const Expr* e);
+    bool isPlainValue(const Expr* e);
+    bool standsApart(const Resolved& r) const;
+    bool mayChangeAsValue(const Expr* variable, const Expr* value);
+    bool seesConversions(const Expr* part);
+    void rowTo(std::span<const Expr* const> parts, std::size_t before);
     bool passesName(const Expr* e, Symbol symbol);
     std::optional<Operand> plainVariable(const Expr* e);
     Operand withObject();
@@ -152,6 +167,10 @@ private:
     // calls
     void callTo(const Expr* e, Operand to, Store store);
     void callNameTo(const Expr* e, const Resolved& callee, Operand to, Store store);
+    void indexOrCallTo(const Expr* e, const Resolved& callee, Operand to, Store store);
+    bool mayTakeReferences(const Expr* e);
+    int callInsteadTo(const Expr* e, const Resolved& callee, Operand to, Store store, Label& end);
+    void callUnknownTo(const Expr* e, const Resolved& callee, Operand to, Store store);
     void indexTo(Operand base, const std::vector<Expr*>& args, Operand to, Store store);
     void intrinsicTo(const Expr* e, const Builtin& builtin, Operand to, Store store);
     void emitIntrinsic(const Expr* e, const Builtin& builtin, std::size_t count, Operand to, Store store);
@@ -238,6 +257,7 @@ private:
     Label exit_;
     std::vector<std::pair<const Expr*, Operand>> localConstants_;
     bool markOpen_ = false;
+    int callsInArguments_ = 0; // through variables, one inside the other
 };
 
 } // namespace vbs

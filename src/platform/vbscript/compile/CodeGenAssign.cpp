@@ -177,12 +177,12 @@ void CodeGen::storeElement(Operand base, const std::vector<Expr*>& args, const E
     const bool missing =
         std::any_of(args.begin(), args.end(), [](const Expr* e) { return e->kind == Expr::Kind::Missing; });
     if (args.size() == 1 && !missing) {
-        const Operand index = leftOperand(args[0], value);
+        const Operand index = leftOperand(args[0], value, store);
         const Operand from = expr(value);
         emit(encode(Opcode::SetIndex, base, index, from, packed(0, store)));
     } else if (args.size() == 2 && !missing) {
-        const Operand i = leftOperand(args[0], value);
-        const Operand j = leftOperand(args[1], value);
+        const Operand i = leftOperand(args[0], mayChange(args[0], args[1]) ? args[1] : value, store);
+        const Operand j = leftOperand(args[1], value, store);
         const Operand from = expr(value);
         emit(encode(Opcode::SetIndex2, base, i, j, packed(0, store)));
         emit(from);

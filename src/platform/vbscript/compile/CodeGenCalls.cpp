@@ -1,18 +1,9 @@
-// Code for calls and indexing. Arguments lie in neighbouring temporaries, which become the first registers of the
-// callee.
+// Code for calls and indexing; the arguments of calls stand in CodeGenArguments.cpp.
 #include "platform/vbscript/compile/CodeGen.h"
 
 #include <algorithm>
 
 namespace vbs {
-
-namespace {
-
-Operand nextTo(Operand o, std::size_t by) noexcept {
-    return operandOf(placeOf(o), indexOf(o) + by);
-}
-
-} // namespace
 
 // The member of the class around that `Me.name` means, or null.
 const ClassMember* CodeGen::ownMember(const Expr* e) {
@@ -59,13 +50,57 @@ void CodeGen::callNameTo(const Expr* e, const Resolved& callee, Operand to, Stor
     case Kind::Variable:
     case Kind::Constant:
         if (store != Store::Discard && !e->args.empty() && e->args.size() <= maxPacked) {
-            indexTo(callee.operand, e->args, to, store);
+            indexOrCallTo(e, callee, to, store);
             return;
         }
         break;
     default:
         break;
     }
+    callUnknownTo(e, callee, to, store);
+}
+
+// Whether the variable e->a may hold code of the script, as an object or a reference, which gets what can be assigned
+// by reference as a procedure does.
+bool CodeGen::mayTakeReferences(const Expr* e) {
+    const auto goesByReference = [](const Expr* argument) {
+        return argument->kind == Expr::Kind::Name || argument->kind == Expr::Kind::Call;
+    };
+    return mayBeObject(e->a) && !isFixedArray(e->a->symbol) &&
+           std::any_of(e->args.begin(), e->args.end(), goesByReference);
+}
+
+// An index on a variable, or a call of what it holds: made both ways. In the arguments of others that ends somewhere.
+void CodeGen::indexOrCallTo(const Expr* e, const Resolved& callee, Operand to, Store store) {
+    Label end;
+    const int made = callInsteadTo(e, callee, to, store, end);
+    callsInArguments_ += made;
+    indexTo(callee.operand, e->args, to, store);
+    callsInArguments_ -= made;
+    bind(end);
+}
+
+// The call, which goes on at `end`, for when the variable asks for one. Answers how many were made: one or none.
+int CodeGen::callInsteadTo(const Expr* e, const Resolved& callee, Operand to, Store store, Label& end) {
+    constexpr int deepest = 3;
+    if (callsInArguments_ == deepest || !mayTakeReferences(e)) {
+        return 0;
+    }
+    ++callsInArguments_;
+    Label byValue;
+    emitJump(Opcode::JumpByValue, callee.operand, 0, byValue);
+    const std::size_t mark = temporary_;
+    callUnknownTo(e, callee, to, store);
+    temporary_ = mark;
+    emitJump(Opcode::Jump, 0, 0, end);
+    bind(byValue);
+    --callsInArguments_;
+    return 1;
+}
+
+// A call of what is known, if at all, by the time it runs.
+void CodeGen::callUnknownTo(const Expr* e, const Resolved& callee, Operand to, Store store) {
+    using Kind = Resolved::Kind;
     const Operand called = callee.kind == Kind::Unknown ? unresolved(callee) : callee.operand;
     const std::size_t count = e->args.size();
     const Prepared prepared =
@@ -209,108 +244,6 @@ void CodeGen::callSelfTo(const Procedure* procedure, const std::vector<Expr*>& a
     const Prepared prepared = arguments(args, nullptr, Passing::Unknown);
     emitCall(Opcode::CallSelf, to, prepared.first, selfCall(procedure), args.size(), store);
     copyBack(prepared);
-}
-
-// Evaluates arguments into neighbouring temporaries. A variable goes by reference; an element of an array goes through
-// a holder that is written back after the call.
-CodeGen::Prepared CodeGen::arguments(const std::vector<Expr*>& args, const Resolved* callee, Passing passing) {
-    Prepared prepared;
-    for (std::size_t i = 0; i < args.size(); ++i) {
-        if (needsCopyBack(args[i], i, callee, passing)) {
-            const Operand holder = newTemporary();
-            const Operand first = operandOf(Place::Frame, temporary_);
-            contiguous(args[i]->args);
-            prepared.copyBacks.push_back({args[i], holder, first});
-            const std::size_t mark = temporary_;
-            const Operand indexes = operandOf(Place::Frame, temporary_);
-            for (std::size_t k = 0; k < args[i]->args.size(); ++k) {
-                emit(encode(Opcode::Copy, newTemporary(), nextTo(first, k))); // the originals wait for the way home
-            }
-            emit(encode(Opcode::IndexN, holder, *plainVariable(args[i]->a), indexes,
-                        packed(args[i]->args.size(), Store::Raw)));
-            temporary_ = mark;
-        }
-    }
-    prepared.first = operandOf(Place::Frame, temporary_);
-    std::size_t next = 0;
-    for (std::size_t i = 0; i < args.size(); ++i) {
-        const Operand place = newTemporary();
-        if (next < prepared.copyBacks.size() && prepared.copyBacks[next].element == args[i]) {
-            emit(encode(Opcode::Reference, place, prepared.copyBacks[next].holder));
-            ++next;
-        } else {
-            argumentTo(args[i], place, passing == Passing::Values || passedByValue(args, i, callee));
-        }
-    }
-    if (args.empty()) {
-        newTemporary();
-    }
-    return prepared;
-}
-
-void CodeGen::argumentTo(const Expr* e, Operand to, bool byValue) {
-    if (!byValue && e->kind == Expr::Kind::Name) {
-        const Resolved r = resolve(e->symbol);
-        if (r.late) {
-            const std::size_t mark = temporary_;
-            lateTo(r, to);
-            temporary_ = mark;
-            return;
-        }
-        if (r.kind == Resolved::Kind::Variable || r.passed) {
-            emit(encode(Opcode::Reference, to, r.operand));
-            if (r.passed) {
-                const std::size_t mark = temporary_;
-                emit(encode(Opcode::GetName, to, newTemporary(), to, packed(1, Store::Raw)));
-                temporary_ = mark;
-            }
-            return;
-        }
-    }
-    exprTo(e, to, Store::Raw);
-}
-
-// A known callee tells which parameters it never assigns: a plain local variable may then go as a value.
-bool CodeGen::passedByValue(const std::vector<Expr*>& args, std::size_t i, const Resolved* callee) {
-    const Expr* argument = args[i];
-    if (argument->kind != Expr::Kind::Name || callee == nullptr || callee->kind != Resolved::Kind::Callable ||
-        callee->procedure == nullptr || i >= callee->procedure->parameters.size()) {
-        return false;
-    }
-    if (callee->procedure->parameters[i].byValue) {
-        return true;
-    }
-    const Resolved r = resolve(argument->symbol);
-    const bool local = r.kind == Resolved::Kind::Variable && placeOf(r.operand) == Place::Frame;
-    const auto same = std::count_if(args.begin(), args.end(), [argument](const Expr* other) {
-        return other->kind == Expr::Kind::Name && other->symbol == argument->symbol;
-    });
-    return local && !r.mayRefer && same == 1 && !decl_.dynamicScope && !scope_.writesParameter(*callee->procedure, i);
-}
-
-bool CodeGen::needsCopyBack(const Expr* e, std::size_t i, const Resolved* callee, Passing passing) {
-    if (passing == Passing::Values || e->kind != Expr::Kind::Call || e->a->kind != Expr::Kind::Name ||
-        e->args.empty()) {
-        return false;
-    }
-    const Resolved base = resolveCallee(e->a->symbol);
-    if (base.kind != Resolved::Kind::Variable) {
-        return false;
-    }
-    if (callee != nullptr && callee->procedure != nullptr && i < callee->procedure->parameters.size()) {
-        return !callee->procedure->parameters[i].byValue && scope_.writesParameter(*callee->procedure, i);
-    }
-    return callee == nullptr || callee->kind == Resolved::Kind::Unknown || callee->kind == Resolved::Kind::Callable ||
-           callee->kind == Resolved::Kind::Variable;
-}
-
-void CodeGen::copyBack(const Prepared& prepared) {
-    for (const CopyBack& back : prepared.copyBacks) {
-        const Operand base = *plainVariable(back.element->a);
-        // X with Store::Discard: do nothing where the base is no array.
-        emit(encode(Opcode::SetIndexN, base, back.first, back.holder,
-                    packed(back.element->args.size(), Store::Discard)));
-    }
 }
 
 } // namespace vbs

@@ -74,13 +74,6 @@ std::optional<Opcode> jumpOf(const Expr& e, Opcode equal) noexcept {
     return static_cast<Opcode>(static_cast<int>(equal) + index);
 }
 
-const Expr* withoutParentheses(const Expr* e) noexcept {
-    while (e->kind == Expr::Kind::Parentheses) {
-        e = e->a;
-    }
-    return e;
-}
-
 } // namespace
 
 // The operand of a variable or constant that can be read in place.
@@ -249,76 +242,14 @@ bool CodeGen::joinTo(const Expr* e, Operand to) {
         return false;
     }
     const auto target = plainVariable(parts[0]);
-    const bool grows = target == to && std::none_of(parts.begin() + 1, parts.end(),
-                                                    [&](const Expr* part) { return mayChange(parts[0], part); });
+    const bool grows = target == to && std::none_of(parts.begin() + 1, parts.end(), [&](const Expr* part) {
+                           return mayChange(parts[0], part) || mayChangeAsValue(parts[0], part);
+                       });
     const Operand start = operandOf(Place::Frame, temporary_);
-    std::size_t count = 0;
-    for (const Expr* part : parts) {
-        if (!grows || part != parts[0]) {
-            const Operand place = newTemporary();
-            exprTo(part, place, Store::Raw);
-            ++count;
-        }
-    }
+    const std::size_t count = parts.size() - (grows ? 1 : 0);
+    rowTo(std::span(parts).last(count), parts.size() - count);
     emit(encode(grows ? Opcode::Append : Opcode::Join, to, start, 0, packed(count, Store::Raw)));
     return true;
-}
-
-// The left operand; a variable that evaluating the right side may change is copied first.
-Operand CodeGen::leftOperand(const Expr* left, const Expr* right) {
-    const Expr* plain = withoutParentheses(left);
-    if (plain->kind == Expr::Kind::Name && mayChange(plain, right)) {
-        const Operand copy = newTemporary();
-        exprTo(plain, copy, Store::Raw);
-        return copy;
-    }
-    return expr(left);
-}
-
-bool CodeGen::mayChange(const Expr* variable, const Expr* by) {
-    if (!by->calls) {
-        return false;
-    }
-    const Resolved r = resolve(variable->symbol);
-    if (r.kind == Resolved::Kind::Constant) {
-        return false;
-    }
-    if (r.kind == Resolved::Kind::Variable && placeOf(r.operand) == Place::Frame && !r.mayRefer && !r.late &&
-        !decl_.dynamicScope) {
-        return passesName(by, variable->symbol);
-    }
-    return runsUserCode(by);
-}
-
-// Whether code of the script may run while `e` is evaluated.
-bool CodeGen::runsUserCode(const Expr* e) {
-    if (e == nullptr || !e->calls) {
-        return false;
-    }
-    if (e->kind == Expr::Kind::Name) {
-        const Resolved r = resolve(e->symbol);
-        return r.kind != Resolved::Kind::Variable && r.kind != Resolved::Kind::Constant &&
-               r.kind != Resolved::Kind::Intrinsic;
-    }
-    if (e->kind == Expr::Kind::Member || e->kind == Expr::Kind::New) {
-        return true;
-    }
-    const auto runs = [this](const Expr* part) { return runsUserCode(part); };
-    return runs(e->a) || runs(e->b) || std::any_of(e->args.begin(), e->args.end(), runs);
-}
-
-// Whether `e` hands the variable itself to a call.
-bool CodeGen::passesName(const Expr* e, Symbol symbol) {
-    if (e == nullptr || !e->calls) {
-        return false;
-    }
-    const auto passes = [this, symbol](const Expr* part) { return passesName(part, symbol); };
-    for (const Expr* argument : e->args) {
-        if (argument->kind == Expr::Kind::Name && argument->symbol == symbol && runsUserCode(e->a)) {
-            return true;
-        }
-    }
-    return passes(e->a) || passes(e->b) || std::any_of(e->args.begin(), e->args.end(), passes);
 }
 
 void CodeGen::jumpUnless(const Expr* condition, Label& label) {

@@ -247,6 +247,7 @@ std::unique_ptr<Unit> Compiler::compileUnit(std::u16string_view text) {
     Parser parser(text, symbols_, host_.now().year);
     const std::unique_ptr<Ast> ast = parser.parse();
     UnitScope scope(*ast, symbols_, globals_, library_, *unit);
+    scope.valuesRunCode = valuesRunCode_ = valuesRunCode_ || ast->valuesRunCode;
     declareGlobals(scope);
     compileDeclarations(scope, Reach::Global);
     CodeGen(scope, ast->main, unit->main, nullptr).generate();

@@ -30,6 +30,9 @@ public:
     std::unique_ptr<Unit> compile(std::u16string_view text);
     // Throws what compile() would; nothing stays of the text.
     void check(std::u16string_view text);
+    // Whether some text may have made objects whose default member is code of a script. While none has, nothing that
+    // is used as a value can change a variable, and code is compiled accordingly.
+    bool valuesRunCode() const noexcept { return valuesRunCode_; }
     // Execute inside a procedure. `created` receives the variables that the text makes in the local scope; their
     // references follow those of `scope.names`. Its constants and procedures stand in the unit.
     Unit* compileLocal(std::u16string_view text, const LocalScope& scope, std::vector<Symbol>& created);
@@ -43,6 +46,7 @@ private:
     Globals& globals_;
     const Library& library_;
     Host& host_;
+    bool valuesRunCode_ = false;
 };
 
 } // namespace vbs

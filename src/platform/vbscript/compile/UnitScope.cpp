@@ -105,11 +105,11 @@ bool UnitScope::mayWriteArgument(const ProcedureDecl& caller, std::size_t caller
     const auto named = [&passed](const auto& entry) { return entry.name == passed.callee; };
     if (std::any_of(caller.parameters.begin(), caller.parameters.end(), named) ||
         std::any_of(caller.variables.begin(), caller.variables.end(), named)) {
-        return false; // an array that is indexed
+        return valuesRunCode; // an array that is indexed, or a reference to a procedure
     }
     const Resolved callee = resolve(passed.callee);
     if (callee.kind == Resolved::Kind::Intrinsic || callee.kind == Resolved::Kind::Variable) {
-        return false;
+        return valuesRunCode && callee.kind == Resolved::Kind::Variable;
     }
     if (callee.procedure == nullptr || passed.index >= callee.procedure->parameters.size()) {
         return true;

@@ -162,6 +162,7 @@ private:
     void setInto(Value& target, Operand from);
     void concatenateInto(Instruction instruction);
     void join(Instruction instruction, bool append);
+    void settleTexts(Value* parts, std::size_t count);
     bool forPrepare(Value& variable, Value* limits);
     bool forStep(Value& variable, Value* limits);
     void eachPrepare(Instruction instruction);

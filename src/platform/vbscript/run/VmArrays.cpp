@@ -78,6 +78,13 @@ std::vector<Value> copied(std::span<Value* const> indexes) {
 
 // The indexes as numbers; default members may run.
 void Vm::indexNumbers(std::span<Value* const> indexes, std::int32_t* numbers) {
+    const auto isObject = [](const Value* index) { return index->deref().isObject(); };
+    if (indexes.size() > 1 && std::any_of(indexes.begin(), indexes.end(), isObject)) {
+        for (const Value& index : copied(indexes)) { // as they are now: a default member may change the next one
+            *numbers++ = toLong(*this, index);
+        }
+        return;
+    }
     for (const Value* index : indexes) {
         *numbers++ = toLong(*this, *index);
     }

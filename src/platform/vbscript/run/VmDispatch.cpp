@@ -349,9 +349,20 @@ labelJoin:
 labelAppend:
     SLOW(join(I, true));
 
+labelSettle:
+    SLOW(settleTexts(&R(A), X & 63));
+
 labelJump:
     pc += J;
     NEXT;
+
+labelJumpByValue : {
+    const Value& callee = R(A).deref();
+    if (!callee.isObject() || callee.object() == nullptr || callee.object()->role == Object::Role::Native) {
+        pc += J;
+    }
+    NEXT;
+}
 
 labelBack:
     TAKE_JUMP

@@ -197,9 +197,7 @@ void Vm::assignMember(Object* object, MemberSite& site, Value* first, std::size_
     }
     const Procedure* procedure = set ? member.set : member.let;
     if (procedure == nullptr) {
-        // A property that hands out an object or array may still be assigned through.
-        const bool through = !set && count != 0 && readerOf(member) != nullptr;
-        raise(through ? ErrorNumber::WrongArgumentCount : ErrorNumber::MemberNotFound, symbols_.name(site.symbol));
+        raise(ErrorNumber::MemberNotFound, symbols_.name(site.symbol));
     }
     pushFrame(procedure, first, count + 1, &instance, nullptr, Store::Discard);
 }

@@ -214,10 +214,11 @@ void Vm::concatenateInto(Instruction instruction) {
         if (y.isString()) {
             appendTo(x, y.text());
         } else {
+            const Value before = y.isObject() ? shared(x) : Value(); // its default member may change the variable
             const Value tail = withoutObject(*this, y);
             const String text = tail.isNull() ? String() : toString(*this, tail);
-            if (!x.isString()) {
-                x = concatenate(*this, x, Value::ofString(text)); // the default member changed the variable
+            if (y.isObject()) {
+                x = concatenate(*this, before, Value::ofString(text));
             } else {
                 appendTo(x, text.view());
             }
@@ -229,6 +230,16 @@ void Vm::concatenateInto(Instruction instruction) {
     consume(b);
     consume(c);
     at(a) = std::move(result);
+}
+
+// What & makes of a value: a text, or Null.
+void Vm::settleTexts(Value* parts, std::size_t count) {
+    for (std::size_t i = 0; i < count; ++i) {
+        if (!parts[i].isString()) {
+            const Value plain = withoutObject(*this, parts[i]);
+            parts[i] = plain.isNull() ? plain : Value::ofString(toString(*this, plain));
+        }
+    }
 }
 
 // A row of texts made one; with `append` it goes onto the variable that takes the result.

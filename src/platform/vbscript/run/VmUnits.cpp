@@ -43,8 +43,12 @@ Unit* Vm::unitOf(std::u16string_view text) {
 std::unique_ptr<Unit> Vm::compiled(std::u16string_view text) {
     constexpr std::size_t maxRefused = 8;
     try {
+        const bool before = compiler_.valuesRunCode();
         std::unique_ptr<Unit> unit = compiler_.compile(text);
         unit->text = text;
+        if (compiler_.valuesRunCode() != before) {
+            forgetCache(nullptr); // those texts were compiled without a thought of default members
+        }
         return unit;
     } catch (const CompileError& failure) {
         if (failure.number == ErrorNumber::TooManyNames || failure.number == ErrorNumber::OutOfMemoryCompiling) {

@@ -233,6 +233,7 @@ struct ProcedureDecl {
     std::vector<Passed> passed;          // names that stand alone as arguments
     std::vector<Symbol> mentioned;       // every name
     std::vector<Symbol> called;          // names that are called or indexed
+    std::vector<Symbol> objects;         // names that Set or For Each assign
     bool resumesNext = false;            // contains On Error Resume Next
     std::uint32_t hiddenSlots = 0;       // deepest nesting of statements, in slots for their bookkeeping
     bool dynamicScope = false;           // uses Execute or Eval: names may come from text at run time
@@ -273,6 +274,7 @@ struct Ast {
     Ast& operator=(const Ast&) = delete;
 
     bool optionExplicit = false;
+    bool valuesRunCode = false; // it may make objects whose default member is code of a script
     ProcedureDecl main;
     std::vector<ProcedureDecl*> procedures;
     std::vector<ClassDecl*> classes;

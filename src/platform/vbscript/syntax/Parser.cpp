@@ -6,7 +6,9 @@
 namespace vbs {
 
 Parser::Parser(std::u16string_view text, SymbolTable& symbols, int thisYear)
-    : lexer_(text, thisYear), symbols_(symbols), execute_(symbols.intern(u"execute")), eval_(symbols.intern(u"eval")) {
+    : lexer_(text, thisYear), symbols_(symbols), execute_(symbols.intern(u"execute")),
+      executeGlobal_(symbols.intern(u"executeglobal")), eval_(symbols.intern(u"eval")),
+      getRef_(symbols.intern(u"getref")) {
     procedure_ = &ast_->main;
     procedure_->kind = ProcedureDecl::Kind::Main;
 }

@@ -116,6 +116,7 @@ private:
     Expr* binary(BinaryOp op, Position at, Expr* left, Expr* right);
     Expr* call(Expr* callee, std::vector<Expr*> arguments, Position at);
     Expr* member(Expr* object, Position at);
+    Expr* me(Position at);
     Expr* nameExpr(Position at);
     static Expr* grouped(Expr* e) noexcept;
     static void setHeight(Expr& e);
@@ -148,6 +149,7 @@ private:
     Stmt* parseErase();
     Stmt* parseOnError();
     void noteAssigned(const Expr* target);
+    void noteObject(const Expr* target);
 
     // declarations
     void parseTopLevel();
@@ -180,7 +182,9 @@ private:
     int withs_ = 0;
     std::vector<Symbol> counters_;
     Symbol execute_;
+    Symbol executeGlobal_;
     Symbol eval_;
+    Symbol getRef_;
 };
 
 } // namespace vbs

@@ -139,6 +139,7 @@ Stmt* Parser::parseForEach(Position at) {
     statement->target->symbol = takeName();
     const Counter counter(*this, *statement->target);
     noteAssigned(statement->target);
+    noteObject(statement->target);
     expect(Word::In, ErrorNumber::ExpectedIn);
     statement->value = parseExpr();
     endStatement();

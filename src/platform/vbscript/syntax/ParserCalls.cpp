@@ -16,6 +16,13 @@ void Parser::noteAssigned(const Expr* target) {
     }
 }
 
+// A variable that may hold an object from here on.
+void Parser::noteObject(const Expr* target) {
+    if (target->kind == Expr::Kind::Name) {
+        procedure_->objects.push_back(target->symbol);
+    }
+}
+
 // assignment: target = expr        call: target [expr] { , [expr] }
 Stmt* Parser::parseAssignOrCall() {
     const Position at = here();
@@ -133,6 +140,7 @@ Stmt* Parser::parseSet() {
         fail(ErrorNumber::InvalidMe, statement->target->at);
     }
     noteAssigned(statement->target);
+    noteObject(statement->target);
     expect(Sign::Equal, ErrorNumber::ExpectedEqual);
     statement->value = parseExpr();
     return statement;

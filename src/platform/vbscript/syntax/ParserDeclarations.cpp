@@ -281,6 +281,7 @@ void Parser::parseClassMember(ClassDecl& decl) {
         decl.members.push_back(procedure);
         decl.memberNames.emplace(procedure->name, procedure);
         decl.hasDefault = decl.hasDefault || isDefault;
+        ast_->valuesRunCode = ast_->valuesRunCode || isDefault;
         return;
     }
     if (isDefault) {

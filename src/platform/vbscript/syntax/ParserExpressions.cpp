@@ -164,7 +164,7 @@ Expr* Parser::parseAtom() {
     case Word::Nothing:
         return literal(Value::nothing());
     case Word::Me:
-        return ast_->expr(Expr::Kind::Me, at);
+        return me(at);
     case Word::New: {
         Expr* e = ast_->expr(Expr::Kind::New, at);
         e->symbol = takeName();
@@ -219,6 +219,12 @@ Expr* Parser::literal(Value value) {
     return e;
 }
 
+Expr* Parser::me(Position at) {
+    Expr* e = ast_->expr(Expr::Kind::Me, at);
+    e->calls = true; // its default member, where a value is wanted
+    return e;
+}
+
 Expr* Parser::nameExpr(Position at) {
     Expr* e = ast_->expr(Expr::Kind::Name, at);
     e->symbol = takeName();
@@ -226,6 +232,9 @@ Expr* Parser::nameExpr(Position at) {
     procedure_->mentioned.push_back(e->symbol);
     if (e->symbol == execute_ || e->symbol == eval_) {
         procedure_->dynamicScope = true;
+    }
+    if (procedure_->dynamicScope || e->symbol == executeGlobal_ || e->symbol == getRef_) {
+        ast_->valuesRunCode = true;
     }
     return e;
 }

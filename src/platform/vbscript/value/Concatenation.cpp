@@ -48,8 +48,9 @@ Value concatenate(Context& context, const Value& a, const Value& b) {
     const Value& left = a.deref();
     const Value& right = b.deref();
     if (left.isObject() || right.isObject()) {
-        const Value first = withoutObject(context, left); // its default member runs before the other's
-        return joinedTexts(context, first, withoutObject(context, right));
+        const Value second = right; // as it is now: the default member of the first may change the variable
+        const Value first = withoutObject(context, left);
+        return joinedTexts(context, first, withoutObject(context, second));
     }
     return joinedTexts(context, left, right);
 }
