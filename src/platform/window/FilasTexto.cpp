@@ -14,8 +14,9 @@ FilaTexto FilasTexto::desde(std::size_t inicio) const {
 }
 
 // A line is characters, one column each, and then at most one hexadecimal block. Rows of the characters are counted,
-// those of the block walked.
-FilaTexto FilasTexto::de(std::size_t posicion) const {
+// those of the block walked. Here walks begin that reach the row of `posicion`: as far above it as asked if there are
+// characters, or else at the first row of the line.
+std::size_t FilasTexto::principio(std::size_t posicion, std::size_t porEncima) const {
     const std::size_t inicio = texto_.inicioLinea(posicion);
     std::size_t caracter = posicion; // the character from whose row on the rows are walked
     if (caracter == texto_.size() && caracter > inicio)
@@ -26,9 +27,30 @@ FilaTexto FilasTexto::de(std::size_t posicion) const {
     while (caracter > inicio && texto_.ancho(caracter) == 0)
         --caracter;
     const auto ancho = static_cast<std::size_t>(columnas_);
-    FilaTexto fila = desde(inicio + (caracter - inicio) / ancho * ancho);
+    const std::size_t numero = (caracter - inicio) / ancho;
+    return inicio + (numero - std::min(numero, porEncima)) * ancho;
+}
+
+FilaTexto FilasTexto::de(std::size_t posicion) const {
+    FilaTexto fila = desde(principio(posicion, 0));
     while (fila.hasta <= posicion && fila.hasta < texto_.size())
         fila = desde(fila.hasta);
+    return fila;
+}
+
+// Line by line, each walked once: a row of a block is found only from the block's first one on.
+FilaTexto FilasTexto::porEncima(FilaTexto fila, int cuantas) const {
+    std::vector<FilaTexto> ultimas; // a ring of the rows walked last
+    for (auto faltan = static_cast<std::size_t>(std::max(cuantas, 0)); faltan > 0 && fila.desde > 0;) {
+        ultimas.resize(faltan);
+        std::size_t andadas = 0;
+        for (FilaTexto una{0, principio(fila.desde - 1, faltan)}; una.hasta < fila.desde; ++andadas) {
+            una = desde(una.hasta);
+            ultimas[andadas % faltan] = una;
+        }
+        fila = ultimas[andadas < faltan ? 0 : andadas % faltan];
+        faltan -= std::min(faltan, andadas);
+    }
     return fila;
 }
 

@@ -6,6 +6,7 @@
 #include "platform/window/TextoBytes.h"
 
 #include <algorithm>
+#include <vector>
 
 struct FilaTexto {
     std::size_t desde = 0; // first byte
@@ -24,6 +25,8 @@ public:
     FilaTexto de(std::size_t posicion) const;
     // The row above; the same one for the first.
     FilaTexto anterior(const FilaTexto& fila) const { return fila.desde == 0 ? fila : de(fila.desde - 1); }
+    // The row so many above; the first one if there are not as many.
+    FilaTexto porEncima(FilaTexto fila, int cuantas) const;
     bool esUltima(const FilaTexto& fila) const;
 
     // Column of a byte in its row, from 0; for the row's end the column after its last character.
@@ -34,6 +37,8 @@ public:
     std::size_t finVisible(const FilaTexto& fila) const;
 
 private:
+    std::size_t principio(std::size_t posicion, std::size_t porEncima) const;
+
     const TextoBytes& texto_;
     int columnas_;
 };

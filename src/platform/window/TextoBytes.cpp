@@ -19,6 +19,8 @@ const std::array<char16_t, 256>& caracteres() {
     return tabla;
 }
 
+constexpr std::size_t porMirada = 4096; // bytes looked through for one kind of line end and then for the other
+
 void agregarCelda(std::u16string& destino, std::uint8_t b) {
     static constexpr char16_t cifras[] = u"0123456789ABCDEF";
     destino.push_back(u'[');
@@ -79,37 +81,6 @@ void TextoBytes::anexar(std::string_view bytes, bool celdas) {
     }
 }
 
-std::uint8_t TextoBytes::en(std::size_t posicion) const {
-    return static_cast<std::uint8_t>(trozoDe(posicion).bytes[posicion % porTrozo]);
-}
-
-bool TextoBytes::hexadecimal(std::size_t posicion) const {
-    const Trozo& trozo = trozoDe(posicion);
-    return !trozo.esCelda.empty() && trozo.esCelda[posicion % porTrozo];
-}
-
-bool TextoBytes::finDeBloque(std::size_t posicion) const {
-    const Trozo& trozo = trozoDe(posicion);
-    return !trozo.esFin.empty() && trozo.esFin[posicion % porTrozo];
-}
-
-bool TextoBytes::terminaLinea(std::size_t posicion) const {
-    if (hexadecimal(posicion))
-        return finDeBloque(posicion);
-    const std::uint8_t b = en(posicion);
-    if (b != '\r' || crLf_ == CrLf::dosFines)
-        return b == '\r' || b == '\n';
-    const std::size_t otra = posicion + 1; // a CR is the end unless its LF is
-    return otra == size_ || hexadecimal(otra) || en(otra) != '\n';
-}
-
-int TextoBytes::ancho(std::size_t posicion) const {
-    const std::uint8_t b = en(posicion);
-    if (hexadecimal(posicion))
-        return b < 16 ? 3 : 4;
-    return b == '\r' || b == '\n' ? 0 : 1;
-}
-
 std::size_t TextoBytes::inicioLinea(std::size_t posicion) const {
     if (posicion >= sinFinDesde_ && posicion <= sinFinHasta_)
         return sinFinDesde_;
@@ -125,12 +96,14 @@ std::size_t TextoBytes::inicioLinea(std::size_t posicion) const {
     return inicio;
 }
 
-// The position after the last line end in [desde, hasta), or `desde` without any.
+// The position after the last line end in [desde, hasta), or `desde` without any. Characters are looked through by
+// stretches: there may be a hundred million without a line end, or all with one of the two.
 std::size_t TextoBytes::trasUltimoFin(std::size_t desde, std::size_t hasta) const {
     while (hasta > desde) {
-        const std::size_t primera = std::max(desde, (hasta - 1) / porTrozo * porTrozo);
+        const std::size_t primera =
+            std::max({desde, (hasta - 1) / porTrozo * porTrozo, hasta - std::min(hasta, porMirada)});
         const Trozo& trozo = trozoDe(primera);
-        if (trozo.esCelda.empty()) { // by whole stretches: there may be a hundred million bytes without a line end
+        if (trozo.esCelda.empty()) {
             const char* const datos = trozo.bytes.data() + primera % porTrozo;
             const std::string_view tramo(datos, hasta - primera);
             const auto* const cr = static_cast<const char*>(memrchr(datos, '\r', tramo.size()));

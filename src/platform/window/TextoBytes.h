@@ -75,3 +75,36 @@ private:
     mutable std::size_t sinFinDesde_ = 0;
     mutable std::size_t sinFinHasta_ = 0;
 };
+
+// Asked for each byte of a row, and in a block of hexadecimal for each byte of the block.
+
+inline std::uint8_t TextoBytes::en(std::size_t posicion) const {
+    return static_cast<std::uint8_t>(trozoDe(posicion).bytes[posicion % porTrozo]);
+}
+
+inline bool TextoBytes::hexadecimal(std::size_t posicion) const {
+    const Trozo& trozo = trozoDe(posicion);
+    return !trozo.esCelda.empty() && trozo.esCelda[posicion % porTrozo];
+}
+
+inline bool TextoBytes::finDeBloque(std::size_t posicion) const {
+    const Trozo& trozo = trozoDe(posicion);
+    return !trozo.esFin.empty() && trozo.esFin[posicion % porTrozo];
+}
+
+inline bool TextoBytes::terminaLinea(std::size_t posicion) const {
+    if (hexadecimal(posicion))
+        return finDeBloque(posicion);
+    const std::uint8_t b = en(posicion);
+    if (b != '\r' || crLf_ == CrLf::dosFines)
+        return b == '\r' || b == '\n';
+    const std::size_t otra = posicion + 1; // a CR is the end unless its LF is
+    return otra == size_ || hexadecimal(otra) || en(otra) != '\n';
+}
+
+inline int TextoBytes::ancho(std::size_t posicion) const {
+    const std::uint8_t b = en(posicion);
+    if (hexadecimal(posicion))
+        return b < 16 ? 3 : 4;
+    return b == '\r' || b == '\n' ? 0 : 1;
+}

@@ -3,7 +3,6 @@
 #include "platform/window/BarraMonitor.h"
 
 #include <QFontDatabase>
-#include <QFontMetricsF>
 #include <QScrollBar>
 #include <QWheelEvent>
 
@@ -31,7 +30,8 @@ VistaTexto::VistaTexto(QWidget* parent, TextoBytes::CrLf crLf) : QPlainTextEdit(
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
-    medirLetra();
+    letra_ = LetraFija(font());
+    viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
     viewport()->setCursor(Qt::IBeamCursor);
     turno_.setSingleShot(true);
     connect(&turno_, &QTimer::timeout, this, &VistaTexto::refrescar);
@@ -75,7 +75,7 @@ void VistaTexto::empezarDeNuevo() {
     texto_.borrar();
     if (pausada() && !congelado_->empty())
         return;
-    arriba_ = ancla_ = posicion_ = 0;
+    arriba_ = fondo_ = ancla_ = posicion_ = 0;
     sigue_ = true;
     espejoEntero_ = false;
     porBuscar_ = 0;
@@ -112,7 +112,7 @@ QString VistaTexto::rotuloDeEstado() const {
 }
 
 int VistaTexto::columnas() const {
-    return static_cast<int>((viewport()->width() - 2 * margen) / anchoCaracter_);
+    return static_cast<int>((viewport()->width() - 2 * margen) / letra_.ancho());
 }
 
 int VistaTexto::filasVisibles() const {
@@ -122,8 +122,9 @@ int VistaTexto::filasVisibles() const {
 // Takes in what was appended.
 void VistaTexto::refrescar() {
     turno_.stop();
+    fondo_ = medirFondo();
     if (sigue_)
-        arriba_ = fondo();
+        arriba_ = fondo_;
     ponerBarra();
     viewport()->update();
     if (!espejo_.isActive())
@@ -131,12 +132,9 @@ void VistaTexto::refrescar() {
 }
 
 // First byte of the first row when the last one stands at the bottom.
-std::size_t VistaTexto::fondo() const {
+std::size_t VistaTexto::medirFondo() const {
     const FilasTexto todas = filas();
-    FilaTexto fila = todas.de(bytes().size());
-    for (int n = filasVisibles(); n > 1 && fila.desde > 0; --n)
-        fila = todas.anterior(fila);
-    return fila.desde;
+    return todas.porEncima(todas.de(bytes().size()), filasVisibles() - 1).desde;
 }
 
 std::size_t VistaTexto::finDePantalla() const {
@@ -153,19 +151,18 @@ void VistaTexto::ponerBarra() {
     const auto enBarra = [](std::size_t posicion) { return static_cast<int>(std::min(posicion, tope)); };
     QScrollBar& barra = *verticalScrollBar();
     const bool antes = std::exchange(moviendoBarra_, true);
-    const std::size_t maximo = fondo();
-    barra.setRange(0, enBarra(maximo));
-    barra.setPageStep(std::max(1, enBarra(bytes().size() - maximo)));
+    barra.setRange(0, enBarra(fondo_));
+    barra.setPageStep(std::max(1, enBarra(bytes().size() - fondo_)));
     barra.setSingleStep(std::max(1, columnas()));
     barra.setValue(enBarra(arriba_));
     moviendoBarra_ = antes;
 }
 
 void VistaTexto::ponerArriba(std::size_t posicion) {
-    const std::size_t maximo = fondo();
+    fondo_ = medirFondo();
     const bool seguia = sigue_;
-    arriba_ = posicion >= maximo ? maximo : filas().de(posicion).desde;
-    sigue_ = posicion >= maximo;
+    sigue_ = posicion >= fondo_;
+    arriba_ = sigue_ ? fondo_ : filas().de(posicion).desde;
     if (!moviendoBarra_)
         ponerBarra();
     viewport()->update();
@@ -177,9 +174,7 @@ void VistaTexto::ponerArriba(std::size_t posicion) {
 
 void VistaTexto::desplazar(int cuantas) {
     const FilasTexto todas = filas();
-    FilaTexto fila = todas.desde(arriba_);
-    for (; cuantas < 0; ++cuantas)
-        fila = todas.anterior(fila);
+    FilaTexto fila = todas.porEncima(todas.desde(arriba_), -cuantas);
     for (; cuantas > 0 && !todas.esUltima(fila); --cuantas)
         fila = todas.desde(fila.hasta);
     ponerArriba(fila.desde);
@@ -237,14 +232,8 @@ void VistaTexto::changeEvent(QEvent* evento) {
     moviendoBarra_ = false;
     if (evento->type() != QEvent::FontChange)
         return;
-    medirLetra();
+    letra_ = LetraFija(font());
     refrescar();
-}
-
-// As wide as it is painted: in a row, where widths are rounded.
-void VistaTexto::medirLetra() {
-    constexpr int muchas = 64;
-    anchoCaracter_ = std::max(1.0, QFontMetricsF(font()).horizontalAdvance(QString(muchas, u'0')) / muchas);
 }
 
 void VistaTexto::showEvent(QShowEvent* evento) {

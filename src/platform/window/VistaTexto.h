@@ -17,6 +17,7 @@
 #include "platform/window/BarraBusqueda.h"
 #include "platform/window/BusquedaTexto.h"
 #include "platform/window/FilasTexto.h"
+#include "platform/window/LetraFija.h"
 #include "platform/window/TextoBytes.h"
 
 #include <QPlainTextEdit>
@@ -116,11 +117,10 @@ private:
     FilasTexto filas() const { return {bytes(), columnas()}; }
     int columnas() const;
     int filasVisibles() const;
-    void medirLetra();
     void cambiado();
     void refrescar();
     void ponerBarra();
-    std::size_t fondo() const;
+    std::size_t medirFondo() const;
     void ponerArriba(std::size_t posicion);
     void desplazar(int filas);
     void alAccionarBarra(int accion);
@@ -151,10 +151,11 @@ private:
     void heredar(QWidget& parte) const;
     void colocarBarras();
 
-    qreal anchoCaracter_ = 1; // pixels
+    LetraFija letra_;
     TextoBytes texto_;
     std::optional<TextoBytes> congelado_; // what is shown while paused
     std::size_t arriba_ = 0;              // first byte of the first row on the screen
+    std::size_t fondo_ = 0;               // what arriba_ is at most, as of the last turn of the screen
     bool sigue_ = true;                   // scrolled to the end
     bool moviendoBarra_ = false;
     std::size_t ancla_ = 0;    // the selection lies between these two;

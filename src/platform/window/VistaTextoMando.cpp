@@ -51,9 +51,7 @@ void VistaTexto::ensenar(std::size_t posicion) {
     const FilaTexto fila = todas.de(posicion);
     if (fila.desde < arriba_)
         return ponerArriba(fila.desde);
-    FilaTexto primera = fila;
-    for (int n = filasVisibles(); n > 1 && primera.desde > arriba_; --n)
-        primera = todas.anterior(primera);
+    const FilaTexto primera = todas.porEncima(fila, filasVisibles() - 1);
     if (primera.desde > arriba_)
         ponerArriba(primera.desde);
     else
@@ -62,10 +60,9 @@ void VistaTexto::ensenar(std::size_t posicion) {
 
 void VistaTexto::moverFilas(int cuantas, bool seleccionando) {
     const FilasTexto todas = filas();
-    FilaTexto fila = todas.de(posicion_);
-    const int columna = todas.columna(fila, posicion_);
-    for (; cuantas < 0; ++cuantas)
-        fila = todas.anterior(fila);
+    const FilaTexto esta = todas.de(posicion_);
+    const int columna = todas.columna(esta, posicion_);
+    FilaTexto fila = todas.porEncima(esta, -cuantas);
     for (; cuantas > 0 && !todas.esUltima(fila); --cuantas)
         fila = todas.desde(fila.hasta);
     mover(todas.enColumna(fila, columna), seleccionando);
@@ -144,10 +141,10 @@ std::size_t VistaTexto::posicionEn(QPointF punto) const {
     FilaTexto fila = todas.desde(arriba_);
     int n = static_cast<int>((punto.y() - margen) / fontMetrics().height());
     if (punto.y() < margen)
-        return todas.enColumna(todas.anterior(fila), static_cast<int>(punto.x() / anchoCaracter_));
+        return todas.enColumna(todas.anterior(fila), static_cast<int>(punto.x() / letra_.ancho()));
     for (; n > 0 && !todas.esUltima(fila); --n)
         fila = todas.desde(fila.hasta);
-    return todas.enColumna(fila, static_cast<int>((punto.x() - margen) / anchoCaracter_ + 0.5));
+    return todas.enColumna(fila, static_cast<int>((punto.x() - margen) / letra_.ancho() + 0.5));
 }
 
 void VistaTexto::mousePressEvent(QMouseEvent* evento) {

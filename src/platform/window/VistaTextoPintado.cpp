@@ -21,6 +21,8 @@ QString dePantalla(const std::u16string& texto) {
 } // namespace
 
 std::vector<BusquedaTexto::Hallazgo> VistaTexto::hallazgosVisibles(std::size_t hasta) const {
+    if (resaltado_.empty())
+        return {};
     // One that begins on the row above may reach into the first one.
     return resaltado_.en(bytes(), filas().anterior(filas().desde(arriba_)).desde, hasta);
 }
@@ -57,15 +59,15 @@ void VistaTexto::pintarFila(QPainter& pintor, const FilaTexto& fila, qreal y,
     const FilasTexto todas = filas();
     const qreal alto = fontMetrics().height();
     const auto tramo = [&](std::size_t desde, std::size_t hasta) {
-        const qreal x = margen + todas.columna(fila, desde) * anchoCaracter_;
-        return QRectF(x, y, margen + todas.columna(fila, hasta) * anchoCaracter_ - x, alto);
+        const qreal x = margen + todas.columna(fila, desde) * letra_.ancho();
+        return QRectF(x, y, margen + todas.columna(fila, hasta) * letra_.ancho() - x, alto);
     };
     const auto cruza = [&](std::size_t desde, std::size_t hasta) { return desde < fila.hasta && hasta > fila.desde; };
     const QString texto = dePantalla(bytes().texto(fila.desde, todas.finVisible(fila)));
     const QPointF base(margen, y + fontMetrics().ascent());
     const auto escribir = [&](const QColor& color) {
         pintor.setPen(color);
-        pintor.drawText(base, texto);
+        letra_.escribir(pintor, base, texto);
     };
     const auto marcar = [&](const QRectF& caja, const QBrush& fondo, const QColor& color) {
         pintor.save();
@@ -84,12 +86,12 @@ void VistaTexto::pintarFila(QPainter& pintor, const FilaTexto& fila, qreal y,
     if (cruza(desde, hasta)) {
         QRectF caja = tramo(std::max(desde, fila.desde), std::min(hasta, fila.hasta));
         if (hasta >= fila.hasta && todas.finVisible(fila) < fila.hasta)
-            caja.setRight(caja.right() + anchoCaracter_ / 2); // the line end is selected, too
+            caja.setRight(caja.right() + letra_.ancho() / 2); // the line end is selected, too
         marcar(caja, palette().brush(QPalette::Highlight), palette().color(QPalette::HighlightedText));
     }
     const bool aqui = posicion_ >= fila.desde && (posicion_ < fila.hasta || todas.esUltima(fila));
     if (hasFocus() && aqui) {
-        const qreal x = margen + todas.columna(fila, posicion_) * anchoCaracter_;
+        const qreal x = margen + todas.columna(fila, posicion_) * letra_.ancho();
         pintor.fillRect(QRectF(x, y, 1, alto), palette().brush(QPalette::Text));
     }
 }

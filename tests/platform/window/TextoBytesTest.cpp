@@ -150,18 +150,22 @@ private Q_SLOTS:
             for (const int columnas : {4, 7, 80, 1000}) {
                 const TextoBytes texto = mezcla(static_cast<unsigned>(columnas), 70'000, crLf);
                 const FilasTexto todas(texto, columnas);
-                FilaTexto anterior;
+                std::vector<FilaTexto> antes;
                 for (FilaTexto fila = todas.desde(0);; fila = todas.desde(fila.hasta)) {
                     QCOMPARE(todas.de(fila.desde).desde, fila.desde);
                     if (fila.hasta > fila.desde)
                         QCOMPARE(todas.de(fila.hasta - 1).desde, fila.desde);
                     if (fila.desde > 0)
-                        QCOMPARE(todas.anterior(fila).desde, anterior.desde);
-                    anterior = fila;
+                        QCOMPARE(todas.anterior(fila).desde, antes.back().desde);
+                    antes.push_back(fila);
+                    for (const std::size_t cuantas : {0U, 1U, 2U, 40U}) {
+                        const FilaTexto& esperada = antes[antes.size() - 1 - std::min(cuantas, antes.size() - 1)];
+                        QCOMPARE(todas.porEncima(fila, static_cast<int>(cuantas)).desde, esperada.desde);
+                    }
                     if (todas.esUltima(fila))
                         break;
                 }
-                QCOMPARE(todas.de(texto.size()).desde, anterior.desde);
+                QCOMPARE(todas.de(texto.size()).desde, antes.back().desde);
             }
     }
 
