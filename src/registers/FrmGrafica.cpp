@@ -139,31 +139,38 @@ QString FrmGrafica::comoCsv() const {
     return texto;
 }
 
-void FrmGrafica::fallo(const QString& archivo, const QString& motivo) {
-    MsgBox(this, QStringLiteral("No se pudo guardar %1: %2").arg(archivo, motivo));
+// Asks for a file beside the rest of the program's work, and then writes it.
+void FrmGrafica::pedirArchivo(const QString& titulo, const QString& filtro, const QString& sufijo, Escritor escribir) {
+    auto* dialogo = new QFileDialog(this, titulo, QString(), filtro);
+    dialogo->setAttribute(Qt::WA_DeleteOnClose);
+    dialogo->setOption(QFileDialog::DontUseNativeDialog);
+    dialogo->setAcceptMode(QFileDialog::AcceptSave);
+    dialogo->setDefaultSuffix(sufijo);
+    dialogo->selectFile(QStringLiteral("grafica.") + sufijo);
+    connect(dialogo, &QFileDialog::fileSelected, this, [this, escribir](const QString& archivo) {
+        QSaveFile salida(archivo);
+        if (!salida.open(QIODevice::WriteOnly) || !(this->*escribir)(salida) || !salida.commit())
+            avisarMsgBox(this, QStringLiteral("No se pudo guardar %1: %2").arg(archivo, salida.errorString()),
+                         vbExclamation);
+    });
+    dialogo->open();
+}
+
+bool FrmGrafica::escribirImagen(QIODevice& salida) const {
+    return vista_->grab().save(&salida, "PNG");
+}
+
+bool FrmGrafica::escribirCsv(QIODevice& salida) const {
+    const QByteArray bytes = QByteArrayLiteral("\xEF\xBB\xBF") + comoCsv().toUtf8();
+    return salida.write(bytes) == bytes.size();
 }
 
 void FrmGrafica::guardarImagen() {
-    const QPointer<FrmGrafica> sigo(this); // the window may be closed while the dialog asks
-    const QString archivo =
-        QFileDialog::getSaveFileName(this, QStringLiteral("Guardar imagen"), QStringLiteral("grafica.png"),
-                                     QStringLiteral("Imágenes PNG (*.png)"), nullptr, QFileDialog::DontUseNativeDialog);
-    if (!sigo || archivo.isEmpty())
-        return;
-    QSaveFile salida(archivo);
-    if (!salida.open(QIODevice::WriteOnly) || !vista_->grab().save(&salida, "PNG") || !salida.commit())
-        fallo(archivo, salida.errorString());
+    pedirArchivo(QStringLiteral("Guardar imagen"), QStringLiteral("Imágenes PNG (*.png)"), QStringLiteral("png"),
+                 &FrmGrafica::escribirImagen);
 }
 
 void FrmGrafica::guardarCsv() {
-    const QPointer<FrmGrafica> sigo(this);
-    const QString archivo =
-        QFileDialog::getSaveFileName(this, QStringLiteral("Exportar CSV"), QStringLiteral("grafica.csv"),
-                                     QStringLiteral("Texto CSV (*.csv)"), nullptr, QFileDialog::DontUseNativeDialog);
-    if (!sigo || archivo.isEmpty())
-        return;
-    QSaveFile salida(archivo);
-    const QByteArray bytes = QByteArrayLiteral("\xEF\xBB\xBF") + comoCsv().toUtf8();
-    if (!salida.open(QIODevice::WriteOnly) || salida.write(bytes) != bytes.size() || !salida.commit())
-        fallo(archivo, salida.errorString());
+    pedirArchivo(QStringLiteral("Exportar CSV"), QStringLiteral("Texto CSV (*.csv)"), QStringLiteral("csv"),
+                 &FrmGrafica::escribirCsv);
 }

@@ -43,7 +43,10 @@ private:
     void construir();
     void guardarImagen();
     void guardarCsv();
-    void fallo(const QString& archivo, const QString& motivo);
+    using Escritor = bool (FrmGrafica::*)(QIODevice&) const;
+    void pedirArchivo(const QString& titulo, const QString& filtro, const QString& sufijo, Escritor escribir);
+    bool escribirImagen(QIODevice& salida) const;
+    bool escribirCsv(QIODevice& salida) const;
 
     Anotaciones& anotaciones_;
     std::vector<LineaGrafica> lineas_;
