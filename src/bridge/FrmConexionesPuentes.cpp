@@ -180,6 +180,10 @@ bool FrmConexionesPuentes::stop() const {
     return chStop_->isChecked();
 }
 
+std::span<std::uint8_t> FrmConexionesPuentes::sitio(Lado lado) {
+    return txtTramas_[static_cast<std::size_t>(lado)]->sitio();
+}
+
 void FrmConexionesPuentes::mostrar(Lado lado, std::span<const std::uint8_t> bloque, bool hexadecimal) {
     VistaTexto& monitor = *txtTramas_[static_cast<std::size_t>(lado)];
     if (hexadecimal)

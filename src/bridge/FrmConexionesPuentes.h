@@ -30,6 +30,7 @@ private:
     bool echo() const override;
     bool modbus() const override;
     bool stop() const override;
+    std::span<std::uint8_t> sitio(Lado lado) override;
     void mostrar(Lado lado, std::span<const std::uint8_t> bloque, bool hexadecimal) override;
     void colorear(Lado lado, ColorPuerto color) override;
     void puertoRechazado(Lado lado, const std::error_code& fallo) override;

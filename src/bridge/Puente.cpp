@@ -55,6 +55,10 @@ void Puente::onConnectionRequest(Winsock& socket, std::uint32_t requestId) {
     socket.Accept(requestId);
 }
 
+std::span<std::uint8_t> Puente::roomForArrival(Winsock& origen) {
+    return ventana_ != nullptr && !ventana_->stop() ? ventana_->sitio(ladoDe(origen)) : std::span<std::uint8_t>();
+}
+
 void Puente::onDataArrival(Winsock& origen, std::span<const std::uint8_t> bloque) {
     const Lado lado = ladoDe(origen);
     if (lado == Lado::uno && conEcho()) {

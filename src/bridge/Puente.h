@@ -28,6 +28,8 @@ public:
     virtual bool echo() const = 0;   // side 1 sends every block back to its own client
     virtual bool modbus() const = 0; // blocks are shown as hexadecimal, one a line
     virtual bool stop() const = 0;   // the monitors are left as they are
+    // Where that monitor will keep what it shows next; what is shown from there need not be copied. Empty: nowhere.
+    virtual std::span<std::uint8_t> sitio(Lado lado) = 0;
     // Appends the block to the monitor of that side: as characters, or as hexadecimal on a line of its own.
     virtual void mostrar(Lado lado, std::span<const std::uint8_t> bloque, bool hexadecimal) = 0;
     virtual void colorear(Lado lado, ColorPuerto color) = 0;
@@ -80,6 +82,7 @@ private:
 
     void onConnectionRequest(Winsock& socket, std::uint32_t requestId) override;
     void onDataArrival(Winsock& socket, std::span<const std::uint8_t> data) override;
+    std::span<std::uint8_t> roomForArrival(Winsock& socket) override;
     void onClose(Winsock& socket) override;
     void onSendComplete(Winsock& socket) override;
 

@@ -328,15 +328,14 @@ private Q_SLOTS:
                               QStringLiteral("chStop"), QStringLiteral("Command1"), QStringLiteral("Command2")}));
     }
 
-    // A flood with the display on: the window answers all the while and the text is whole.
+    // A flood with the display on: the window answers all the while, and the text is whole and in order.
     void monitorsShowEverythingOfAFlood() {
         Puesto p;
         p.tic();
         const auto c1 = p.conectar(Lado::uno);
-        const std::string linea = "0123456789012345678901234567890123456789\r";
         std::string bloque;
-        while (bloque.size() < 60'000)
-            bloque += linea;
+        for (int linea = 0; bloque.size() < 60'000; ++linea)
+            bloque += "linea " + std::to_string(linea) + "\r";
         qsizetype esperado = 0;
         std::size_t enviados = bloque.size();
         int bloques = 0;
@@ -352,6 +351,7 @@ private Q_SLOTS:
             },
             30000));
         QTRY_COMPARE_WITH_TIMEOUT(p.texto("txtTramas(0)").size(), esperado, 30000);
+        QCOMPARE(p.texto("txtTramas(0)"), QString::fromStdString(bloque).replace(u'\r', u'\n').repeated(bloques));
         QTRY_VERIFY_WITH_TIMEOUT(p.control<VistaTexto>("txtTramas(0)").alDia(), 30000);
     }
 };

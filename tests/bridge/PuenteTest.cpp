@@ -184,6 +184,31 @@ TEST(Puente, charactersFollowEachOtherWithoutAddedLineBreaks) {
     EXPECT_TRUE(b.mostrado(Banco::uno, "AB\rC\nD"));
 }
 
+TEST(Puente, blocksAreReadWhereTheMonitorKeepsThem) {
+    Banco b;
+    std::array<std::uint8_t, 100> lugar{};
+    b.ventana.lugar = lugar;
+    const Peer c1 = b.conectar(Lado::uno);
+    const Peer c2 = b.conectar(Lado::dos);
+    const std::string bytes = std::string(100, 'a') + std::string(100, 'b') + std::string(50, 'c');
+    c1.send(bytes);
+    EXPECT_EQ(b.recibir(c2, bytes.size()), bytes);
+    EXPECT_EQ(b.ventana.textos[Banco::uno], bytes);
+    EXPECT_EQ(std::string(lugar.begin(), lugar.end()), std::string(50, 'c') + std::string(50, 'b'));
+}
+
+TEST(Puente, whatIsNotShownIsReadElsewhere) {
+    Banco b;
+    std::array<std::uint8_t, 100> lugar{};
+    b.ventana.lugar = lugar;
+    b.ventana.conStop = true;
+    const Peer c1 = b.conectar(Lado::uno);
+    const Peer c2 = b.conectar(Lado::dos);
+    c1.send("abc");
+    EXPECT_EQ(b.recibir(c2, 3), "abc");
+    EXPECT_EQ(lugar[0], 0);
+}
+
 TEST(Puente, eachSideHasItsOwnMonitor) {
     Banco b;
     const Peer c1 = b.conectar(Lado::uno);

@@ -14,6 +14,7 @@ struct VentanaFalsa final : VentanaPuente {
     bool echo() const override { return conEcho; }
     bool modbus() const override { return conModbus; }
     bool stop() const override { return conStop; }
+    std::span<std::uint8_t> sitio(Lado) override { return lugar; }
     void mostrar(Lado lado, std::span<const std::uint8_t> bloque, bool hexadecimal) override {
         auto& texto = textos[static_cast<std::size_t>(lado)];
         texto.append(reinterpret_cast<const char*>(bloque.data()), bloque.size());
@@ -27,6 +28,7 @@ struct VentanaFalsa final : VentanaPuente {
 
     static constexpr const char* finDeBloque = "|"; // after a block that is shown as hexadecimal
 
+    std::span<std::uint8_t> lugar; // what is offered for blocks to be read into
     bool conEcho = false;
     bool conModbus = false;
     bool conStop = false;

@@ -102,6 +102,9 @@ bool isPassing(int error) {
 
 void WinsockEvents::onConnectionRequest(Winsock& /*socket*/, std::uint32_t /*requestId*/) {}
 void WinsockEvents::onDataArrival(Winsock& /*socket*/, std::span<const std::uint8_t> /*data*/) {}
+std::span<std::uint8_t> WinsockEvents::roomForArrival(Winsock& /*socket*/) {
+    return {};
+}
 void WinsockEvents::onClose(Winsock& /*socket*/) {}
 void WinsockEvents::onSendComplete(Winsock& /*socket*/) {}
 
@@ -304,7 +307,10 @@ bool Winsock::reportRequest(Descriptor connection, std::string address) {
 }
 
 void Winsock::readArrival() {
-    const std::span<std::uint8_t> buffer = reactor_.receiveBuffer();
+    std::span<std::uint8_t> buffer = events_.roomForArrival(*this);
+    if (buffer.empty())
+        buffer = reactor_.receiveBuffer();
+    buffer = buffer.first(std::min(buffer.size(), Reactor::receiveSize));
     const ssize_t count = recv(descriptor_.number(), buffer.data(), buffer.size(), 0);
     if (count > 0) {
         reportArrival(buffer.first(static_cast<std::size_t>(count)));

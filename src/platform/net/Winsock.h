@@ -44,6 +44,10 @@ public:
     // One arrival: what one read of the connection gave, 1 to 65,536 bytes, valid until this returns. With another
     // turn within, a further arrival of the same socket may be reported inside this one.
     virtual void onDataArrival(Winsock& socket, std::span<const std::uint8_t> data);
+    // Where to read the next arrival of the connection, for whoever keeps all of it and would copy it there: up to
+    // 65,536 bytes are used. They stay the owner's, who by the end of onDataArrival knows how many were. Empty: an
+    // arrival is read into memory of the reactor's.
+    virtual std::span<std::uint8_t> roomForArrival(Winsock& socket);
     // The connection has ended: State() is closing (the peer closed it) or error (reset, vanished). Told once.
     virtual void onClose(Winsock& socket);
     // What SendData had to keep has all been taken by the kernel. Not told when nothing had to be kept.

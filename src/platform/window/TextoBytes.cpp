@@ -43,6 +43,15 @@ void TextoBytes::agregarBloque(std::span<const std::uint8_t> bloque) {
     trozos_.back()->esFin.back() = true;
 }
 
+std::span<std::uint8_t> TextoBytes::sitio() {
+    if (trozos_.empty())
+        return {};
+    auto& ultimos = trozos_.back()->bytes;
+    if (ultimos.capacity() - ultimos.size() < maximoSitio)
+        return {};
+    return {reinterpret_cast<std::uint8_t*>(ultimos.data() + ultimos.size()), maximoSitio};
+}
+
 void TextoBytes::borrar() {
     trozos_.clear();
     size_ = sinFinDesde_ = sinFinHasta_ = 0;
@@ -71,7 +80,12 @@ void TextoBytes::anexar(std::string_view bytes, bool celdas) {
             }
             trozo.esCelda.resize(trozo.bytes.size());
         }
-        trozo.bytes.insert(trozo.bytes.end(), parte.begin(), parte.end());
+        const bool enSuSitio = parte.data() == trozo.bytes.data() + trozo.bytes.size() &&
+                               parte.size() <= trozo.bytes.capacity() - trozo.bytes.size();
+        if (enSuSitio)
+            trozo.bytes.resize(trozo.bytes.size() + parte.size()); // sets none of them
+        else
+            trozo.bytes.insert(trozo.bytes.end(), parte.begin(), parte.end());
         if (celdas || !trozo.esCelda.empty()) {
             trozo.esCelda.resize(trozo.bytes.size(), celdas);
             trozo.esFin.resize(trozo.bytes.size());

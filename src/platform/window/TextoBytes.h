@@ -33,6 +33,11 @@ public:
     void agregarBloque(std::span<const std::uint8_t> bloque); // as hexadecimal, a line of its own end
     void borrar();
 
+    // Memory in which the bytes added next will stand, for whoever reads them there first: adding the first of them
+    // copies nothing. Empty where less than maximoSitio bytes are left; good until anything else is added or emptied.
+    std::span<std::uint8_t> sitio();
+    static constexpr std::size_t maximoSitio = 65536;
+
     std::size_t size() const { return size_; }
     bool empty() const { return size_ == 0; }
 

@@ -30,6 +30,11 @@ struct AsignadorTramos {
     // Containers convert their allocator by themselves. NOLINTNEXTLINE(google-explicit-constructor)
     AsignadorTramos(const AsignadorTramos<Otro>& /*otro*/) {}
 
+    // Growing by resize() sets nothing: what was written into the memory before stays.
+    template <typename U>
+    void construct(U* donde) {
+        ::new (static_cast<void*>(donde)) U;
+    }
     T* allocate(std::size_t cuantos) {
         const std::size_t bytes = cuantos * sizeof(T);
         return static_cast<T*>(bytes == TramoMemoria::bytes ? TramoMemoria::pedir() : ::operator new(bytes));

@@ -45,6 +45,10 @@ public:
     void agregar(std::string_view ansi);
     void agregarBloque(std::span<const std::uint8_t> bloque);
 
+    // Memory in which what is appended next will stand, empty while there is little: who reads into its first bytes
+    // and appends them right then saves their copy.
+    std::span<std::uint8_t> sitio() { return texto_.sitio(); }
+
     // Empties the box at once, paused or not.
     void borrar();
 

@@ -115,6 +115,49 @@ private Q_SLOTS:
         QCOMPARE(todo(texto), QString());
     }
 
+    // Bytes that were read into the place where they will stand, or into another although that one was asked for.
+    void textIsTheSameWhereverItsBytesWereRead() {
+        std::mt19937 azar(1);
+        TextoBytes texto(CrLf::dosFines);
+        std::string esperado;
+        int enSitio = 0;
+        while (esperado.size() < 7'000'000) {
+            std::string bytes(azar() % TextoBytes::maximoSitio + 1, 'x');
+            for (std::size_t i = 0; i < bytes.size(); i += 7)
+                bytes[i] = static_cast<char>('a' + azar() % 26);
+            esperado += bytes;
+            const std::span<std::uint8_t> sitio = texto.sitio();
+            std::string_view leidos = bytes;
+            if (!sitio.empty()) {
+                QCOMPARE(sitio.size(), TextoBytes::maximoSitio);
+                if (azar() % 4 == 0) {
+                    std::fill(sitio.begin(), sitio.end(), std::uint8_t{'?'});
+                } else {
+                    std::copy(bytes.begin(), bytes.end(), sitio.begin());
+                    leidos = {reinterpret_cast<const char*>(sitio.data()), bytes.size()};
+                    ++enSitio;
+                }
+            }
+            if (azar() % 2 == 0)
+                texto.agregar(leidos);
+            else
+                bloque(texto, leidos);
+        }
+        QVERIFY(enSitio > 50);
+        QCOMPARE(texto.size(), esperado.size());
+        for (std::size_t i = 0; i < esperado.size(); ++i)
+            if (texto.en(i) != static_cast<std::uint8_t>(esperado[i]))
+                QFAIL(qPrintable(QString::number(i)));
+    }
+
+    void anEmptyTextHasNoPlaceYet() {
+        TextoBytes texto(CrLf::dosFines);
+        QVERIFY(texto.sitio().empty());
+        texto.agregar(std::string(100'000, 'x'));
+        texto.borrar();
+        QVERIFY(texto.sitio().empty());
+    }
+
     void lineStartsAreFoundWhateverWasAskedBefore() {
         for (const CrLf crLf : {CrLf::unFin, CrLf::dosFines}) {
             const TextoBytes texto = mezcla(1, 200'000, crLf);
