@@ -137,6 +137,21 @@ TEST_F(EscuchaTest, tellsOfEachConnectedMaster) {
     EXPECT_EQ(escucha.maestros()[1].peticiones, 0U);
 }
 
+TEST_F(EscuchaTest, aMasterThatTheSystemCannotWatchIsNoneAndLeavesItsSocketToTheNext) {
+    escucha.levantarEscucha();
+    {
+        const Peer rechazado(puerto());
+        const NoMoreWatches rechaza;
+        ASSERT_TRUE(runUntil(reactor, [&] { return rechazado.ended(); }));
+    }
+    escucha.refrescarConexiones();
+    EXPECT_EQ(escucha.conectados(), 0U);
+    EXPECT_TRUE(escucha.maestros().empty());
+    const auto maestro = conectar();
+    EXPECT_EQ(escucha.conectados(), 1U);
+    EXPECT_THAT(ventana.filas, ElementsAre(conectado));
+}
+
 TEST_F(EscuchaTest, theNextMasterOnASocketBeginsAnew) {
     escucha.levantarEscucha();
     auto maestro = conectar();

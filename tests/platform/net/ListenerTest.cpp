@@ -195,6 +195,26 @@ TEST(Listener, aConnectedSocketDoesNotAcceptAndTheRequestStaysOpen) {
     EXPECT_EQ(station.connection.State(), connected);
 }
 
+TEST(Listener, aConnectionThatTheSystemCannotWatchIsClosedAndItsSocketStaysFree) {
+    Station station;
+    station.events.request = [&](Winsock&, std::uint32_t requestId) {
+        const NoMoreWatches refused;
+        EXPECT_FALSE(station.connection.Accept(requestId));
+        EXPECT_FALSE(station.connection.Accept(requestId));
+    };
+    const Peer peer(station.listener.LocalPort());
+    EXPECT_TRUE(runUntil(station.reactor, [&] { return peer.ended(); }));
+    EXPECT_EQ(station.connection.State(), closed);
+    EXPECT_EQ(station.listener.State(), listening);
+
+    station.events.request = [&](Winsock&, std::uint32_t requestId) {
+        EXPECT_TRUE(station.connection.Accept(requestId));
+    };
+    const Peer next = station.connect();
+    next.send("x");
+    EXPECT_TRUE(runUntil(station.reactor, [&] { return !station.events.arrivals.empty(); }));
+}
+
 TEST(Listener, anUnknownRequestIsNotAccepted) {
     Station station;
     EXPECT_FALSE(station.connection.Accept(0));

@@ -6,7 +6,31 @@
 #include <fcntl.h>
 #include <gtest/gtest.h>
 #include <netinet/in.h>
+#include <sys/epoll.h>
 #include <sys/socket.h>
+#include <sys/syscall.h>
+#include <unistd.h>
+
+namespace {
+bool watchesRefused = false;
+}
+
+// Stands before the system's own in every program that links this file.
+extern "C" int epoll_ctl(int epoll, int operation, int descriptor, epoll_event* event) noexcept {
+    if (watchesRefused && operation == EPOLL_CTL_ADD) {
+        errno = ENOSPC;
+        return -1;
+    }
+    return static_cast<int>(syscall(SYS_epoll_ctl, epoll, operation, descriptor, event));
+}
+
+NoMoreWatches::NoMoreWatches() {
+    watchesRefused = true;
+}
+
+NoMoreWatches::~NoMoreWatches() {
+    watchesRefused = false;
+}
 
 Peer::Peer(std::uint16_t port, int receiveBuffer) : descriptor_(::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0)) {
     if (receiveBuffer > 0)

@@ -51,6 +51,15 @@ private:
 // Turns the reactor as an event loop would until the condition holds; false when it does not within ten seconds.
 bool runUntil(Reactor& reactor, const std::function<bool()>& condition);
 
+// While it lives the system refuses to watch another descriptor, as it does when a user watches too many.
+class NoMoreWatches {
+public:
+    NoMoreWatches();
+    ~NoMoreWatches();
+    NoMoreWatches(const NoMoreWatches&) = delete;
+    NoMoreWatches& operator=(const NoMoreWatches&) = delete;
+};
+
 // Whether the reactor would wake its event loop now.
 inline bool wouldWake(const Reactor& reactor) {
     pollfd watched{reactor.descriptor(), POLLIN, 0};
