@@ -3,6 +3,8 @@
 
 #include <gmock/gmock.h>
 
+using namespace std::chrono_literals;
+
 namespace {
 
 using testing::ElementsAre;
@@ -41,6 +43,28 @@ TEST_F(Handler, readWritesBothLines) {
     EXPECT_EQ(tramas(1), "12:34:56 ( <-RX- Lectura ) 1 2 0 0 0 6 1 3 0 0 0 1\r\n"
                          "12:34:56 ( -TX-> Lectura )  1 2 0 0 0 5 1 3 2 0 0\r\n");
     EXPECT_EQ(escrituras(), "");
+}
+
+TEST_F(Handler, linesFollowTheWallClockAlsoWhenItIsSetBack) {
+    reloj.pasar(4s);
+    atender(lectura(1, 0, 1));
+    EXPECT_TRUE(tramas(1).starts_with("12:35:00 ")) << tramas(1);
+    monitores.borrarTramas();
+    reloj.cambiarHora(-1h);
+    atender(lectura(1, 0, 1));
+    EXPECT_TRUE(tramas(1).starts_with("11:35:00 ")) << tramas(1);
+}
+
+TEST_F(Handler, trafficIsKeptWithTheMicrosecondsOfTheWallClock) {
+    reloj.pasar(1234567us);
+    atender(lectura(1, 0, 1));
+    const auto ahora = std::chrono::duration_cast<std::chrono::microseconds>(reloj.hora().time_since_epoch()).count();
+    int paquetes = 0;
+    monitores.trafico.recorrer([&](const Trafico::Paquete& p) {
+        ++paquetes;
+        EXPECT_EQ(p.cuando, ahora);
+    });
+    EXPECT_EQ(paquetes, 2);
 }
 
 TEST_F(Handler, readOf126FillsTheLengthByte) {

@@ -66,6 +66,15 @@ TEST_F(CambiosTest, aLaterRegisterOfTheSamePlaceTakesIt) {
     EXPECT_EQ(cambios.ultima(1, 3 + static_cast<int>(Cambios::lugares))->escrito, cambios.hora());
 }
 
+TEST_F(CambiosTest, theFirstRegistersOfAllSlavesAreRememberedBesideEachOther) {
+    for (int esclavo = 0; esclavo < 256; ++esclavo)
+        for (int direccion = 0; direccion < 40; ++direccion)
+            cambios.registroEscrito(esclavo, direccion, 0, 1, Autor::maestro);
+    for (int esclavo = 0; esclavo < 256; ++esclavo)
+        for (int direccion = 0; direccion < 40; ++direccion)
+            ASSERT_TRUE(cambios.ultima(esclavo, direccion)) << esclavo << ":" << direccion;
+}
+
 TEST_F(CambiosTest, observersHearOfWritesUntilTheyAreDetached) {
     struct : ObservadorCambios {
         void registroEscrito(int esclavo, int direccion, double antes, double ahora, Autor) override {

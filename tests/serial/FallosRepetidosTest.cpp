@@ -61,4 +61,12 @@ TEST_F(RepeatedFaults, dayOfNoiseStaysSmall) {
     EXPECT_LE(bytes, 4096u);
 }
 
+TEST_F(RepeatedFaults, faultsBeyondTheMaximumAreCountedTogether) {
+    for (std::size_t fallo = 1; fallo <= FallosRepetidos::maximo; ++fallo)
+        EXPECT_EQ(anotar("propio " + std::to_string(fallo)), 1U);
+    EXPECT_EQ(anotar("uno más"), 1U);
+    EXPECT_EQ(anotar("y otro"), 2U);
+    EXPECT_EQ(anotar("propio 7"), 2U);
+}
+
 } // namespace
