@@ -27,8 +27,6 @@ void RecepcionSerie::recibir() {
 }
 
 void RecepcionSerie::alCallar() {
-    if (cortador_.version() != instantanea_)
-        return;
-    cortador_.vaciar();
-    instantanea_ = cortador_.version();
+    if (cortador_.version() == instantanea_)
+        cortador_.vaciar();
 }
