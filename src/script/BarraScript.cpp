@@ -91,7 +91,7 @@ bool BarraScript::eventFilter(QObject* objeto, QEvent* evento) {
     if (evento->type() == QEvent::Close) {
         evento->ignore();
         parar_();
-        QMetaObject::invokeMethod(static_cast<QWidget*>(objeto), &QWidget::close, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(objeto, "close", Qt::QueuedConnection);
         return true;
     }
     return esTrabajo(evento->type());

@@ -24,7 +24,7 @@ public:
     // All borrowed. The log lines name `ejecutable`; `depurar` shows every logged error in a message box too.
     EnlaceSerie(QWidget& principal, Modulo_Config& config, vbs::ScriptControl& motor, std::string ejecutable,
                 bool depurar, const Reloj& reloj);
-    ~EnlaceSerie();
+    ~EnlaceSerie() override;
     EnlaceSerie(const EnlaceSerie&) = delete;
     EnlaceSerie& operator=(const EnlaceSerie&) = delete;
 
