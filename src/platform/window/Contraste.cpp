@@ -1,10 +1,21 @@
 #include "platform/window/Contraste.h"
 
+#include <QAbstractScrollArea>
 #include <QPainter>
 #include <QStyleOption>
 
 namespace {
+
 constexpr int mitad = 128; // lightness
+
+void marco(QPainter& pintor, const QRect& caja, const QColor& color) {
+    pintor.save();
+    pintor.setPen(color);
+    pintor.setBrush(Qt::NoBrush);
+    pintor.drawRect(caja.adjusted(0, 0, -1, -1));
+    pintor.restore();
+}
+
 } // namespace
 
 bool esOscura(const QPalette& paleta) {
@@ -29,14 +40,13 @@ void EstiloLegible::polish(QPalette& paleta) {
 void EstiloLegible::drawPrimitive(PrimitiveElement elemento, const QStyleOption* opcion, QPainter* pintor,
                                   const QWidget* control) const {
     QProxyStyle::drawPrimitive(elemento, opcion, pintor, control);
-    const bool campo = elemento == PE_FrameLineEdit && !opcion->state.testFlag(State_HasFocus);
+    const bool conFoco = opcion->state.testFlag(State_HasFocus);
+    if (elemento == PE_Frame && conFoco && qobject_cast<const QAbstractScrollArea*>(control) != nullptr)
+        marco(*pintor, opcion->rect, opcion->palette.color(QPalette::Highlight));
+    const bool campo = elemento == PE_FrameLineEdit && !conFoco;
     if ((elemento != PE_IndicatorCheckBox && !campo) || !esOscura(opcion->palette))
         return;
     QColor borde = opcion->palette.color(QPalette::WindowText);
     borde.setAlphaF(campo ? 0.3F : 0.5F);
-    pintor->save();
-    pintor->setPen(borde);
-    pintor->setBrush(Qt::NoBrush);
-    pintor->drawRect(opcion->rect.adjusted(0, 0, -1, -1));
-    pintor->restore();
+    marco(*pintor, opcion->rect, borde);
 }

@@ -1,4 +1,4 @@
-// Keeps the colours of states, and the frames of check boxes, legible on dark desktops.
+// Keeps the colours of states, and the frames of check boxes, legible on dark desktops, and shows where the focus is.
 #pragma once
 
 #include <QColor>
@@ -13,7 +13,8 @@ QColor fondoDeEstado(const QPalette& paleta);
 
 // The desktop's style with an outline round check boxes and fields where the theme is dark: the common style draws
 // theirs darker than the window, so that an empty one can hardly be seen. Links and the texts of empty fields get a
-// colour that can be read, where the theme names none.
+// colour that can be read, where the theme names none. A list or a text that has the focus is framed in the colour of
+// selections: an empty one has nothing else to show it with.
 class EstiloLegible : public QProxyStyle {
     Q_OBJECT
 
