@@ -37,7 +37,8 @@ QTreeWidget* tabla(QWidget* padre, const char* nombre, const QString& titulo, co
 void ponerFila(QTreeWidget& lista, int fila, const QStringList& celdas) {
     QTreeWidgetItem* elemento = lista.topLevelItem(fila);
     if (elemento == nullptr) {
-        elemento = new QTreeWidgetItem(&lista);
+        lista.addTopLevelItem(new QTreeWidgetItem);
+        elemento = lista.topLevelItem(fila);
         for (int columna = 1; columna < lista.columnCount(); ++columna)
             elemento->setTextAlignment(columna, Qt::AlignRight | Qt::AlignVCenter);
     }
