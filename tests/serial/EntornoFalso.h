@@ -33,9 +33,12 @@ public:
     virtual ~MotorFalso() = default;
 
     std::vector<std::string> textos;
-    std::string rechaza; // a text that contains this is an error; empty rejects nothing
+    std::string rechaza;            // a text that contains this is an error; empty rejects nothing
+    std::function<void()> mientras; // what happens while a text runs
 
     void AddCode(std::string_view codigo) override {
+        if (mientras)
+            mientras();
         if (!rechaza.empty() && codigo.find(rechaza) != std::string_view::npos)
             throw std::runtime_error("Error de sintaxis");
         textos.emplace_back(codigo);

@@ -229,6 +229,20 @@ private Q_SLOTS:
         QVERIFY(estacion.control<QTimer>("timerLimpiarBuffer")->isActive());
     }
 
+    // A reading may open a box, in which events run.
+    void silenceIsNotCountedWhileAReadingIsInterpreted() {
+        Estacion estacion;
+        auto* silencio = estacion.control<QTimer>("timerLimpiarBuffer");
+        estacion.par.enviar("240517123\n\r");
+        QTRY_VERIFY(silencio->isActive());
+        bool contaba = true;
+        estacion.motor.mientras = [&] { contaba = silencio->isActive(); };
+        estacion.par.enviar("240517123\n\r");
+        QTRY_COMPARE(estacion.motor.textos.size(), std::size_t{2});
+        QVERIFY(!contaba);
+        QVERIFY(silencio->isActive());
+    }
+
     // The whole way back: refused, silent, good.
     void readingAfterARefusedOneAndAPauseIsGood() {
         Estacion estacion;

@@ -511,6 +511,16 @@ private Q_SLOTS:
         QCOMPARE(alVencer(), 2U);
     }
 
+    void untickingShowsThePeriodOfTheFileAsTickingDoes() {
+        EstacionConScript e("Codigo_Ejecutar=1\r\nEjecucion_Codigo_Milisegundos=250\r\n");
+        QVERIFY(e.cargar());
+        e.escribirConfig("Codigo_Ejecutar=1\r\nEjecucion_Codigo_Milisegundos=40000\r\n");
+        e.clic();
+        QVERIFY(!e.chScript().isChecked());
+        QVERIFY(!e.timer()->isActive());
+        QCOMPARE(e.etiqueta(), QStringLiteral("Intervalo: 40000 Milisegundos"));
+    }
+
     void timeOutOfTheProgramIsFiftySeconds() { QCOMPARE(Arranque().limiteScript, std::chrono::milliseconds(50000)); }
 
     void endingStopsAScriptThatWaitsInAMessageBox() {

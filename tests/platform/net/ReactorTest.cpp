@@ -1,7 +1,9 @@
 // Turns: their bounds, fairness and idleness.
+#include "RelojDePrueba.h"
 #include "tests/platform/net/Peer.h"
 
 #include <chrono>
+#include <functional>
 #include <gtest/gtest.h>
 #include <map>
 #include <memory>
@@ -24,14 +26,13 @@ public:
 
     void onReadable() override {
         ++served;
-        const auto end = std::chrono::steady_clock::now() + cost;
-        while (std::chrono::steady_clock::now() < end) {
-        }
+        if (work)
+            work();
     }
 
     Reactor::Watch watch;
     int served = 0;
-    std::chrono::microseconds cost{0};
+    std::function<void()> work;
 
 private:
     Reactor& reactor_;
@@ -54,14 +55,28 @@ TEST(Reactor, anIdleConnectionWakesNobody) {
 }
 
 TEST(Reactor, aTurnEndsWhenItsBudgetIsOver) {
-    Reactor reactor;
+    RelojDePrueba clock;
+    Reactor reactor(clock);
     AlwaysReady busy(reactor);
-    busy.cost = 500us;
-    const auto start = std::chrono::steady_clock::now();
+    busy.work = [&] { clock.pasar(600us); };
     EXPECT_TRUE(reactor.turn(2ms));
-    EXPECT_GE(busy.served, 1);
-    EXPECT_LE(busy.served, 4); // the budget is asked about after each handler
-    EXPECT_GE(std::chrono::steady_clock::now() - start, 2ms);
+    EXPECT_EQ(busy.served, 4); // the budget is asked about after each handler
+    EXPECT_TRUE(reactor.turn(2ms));
+    EXPECT_EQ(busy.served, 8);
+}
+
+TEST(Reactor, theTimeOfACallIsAboutWhenItBegan) {
+    RelojDePrueba clock;
+    Reactor reactor(clock);
+    AlwaysReady busy(reactor);
+    std::vector<Reloj::Instante> times;
+    busy.work = [&] {
+        clock.pasar(1ms);
+        times.push_back(reactor.callTime());
+    };
+    const Reloj::Instante start = clock.instante();
+    EXPECT_TRUE(reactor.turn(3ms));
+    EXPECT_EQ(times, (std::vector{start, start + 1ms, start + 2ms}));
 }
 
 TEST(Reactor, whatATurnLeavesIsServedBeforeWhatWasServed) {

@@ -2,8 +2,8 @@
 
 #include "CarpetaTemporal.h"
 #include "ProcesoHijo.h"
+#include "TiempoDeProcesador.h"
 
-#include <chrono>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
@@ -246,10 +246,10 @@ TEST_F(PerfilEnDisco, tenMegabytesAreReadAndChangedInTime) {
     while (texto.size() < 10'000'000)
         texto += "[otra" + std::to_string(texto.size()) + "]\r\nuna clave = un valor\r\nbasura\r\n";
     escribirArchivo(archivo, texto + "[s]\r\nk=1\r\n");
-    const auto inicio = std::chrono::steady_clock::now();
+    const std::int64_t antes = msDeProcesador();
     EXPECT_EQ(leer("k", "0"), "1");
     EXPECT_FALSE(escribir("k", "2"));
-    EXPECT_LT(std::chrono::steady_clock::now() - inicio, std::chrono::seconds(10));
+    EXPECT_LT(msDeProcesador() - antes, 10'000);
     EXPECT_EQ(contenidoDe(archivo), texto + "[s]\r\nk=2\r\n");
 }
 
