@@ -63,6 +63,7 @@ void VistaTexto::reflejarSeleccion() {
     cursor.setPosition(caracter(posicion_), QTextCursor::KeepAnchor);
     setTextCursor(cursor);
     sincronizando_ = antes;
+    ponerBarra(); // the base class has moved it to the line of its document
 }
 
 // Someone else has moved the document's caret or selection: the box follows.

@@ -318,6 +318,22 @@ private Q_SLOTS:
         QVERIFY(vista.findChild<QLineEdit*>(QStringLiteral("txtBuscar"))->isVisible());
     }
 
+    void barShowsWhereTheCaretLedTo() {
+        VistaTexto vista;
+        mostrarEnPantalla(vista);
+        for (int i = 100; i < 400; ++i)
+            vista.agregar("linea " + std::to_string(i) + "\r");
+        vista.ponerAlDia();
+        QScrollBar& barra = *vista.verticalScrollBar();
+        QTest::keyClick(&vista, Qt::Key_Home, Qt::ControlModifier);
+        QCOMPARE(barra.value(), 0);
+        for (int i = 0; i < 150; ++i)
+            QTest::keyClick(&vista, Qt::Key_Down);
+        QVERIFY2(barra.value() > barra.maximum() / 3, qPrintable(QString::number(barra.value())));
+        QTest::keyClick(&vista, Qt::Key_End, Qt::ControlModifier);
+        QCOMPARE(barra.value(), barra.maximum());
+    }
+
     void searchSelectsTheNextOccurrenceRoundTheEnd() {
         VistaTexto vista;
         mostrarEnPantalla(vista);
