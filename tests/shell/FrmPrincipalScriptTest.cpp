@@ -422,6 +422,22 @@ private Q_SLOTS:
         QCOMPARE(alVencer(), 2);
     }
 
+    void afterAnInputBoxTheOperatorHasThatTimeToo() {
+        RelojDePrueba reloj;
+        EstacionConScript e("Codigo_Ejecutar=1\r\n" + sinPasadasPropias, 50s, reloj);
+        e.script("x = InputBox(\"valor\")");
+        QVERIFY(e.cargar());
+        const AlVerCaja contestar([](QWidget& caja) { QTest::keyClick(&caja, Qt::Key_Return); });
+        const Pasadas& pasadas = e.estacion->script().pasadas();
+        Q_EMIT e.timer()->timeout({});
+        e.script("a = 1");
+        Q_EMIT e.timer()->timeout({});
+        QCOMPARE(pasadas.cuantas, 1U);
+        reloj.pasar(1s);
+        Q_EMIT e.timer()->timeout({});
+        QCOMPARE(pasadas.cuantas, 2U);
+    }
+
     // The period would be over by the end of the pass.
     void slowPassWaitsAWholePeriodBeforeTheNext() {
         EstacionConScript e("Codigo_Ejecutar=1\r\nEjecucion_Codigo_Milisegundos=200\r\n");
@@ -509,6 +525,18 @@ private Q_SLOTS:
         QCOMPARE(alVencer(), 1U);
         reloj.pasar(100ms);
         QCOMPARE(alVencer(), 2U);
+    }
+
+    void noPassRunsBeforeTheStationIsUp() {
+        const EstacionConScript e("Codigo_Ejecutar=1\r\n" + sinPasadasPropias);
+        AutomatizacionScript& script = e.estacion->script();
+        script.iniciar();
+        QVERIFY(e.timer()->isActive());
+        Q_EMIT e.timer()->timeout({});
+        QCOMPARE(script.pasadas().cuantas, 0U);
+        script.empezarPasadas();
+        Q_EMIT e.timer()->timeout({});
+        QCOMPARE(script.pasadas().cuantas, 1U);
     }
 
     void untickingShowsThePeriodOfTheFileAsTickingDoes() {
