@@ -271,6 +271,14 @@ TEST_F(ScriptControlTest, resetForgetsGlobalsButKeepsObjects) {
     EXPECT_EQ(recorder->seen, Seen{"[]"});
 }
 
+TEST_F(ScriptControlTest, resetForgetsTheFailureToo) {
+    ASSERT_FALSE(control.addCode("x = 1 \\ 0"));
+    ASSERT_EQ(control.error().number, 11);
+    control.reset();
+    EXPECT_EQ(control.error().number, 0);
+    EXPECT_EQ(control.error().lineText, u"");
+}
+
 TEST_F(ScriptControlTest, invalidUtf8AndLoneSurrogatesAreCarried) {
     EXPECT_TRUE(control.addCode(std::string_view("out.put \"a\xFF\"")));
     EXPECT_TRUE(control.addCode("out.put AscW(ChrW(&HD800))"));
