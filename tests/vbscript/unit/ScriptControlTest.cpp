@@ -279,6 +279,14 @@ TEST_F(ScriptControlTest, resetForgetsTheFailureToo) {
     EXPECT_EQ(control.error().lineText, u"");
 }
 
+TEST_F(ScriptControlTest, aTextCheckedWithoutMemoryFailsAtNoLine) {
+    control.setMemoryCeiling(memoryMeter().used);
+    EXPECT_FALSE(control.check("x = 1"));
+    EXPECT_EQ(control.error().number, 7);
+    EXPECT_EQ(control.error().line, 0U);
+    EXPECT_EQ(control.error().lineText, u"");
+}
+
 TEST_F(ScriptControlTest, invalidUtf8AndLoneSurrogatesAreCarried) {
     EXPECT_TRUE(control.addCode(std::string_view("out.put \"a\xFF\"")));
     EXPECT_TRUE(control.addCode("out.put AscW(ChrW(&HD800))"));
