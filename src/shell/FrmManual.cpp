@@ -194,6 +194,7 @@ void FrmManual::buscar(const QString& palabras) {
         return;
     auto* nada = new QListWidgetItem(QStringLiteral("No se encuentra"), hallazgos_);
     nada->setFlags(Qt::NoItemFlags);
+    nada->setForeground(palette().text()); // an answer to read, not a control out of use
 }
 
 void FrmManual::abrirHallazgo() {

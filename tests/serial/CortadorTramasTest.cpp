@@ -133,6 +133,9 @@ TEST(FrameCutting, versionChangesWithTheBufferOnly) {
     EXPECT_NE(cortador.version(), conA);
 }
 
+// Milliseconds of processor time; a build that counts its lines takes a minute.
+constexpr std::int64_t enLugarDeHoras = 300'000;
+
 // 100 MB in small pieces: a search from the first character each time would take hours.
 TEST(FrameCutting, hundredMegabytesWithoutEndMarkTakeLinearTime) {
     CortadorTramas cortador{MarcaFin()};
@@ -143,7 +146,7 @@ TEST(FrameCutting, hundredMegabytesWithoutEndMarkTakeLinearTime) {
         cortador.agregar(trozo);
         cortador.cortar(trama);
     }
-    EXPECT_LT(msDeProcesador() - antes, 20'000);
+    EXPECT_LT(msDeProcesador() - antes, enLugarDeHoras);
     EXPECT_EQ(cortador.buffer().size(), 25'600u * 4096u);
     EXPECT_TRUE(trama.empty());
 }
@@ -158,7 +161,7 @@ TEST(FrameCutting, manyFramesInOneChunkTakeLinearTime) {
     cortador.agregar(trozo);
     const std::int64_t antes = msDeProcesador();
     cortador.cortar(trama);
-    EXPECT_LT(msDeProcesador() - antes, 20'000);
+    EXPECT_LT(msDeProcesador() - antes, enLugarDeHoras);
     EXPECT_EQ(cortador.buffer(), "\r");
     EXPECT_EQ(trama.size(), trozo.size() + 2 * 8'000'000u - 1);
 }

@@ -15,7 +15,7 @@ void ponerPaginaManual(QWidget& control, const char* pagina) {
 
 QString paginaManualDe(const QWidget* control) {
     for (; control != nullptr; control = control->parentWidget())
-        if (const QString pagina = control->property(propiedad).toString(); !pagina.isEmpty())
+        if (QString pagina = control->property(propiedad).toString(); !pagina.isEmpty())
             return pagina;
     return {};
 }
