@@ -117,7 +117,7 @@ Value round(Context& context, Arguments arguments) {
     if (places < 0 || places > 22) {
         raise(ErrorNumber::InvalidCall);
     }
-    const Value given = withoutObject(context, arguments[0]); // asks a default member once
+    Value given = withoutObject(context, arguments[0]); // asks a default member once
     if (given.type == Type::Boolean) {
         return given;
     }

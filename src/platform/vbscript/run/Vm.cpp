@@ -54,7 +54,7 @@ Vm::~Vm() {
     Object* cyclic = nullptr; // all that are left, each with a reference more
     while (adopted_ != nullptr) {
         Object* object = adopted_;
-        abandon(*object);
+        Vm::abandon(*object);
         ++object->references;
         object->nextDead = std::exchange(cyclic, object);
     }
