@@ -58,6 +58,7 @@ inline Part partAt(const Instruction* instruction, unsigned bit) noexcept {
 
 } // namespace
 
+// NOLINTBEGIN(bugprone-macro-parentheses): the macros stand for statements and for names
 // NOLINTNEXTLINE(readability-function-size): a dispatch loop is one table
 void Vm::dispatch(std::size_t floor) {
     static const void* const labels[] = {
@@ -866,5 +867,6 @@ labelReturn : {
     NEXT;
 }
 }
+// NOLINTEND(bugprone-macro-parentheses)
 
 } // namespace vbs
