@@ -48,7 +48,8 @@ Value concatenate(Context& context, const Value& a, const Value& b) {
     const Value& left = a.deref();
     const Value& right = b.deref();
     if (left.isObject() || right.isObject()) {
-        const Value second = right; // as it is now: the default member of the first may change the variable
+        // NOLINTNEXTLINE(performance-unnecessary-copy-initialization): the default member of the first may change it
+        const Value second = right;
         const Value first = withoutObject(context, left);
         return joinedTexts(context, first, withoutObject(context, second));
     }
