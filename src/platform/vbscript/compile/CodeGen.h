@@ -166,6 +166,7 @@ private:
 
     // calls
     void callTo(const Expr* e, Operand to, Store store);
+    void callValueTo(const Expr* e, Operand base, Operand to, Store store);
     void callNameTo(const Expr* e, const Resolved& callee, Operand to, Store store);
     void indexOrCallTo(const Expr* e, const Resolved& callee, Operand to, Store store);
     bool mayTakeReferences(const Expr* e);

@@ -30,9 +30,21 @@ void CodeGen::callTo(const Expr* e, Operand to, Store store) {
     } else if (callee->kind == Expr::Kind::Member) {
         callMemberTo(e, callee, to, store);
     } else {
-        indexTo(expr(callee), e->args, to, store);
+        callValueTo(e, expr(callee), to, store);
     }
     temporary_ = mark;
+}
+
+// What a call or an index has given is called or indexed in its turn.
+void CodeGen::callValueTo(const Expr* e, Operand base, Operand to, Store store) {
+    Resolved given;
+    given.kind = Resolved::Kind::Variable;
+    given.operand = base;
+    if (store != Store::Discard && !e->args.empty() && e->args.size() <= maxPacked) {
+        indexOrCallTo(e, given, to, store);
+    } else {
+        callUnknownTo(e, given, to, store);
+    }
 }
 
 void CodeGen::callNameTo(const Expr* e, const Resolved& callee, Operand to, Store store) {
@@ -60,14 +72,14 @@ void CodeGen::callNameTo(const Expr* e, const Resolved& callee, Operand to, Stor
     callUnknownTo(e, callee, to, store);
 }
 
-// Whether the variable e->a may hold code of the script, as an object or a reference, which gets what can be assigned
+// Whether what e->a gives may be code of the script, as an object or a reference, which gets what can be assigned
 // by reference as a procedure does.
 bool CodeGen::mayTakeReferences(const Expr* e) {
     const auto goesByReference = [](const Expr* argument) {
         return argument->kind == Expr::Kind::Name || argument->kind == Expr::Kind::Call;
     };
-    return mayBeObject(e->a) && !isFixedArray(e->a->symbol) &&
-           std::any_of(e->args.begin(), e->args.end(), goesByReference);
+    const bool array = e->a->kind == Expr::Kind::Name && isFixedArray(e->a->symbol);
+    return !array && mayBeObject(e->a) && std::any_of(e->args.begin(), e->args.end(), goesByReference);
 }
 
 // An index on a variable, or a call of what it holds: made both ways. In the arguments of others that ends somewhere.
@@ -107,6 +119,9 @@ void CodeGen::callUnknownTo(const Expr* e, const Resolved& callee, Operand to, S
         arguments(e->args, &callee, callee.kind == Kind::Callable ? Passing::Known : Passing::Unknown);
     emitCall(Opcode::Call, to, prepared.first, called, count, store);
     copyBack(prepared);
+    if (callee.kind == Kind::Variable && isTemporary(called)) {
+        emit(encode(Opcode::Clear, called)); // a call leaves what it calls
+    }
 }
 
 Operand CodeGen::contiguous(const std::vector<Expr*>& args) {
@@ -198,6 +213,8 @@ void CodeGen::callMemberTo(const Expr* e, const Expr* callee, Operand to, Store 
     if (const ClassMember* own = ownIndexed(callee)) {
         if (own->field >= 0 && e->args.empty() && store != Store::Discard) {
             raiseAtRun(ErrorNumber::InvalidCall, noSymbol); // Me.size()
+        } else if (own->field >= 0) {
+            callValueTo(e, operandOf(Place::Field, static_cast<std::size_t>(own->field)), to, store);
         } else {
             ownMemberTo(*own, e->args, to, store);
         }

@@ -187,6 +187,7 @@ private:
     void runIntrinsicRow(const Builtin& intrinsic, Value* first, std::size_t count, Value& to, Store store);
     void getMember(Instruction instruction);
     void callMember(Instruction instruction, Operand first, std::size_t count);
+    void callField(const Value& field, Value* first, std::size_t count, Value& to, Store store);
     void setMember(Instruction instruction);
     void setMemberN(Instruction instruction);
     void assignMember(Object* object, MemberSite& site, Value* first, std::size_t count, Store store);

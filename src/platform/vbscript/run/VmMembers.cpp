@@ -113,15 +113,26 @@ void Vm::callMember(Instruction instruction, Operand firstOperand, std::size_t c
         return;
     }
     requireIndexable(field);
-    if (count > ArrayBlock::maxDimensions) {
-        raise(ErrorNumber::OutOfRange);
-    }
-    std::array<Value*, 64> places{};
-    for (std::size_t i = 0; i < count; ++i) {
-        places[i] = first + i;
-    }
+    callField(field, first, count, to, store);
+}
+
+// An element of a field that holds an array, or the default member of what it holds: code of the script gets its
+// arguments by reference.
+void Vm::callField(const Value& field, Value* first, std::size_t count, Value& to, Store store) {
     Value result;
-    getIndex(result, field, {places.data(), count}, store);
+    if (field.isObject() && field.object() != nullptr && field.object()->role != Object::Role::Native) {
+        Value given = call(field, {first, count});
+        deliver(std::move(given), result, store);
+    } else {
+        if (count > ArrayBlock::maxDimensions) {
+            raise(ErrorNumber::OutOfRange);
+        }
+        std::array<Value*, 64> places{};
+        for (std::size_t i = 0; i < count; ++i) {
+            places[i] = first + i;
+        }
+        getIndex(result, field, {places.data(), count}, store);
+    }
     consumeRow(first, count);
     if (store != Store::Discard) {
         to = std::move(result);
