@@ -185,7 +185,7 @@ bool declares(const Ast& ast, Symbol name) {
 }
 
 // Notes the constants of a text that Execute runs in a procedure. A variable of the procedure can become neither
-// constant nor procedure.
+// constant nor procedure, and what is an array with bounds is not declared as an array again.
 void checkLocals(UnitScope& scope, const LocalScope& localScope) {
     const auto check = [&localScope](Symbol name, Position at) {
         const LocalName* known = findLocal(localScope, name);
@@ -196,6 +196,12 @@ void checkLocals(UnitScope& scope, const LocalScope& localScope) {
     for (const ConstDecl& constant : scope.ast.main.constants) {
         check(constant.name, constant.at);
         scope.unit.localConstants.emplace_back(constant.name, foldConstant(*constant.value));
+    }
+    for (const Variable& variable : scope.ast.main.variables) {
+        const LocalName* known = findLocal(localScope, variable.name);
+        if (variable.array && known != nullptr && known->fixedArray) {
+            raise(ErrorNumber::TypeMismatch);
+        }
     }
     for (const ProcedureDecl* procedure : scope.ast.procedures) {
         check(procedure->name, procedure->at);

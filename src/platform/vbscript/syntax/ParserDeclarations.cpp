@@ -12,10 +12,10 @@ constexpr std::size_t maxParameters = 1000;
 
 } // namespace
 
-// text: { Option Explicit | declaration | statement }
+// text: [Option Explicit] { declaration | statement }
 void Parser::parseTopLevel() {
     skipSeparators();
-    while (is(Word::Option)) {
+    if (is(Word::Option)) {
         advance();
         expect(Word::Explicit, ErrorNumber::SyntaxError);
         ast_->optionExplicit = true;

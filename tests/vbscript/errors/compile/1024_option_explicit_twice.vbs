@@ -1,0 +1,2 @@
+Option Explicit
+Option Explicit '! 1024
