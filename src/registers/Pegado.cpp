@@ -9,6 +9,8 @@
 
 namespace {
 
+constexpr int maxCitado = 40; // characters of a bad cell in the message
+
 struct Destino {
     int direccion;
     double valor;
@@ -21,7 +23,7 @@ QString pegarRegistros(Esclavos& esclavos, int esclavo, int direccion, const QSt
     limpio.replace(QStringLiteral("\r\n"), QStringLiteral("\n")).replace(QLatin1Char('\r'), QLatin1Char('\n'));
     while (limpio.endsWith(QLatin1Char('\n')))
         limpio.chop(1);
-    if (limpio.isEmpty())
+    if (limpio.trimmed().isEmpty())
         return QStringLiteral("El portapapeles no tiene números");
     std::vector<Destino> destinos;
     const int columna = direccion % Pagina::registrosPorFila;
@@ -35,9 +37,10 @@ QString pegarRegistros(Esclavos& esclavos, int esclavo, int direccion, const QSt
                 continue;
             const auto valor = numeroLocal(campos[i]);
             if (!valor)
-                return QStringLiteral("«%1» no es un número").arg(campos[i].trimmed().left(40));
+                return QStringLiteral("«%1» no es un número").arg(campos[i].trimmed().left(maxCitado));
             if (!cabeAMano(*valor))
-                return QStringLiteral("%1: %2").arg(campos[i].trimmed(), QLatin1String(valorFueraDeRango));
+                return QStringLiteral("%1: %2").arg(campos[i].trimmed().left(maxCitado),
+                                                    QLatin1String(valorFueraDeRango));
             if (esclavos.valorSiExiste(esclavo, principio + i) == nullptr)
                 return QStringLiteral("La MW %1 del PLC %2 no existe").arg(principio + i).arg(esclavo);
             destinos.push_back({principio + i, *valor});

@@ -244,6 +244,12 @@ private Q_SLOTS:
         QTest::addColumn<QString>("mensaje");
         QTest::newRow("empty") << ""
                                << "El portapapeles no tiene números";
+        QTest::newRow("blanks") << " \t \n\t"
+                                << "El portapapeles no tiene números";
+        QTest::newRow("overlong number") << QStringLiteral("0").repeated(5000) + QStringLiteral("70000")
+                                         << QStringLiteral("0").repeated(40) +
+                                                QStringLiteral(
+                                                    ": Valor fuera de rango, se admiten valores entre -32768 y 65535");
         QTest::newRow("no number") << "5\tabc"
                                    << "«abc» no es un número";
         QTest::newRow("too large") << "5\t65536"
