@@ -2,13 +2,15 @@
 
 #include "registers/Esclavos.h"
 
+#include <algorithm>
 #include <charconv>
 #include <optional>
 #include <utility>
 
 namespace {
 
-constexpr std::string_view blancos = " \t\r";
+constexpr std::string_view blancos = " \t";
+constexpr std::size_t maxLinea = 2000; // bytes
 
 std::string_view recortado(std::string_view texto) {
     const std::size_t desde = texto.find_first_not_of(blancos);
@@ -20,6 +22,15 @@ std::string_view recortado(std::string_view texto) {
 char separadorDe(std::string_view texto) {
     const std::size_t donde = texto.find_first_of(";,\t");
     return donde == std::string_view::npos ? ';' : texto[donde];
+}
+
+// Takes the first line off the text. It ends in "\n", "\r\n" or "\r".
+std::string_view quitarLinea(std::string_view& texto) {
+    const std::size_t fin = std::min(texto.find_first_of("\r\n"), texto.size());
+    const std::string_view linea = texto.substr(0, fin);
+    texto.remove_prefix(fin);
+    texto.remove_prefix(texto.substr(0, 2) == "\r\n" ? 2 : std::min<std::size_t>(1, texto.size()));
+    return linea;
 }
 
 // The fields of a line; a quote inside quotes is written twice. Empty when a quote is not closed.
@@ -63,17 +74,19 @@ std::vector<std::string> Etiquetas::leer(std::string_view texto) {
     const char separador = separadorDe(texto);
     bool primera = true;
     for (std::size_t linea = 1; !texto.empty(); ++linea) {
-        const std::size_t fin = texto.find('\n');
-        const std::string_view entera = recortado(texto.substr(0, fin));
-        texto.remove_prefix(fin == std::string_view::npos ? texto.size() : fin + 1);
+        const std::string_view entera = recortado(quitarLinea(texto));
         if (entera.empty() || entera.front() == '#')
-            continue;
-        const bool encabezado = std::exchange(primera, false) && (entera.front() < '0' || entera.front() > '9');
-        if (encabezado && entera.front() != '-')
             continue;
         const auto falta = [&](std::string_view que) {
             faltas.push_back("etiquetas.csv, línea " + std::to_string(linea) + ": " + std::string(que));
         };
+        const bool encabezado = std::exchange(primera, false) && (entera.front() < '0' || entera.front() > '9');
+        if (entera.size() > maxLinea) {
+            falta("la línea es demasiado larga");
+            continue;
+        }
+        if (encabezado && entera.front() != '-')
+            continue;
         const auto partes = campos(entera, separador);
         if (!partes) {
             falta("las comillas no se cierran");

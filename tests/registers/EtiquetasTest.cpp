@@ -60,6 +60,24 @@ TEST(EtiquetasTest, aBadLineIsToldWithItsNumberAndTheRestIsUsed) {
     EXPECT_EQ(etiquetas.de(2, 0)->nombre, "Bien");
 }
 
+TEST(EtiquetasTest, linesEndInAnyOfTheThreeWays) {
+    Etiquetas etiquetas;
+    EXPECT_THAT(etiquetas.leer("1;1;Uno\r2;2;Dos;m\r\n\rx;3;Mal\n4;4;Cuatro\r"),
+                ElementsAre("etiquetas.csv, línea 4: el esclavo no es un número de 0 a 32767"));
+    EXPECT_EQ(etiquetas.de(1, 1)->nombre, "Uno");
+    EXPECT_EQ(etiquetas.de(2, 2)->unidad, "m");
+    EXPECT_EQ(etiquetas.de(4, 4)->nombre, "Cuatro");
+}
+
+TEST(EtiquetasTest, anOverlongLineIsToldAlsoAsTheFirst) {
+    Etiquetas etiquetas;
+    const std::string muchas(2000, 'a');
+    EXPECT_THAT(etiquetas.leer(muchas + "a\n1;2;" + muchas + "\n1;3;" + std::string(1996, 'b') + "\n"),
+                ElementsAre("etiquetas.csv, línea 1: la línea es demasiado larga",
+                            "etiquetas.csv, línea 2: la línea es demasiado larga"));
+    EXPECT_EQ(etiquetas.de(1, 3)->nombre.size(), 1996U);
+}
+
 TEST(EtiquetasTest, aNegativeSlaveInTheFirstLineIsNoHeading) {
     Etiquetas etiquetas;
     EXPECT_EQ(etiquetas.leer("-1;5;Bomba\n").size(), 1U);
