@@ -37,7 +37,7 @@ std::optional<QRect> lugarDe(const QString& texto) {
     for (int i = 0; i < 4; ++i) {
         bool bien = false;
         numeros[i] = partes[i].trimmed().toInt(&bien);
-        if (!bien || std::abs(numeros[i]) > QWIDGETSIZE_MAX)
+        if (!bien || numeros[i] < -QWIDGETSIZE_MAX || numeros[i] > QWIDGETSIZE_MAX)
             return std::nullopt;
     }
     const QRect lugar(numeros[0], numeros[1], numeros[2], numeros[3]);

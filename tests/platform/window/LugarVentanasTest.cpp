@@ -63,7 +63,8 @@ private Q_SLOTS:
 
     void junkIsNoPlace_data() {
         QTest::addColumn<QString>("guardado");
-        for (const char* texto : {"", "1,2,3", "a,b,c,d", "1,2,-3,4", "1,2,0,0", "99999999999,1,1,1"})
+        for (const char* texto : {"", "1,2,3", "a,b,c,d", "1,2,-3,4", "1,2,0,0", "99999999999,1,1,1",
+                                  "-2147483648,1,50,50", "1,2,2147483647,4"})
             QTest::newRow(texto) << QString::fromLatin1(texto);
     }
     void junkIsNoPlace() {
