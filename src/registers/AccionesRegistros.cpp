@@ -2,6 +2,7 @@
 
 #include "platform/locale/SystemLocale.h"
 #include "platform/window/Controles.h"
+#include "platform/window/InputBox.h"
 #include "platform/window/MsgBox.h"
 #include "platform/window/PaginaManual.h"
 #include "registers/FrmGrafica.h"
@@ -9,13 +10,13 @@
 #include "registers/TablaCsv.h"
 #include "registers/VistaPagina.h"
 
-#include <QAbstractButton>
 #include <QAction>
 #include <QActionGroup>
 #include <QCompleter>
 #include <QFileDialog>
 #include <QInputDialog>
 #include <QLineEdit>
+#include <QListView>
 #include <QMenu>
 #include <QPointer>
 #include <QSaveFile>
@@ -120,16 +121,9 @@ void AccionesRegistros::pegar(int esclavo, int direccion, const QString& texto) 
 void AccionesRegistros::irA() {
     if (pagina_ == nullptr)
         return;
-    auto* dialogo = new QInputDialog(&ventana_);
-    dialogo->setAttribute(Qt::WA_DeleteOnClose);
-    dialogo->setObjectName(QStringLiteral("dlgIrA"));
-    dialogo->setWindowTitle(QStringLiteral("Ir al registro"));
-    ponerPaginaManual(*dialogo, "cuadricula.md#ir-a-un-registro");
-    dialogo->setLabelText(QStringLiteral("Dirección, esclavo:dirección o nombre:"));
-    dialogo->setOkButtonText(QStringLiteral("&Aceptar"));
-    dialogo->setCancelButtonText(QStringLiteral("&Cancelar"));
-    for (auto* boton : dialogo->findChildren<QAbstractButton*>())
-        boton->setIcon(QIcon()); // as in all other windows
+    auto* dialogo =
+        crearPregunta(ventana_, "dlgIrA", QStringLiteral("Ir al registro"),
+                      QStringLiteral("Dirección, esclavo:dirección o nombre:"), "cuadricula.md#ir-a-un-registro");
     QStringList nombres;
     for (const auto& [registro, etiqueta] : anotaciones_.etiquetas.todas())
         nombres << QString::fromStdString(etiqueta.nombre);
@@ -137,6 +131,8 @@ void AccionesRegistros::irA() {
         auto* completador = new QCompleter(nombres, dialogo);
         completador->setCaseSensitivity(Qt::CaseInsensitive);
         completador->setFilterMode(Qt::MatchContains);
+        if (auto* lista = qobject_cast<QListView*>(completador->popup()))
+            lista->setUniformItemSizes(true); // with thousands of names each key would measure them all
         caja->setCompleter(completador);
     }
     connect(dialogo, &QInputDialog::textValueSelected, this, [this](const QString& texto) {

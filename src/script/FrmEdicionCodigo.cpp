@@ -5,6 +5,7 @@
 #include "platform/profile/Archivos.h"
 #include "platform/text/Numbers.h"
 #include "platform/window/Controles.h"
+#include "platform/window/InputBox.h"
 #include "platform/window/MsgBox.h"
 #include "platform/window/PaginaManual.h"
 #include "registers/ErrorEjecucion.h"
@@ -295,13 +296,13 @@ bool FrmEdicionCodigo::cursorEnMW() const {
 }
 
 void FrmEdicionCodigo::irALinea() {
-    bool aceptado = false;
-    const QPointer<FrmEdicionCodigo> viva = this;
-    const int linea =
-        QInputDialog::getInt(this, QStringLiteral("Ir a la línea"), QStringLiteral("Línea:"),
-                             txtCodigo_->textCursor().blockNumber() + 1, 1, txtCodigo_->blockCount(), 1, &aceptado);
-    if (viva && aceptado)
-        txtCodigo_->irA(linea, 1);
+    auto* pregunta = crearPregunta(*this, "dlgIrALinea", QStringLiteral("Ir a la línea"), QStringLiteral("Línea:"),
+                                   "editor.md#las-teclas");
+    pregunta->setInputMode(QInputDialog::IntInput);
+    pregunta->setIntRange(1, txtCodigo_->blockCount());
+    pregunta->setIntValue(txtCodigo_->textCursor().blockNumber() + 1);
+    connect(pregunta, &QInputDialog::intValueSelected, this, [this](int linea) { txtCodigo_->irA(linea, 1); });
+    pregunta->open();
 }
 
 void FrmEdicionCodigo::cambiarLetra(int puntos) {

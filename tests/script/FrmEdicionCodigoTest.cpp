@@ -8,8 +8,10 @@
 #include "platform/window/PaginaManual.h"
 #include "script/EditorDePrueba.h"
 
+#include <QInputDialog>
 #include <QLabel>
 #include <QLineEdit>
+#include <QSpinBox>
 #include <QTextBlock>
 
 namespace {
@@ -633,6 +635,33 @@ private Q_SLOTS:
     }
 
     // --------------------------------------------------------------------------------------------- other keys
+
+    void ctrlGGoesToALineAndNothingWaitsForTheAnswer() {
+        abrirCon("uno\r\ndos\r\ntres\r\ncuatro");
+        tecla(Qt::Key_Down);
+        tecla(Qt::Key_G, Qt::ControlModifier);
+        const QPointer<QInputDialog> pregunta = frm_->findChild<QInputDialog*>(QStringLiteral("dlgIrALinea"));
+        QVERIFY(pregunta && pregunta->isVisible());
+        QCOMPARE(pregunta->intValue(), 2);
+        QCOMPARE(pregunta->intMaximum(), txtCodigo().blockCount());
+        QCOMPARE(paginaManualDe(pregunta), QStringLiteral("editor.md#las-teclas"));
+        auto* numero = pregunta->findChild<QSpinBox*>();
+        numero->selectAll();
+        QTest::keyClicks(numero, QStringLiteral("3"));
+        QTest::keyClick(numero, Qt::Key_Return);
+        QCOMPARE(txtCodigo().textCursor().blockNumber(), 2);
+        QTRY_VERIFY(!pregunta);
+    }
+
+    void editorThatEndsTakesItsQuestionAlong() {
+        abrirCon("uno");
+        tecla(Qt::Key_G, Qt::ControlModifier);
+        const QPointer<QInputDialog> pregunta = frm_->findChild<QInputDialog*>(QStringLiteral("dlgIrALinea"));
+        QVERIFY(pregunta);
+        frm_->close();
+        QTRY_VERIFY(!frm_);
+        QVERIFY(!pregunta);
+    }
 
     void f1AsksForThePageOfWhatTheCursorStandsIn() {
         abrirCon("x = 1\r\nmw.escribir 1, 0, x");

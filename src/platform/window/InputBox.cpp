@@ -1,5 +1,9 @@
 #include "platform/window/InputBox.h"
 
+#include "platform/window/Controles.h"
+#include "platform/window/PaginaManual.h"
+
+#include <QAbstractButton>
 #include <QInputDialog>
 #include <QPointer>
 #include <QScopeGuard>
@@ -14,4 +18,19 @@ QString InputBox(QWidget* padre, const QString& pregunta, const QString& titulo,
     caja->setOkButtonText(QStringLiteral("Aceptar"));
     caja->setCancelButtonText(QStringLiteral("Cancelar"));
     return caja->exec() == QDialog::Accepted && caja ? caja->textValue() : QString();
+}
+
+QInputDialog* crearPregunta(QWidget& ventana, const char* nombre, const QString& titulo, const QString& rotulo,
+                            const char* paginaManual) {
+    auto* dialogo = nombrado(new QInputDialog(&ventana), nombre);
+    dialogo->setAttribute(Qt::WA_DeleteOnClose);
+    dialogo->setWindowTitle(titulo);
+    dialogo->setLabelText(rotulo);
+    dialogo->setOkButtonText(QStringLiteral("&Aceptar"));
+    dialogo->setCancelButtonText(QStringLiteral("&Cancelar"));
+    const auto botones = dialogo->findChildren<QAbstractButton*>();
+    for (auto* boton : botones)
+        boton->setIcon(QIcon()); // as in all other windows
+    ponerPaginaManual(*dialogo, paginaManual);
+    return dialogo;
 }
