@@ -1,44 +1,23 @@
 #include "registers/VistaGrafica.h"
 
 #include "registers/NumeroLocal.h"
+#include "registers/TrazosGrafica.h"
 
 #include <QDateTime>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QPainterPath>
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 
 namespace {
 
-constexpr int entreRepintados = 50; // ms
-constexpr int divisiones = 5;       // of either axis, about
+constexpr std::int64_t menorPausa = 50; // ms between two repaints
+constexpr std::int64_t mayorPausa = 250;
+constexpr int divisiones = 5; // of either axis, about
 constexpr int margenAbajo = 22;
 constexpr int margenDerecho = 12;
-
-struct Trazo {
-    QRgb claro;  // on a light ground
-    QRgb oscuro; // on a dark one
-    Qt::PenStyle guion;
-};
-// Told apart without colours too: every line has a dash or a width of its own.
-constexpr std::array<Trazo, VistaGrafica::maxLineas> trazos{{
-    {0xff1f5fbf, 0xff7fb2ff, Qt::SolidLine},
-    {0xffb3261e, 0xffff8a80, Qt::DashLine},
-    {0xff1b7f3b, 0xff7fe0a0, Qt::DotLine},
-    {0xff7a3fb0, 0xffcf9fff, Qt::DashDotLine},
-    {0xff9a5b00, 0xffffc266, Qt::DashDotDotLine},
-    {0xff00798c, 0xff6fe3f2, Qt::SolidLine},
-    {0xff8c1d5f, 0xffff9fd0, Qt::DashLine},
-    {0xff4d4d4d, 0xffd0d0d0, Qt::DotLine},
-}};
-
-qreal grosor(std::size_t linea) {
-    return linea < 5 ? 1.6 : 2.8;
-}
 
 } // namespace
 
@@ -49,12 +28,12 @@ VistaGrafica::VistaGrafica(const std::vector<LineaGrafica>& lineas, std::functio
     setFocusPolicy(Qt::StrongFocus);
     setAutoFillBackground(true);
     setBackgroundRole(QPalette::Base);
-    repintado_.setInterval(entreRepintados);
+    ponerVentana(ventana_);
     connect(&repintado_, &QTimer::timeout, this, qOverload<>(&QWidget::update));
 }
 
 QColor VistaGrafica::color(std::size_t linea, bool fondoOscuro) {
-    const Trazo& trazo = trazos[linea % maxLineas];
+    const Trazo& trazo = trazos[linea % trazos.size()];
     return QColor::fromRgb(fondoOscuro ? trazo.oscuro : trazo.claro);
 }
 
@@ -64,7 +43,19 @@ bool VistaGrafica::fondoOscuro() const {
 
 void VistaGrafica::ponerVentana(std::int64_t milisegundos) {
     ventana_ = std::clamp<std::int64_t>(milisegundos, 10'000, HistoriaRegistro::maxEdad);
+    ajustarRitmo();
     update();
+}
+
+// As often as the drawing moves on by a pixel, within what the eye and the legend need.
+void VistaGrafica::ajustarRitmo() {
+    const std::int64_t porColumna = ventana_ / std::max(1, marco().width());
+    repintado_.setInterval(static_cast<int>(std::clamp(porColumna, menorPausa, mayorPausa)));
+}
+
+void VistaGrafica::resizeEvent(QResizeEvent* evento) {
+    QWidget::resizeEvent(evento);
+    ajustarRitmo();
 }
 
 void VistaGrafica::pausar(bool pausa) {
@@ -134,7 +125,6 @@ void VistaGrafica::paintEvent(QPaintEvent* /*evento*/) {
         return;
     const Escala e = escala(fin() - ventana_, fin());
     pintarEjes(pintor, m, e);
-    pintor.setRenderHint(QPainter::Antialiasing);
     pintor.setClipRect(m.adjusted(0, -2, 1, 2));
     for (std::size_t i = 0; i < lineas_.size(); ++i)
         pintarLinea(pintor, m, e, i);
@@ -175,34 +165,37 @@ void VistaGrafica::pintarEjes(QPainter& pintor, const QRect& marco, const Escala
     }
 }
 
-// A column of pixels at a time: the step to the value that holds there, and everything between the least and the
-// greatest.
-void VistaGrafica::pintarLinea(QPainter& pintor, const QRect& marco, const Escala& escala, std::size_t cual) const {
-    const HistoriaRegistro& historia = lineas_[cual].historia;
-    const double porColumna = static_cast<double>(ventana_) / marco.width();
+// The least and the greatest value in each column of pixels, the one that held at its beginning included; empty before
+// the first value.
+VistaGrafica::Columnas VistaGrafica::columnas(const HistoriaRegistro& historia, int cuantas) const {
+    const double porColumna = static_cast<double>(ventana_) / cuantas;
     const std::int64_t principio = fin() - ventana_;
-    QPainterPath camino;
-    bool empezado = false;
-    for (int columna = 0; columna < marco.width(); ++columna) {
+    Columnas todas(static_cast<std::size_t>(cuantas));
+    for (int columna = 0; columna < cuantas; ++columna) {
         const auto desde = principio + static_cast<std::int64_t>(columna * porColumna);
         const auto hasta = principio + static_cast<std::int64_t>((columna + 1) * porColumna);
-        const auto extremos = historia.extremos(desde, std::max(hasta, desde + 1));
-        if (!extremos)
-            continue;
-        const double x = marco.left() + columna + 0.5;
-        const double ultimo = y(*historia.valorEn(std::max(hasta - 1, desde)), escala, marco);
-        if (!empezado)
-            camino.moveTo(x, y(extremos->minimo, escala, marco));
-        empezado = true;
-        if (extremos->minimo != extremos->maximo) {
-            camino.lineTo(x, y(extremos->maximo, escala, marco));
-            camino.lineTo(x, y(extremos->minimo, escala, marco));
-        }
-        camino.lineTo(x, ultimo);
+        todas[static_cast<std::size_t>(columna)] = historia.extremos(desde, std::max(hasta, desde + 1));
     }
-    pintor.setPen(QPen(color(cual, fondoOscuro()), grosor(cual), trazos[cual % maxLineas].guion));
-    pintor.setBrush(Qt::NoBrush);
-    pintor.drawPath(camino);
+    return todas;
+}
+
+// One bar a column, from the least to the greatest value. Bars and no strokes: to stroke a dashed path that goes up and
+// down in every column takes seconds. The dash goes by columns; a lone step is drawn whole, so that none gets lost.
+void VistaGrafica::pintarLinea(QPainter& pintor, const QRect& marco, const Escala& escala, std::size_t cual) const {
+    const Columnas todas = columnas(lineas_[cual].historia, marco.width());
+    const auto cambia = [&](std::size_t columna) {
+        return columna < todas.size() && todas[columna] && todas[columna]->minimo != todas[columna]->maximo;
+    };
+    const QColor tinta = color(cual, fondoOscuro());
+    const int grueso = qRound(grosor(cual));
+    for (std::size_t columna = 0; columna < todas.size(); ++columna) {
+        const bool escalon = cambia(columna) && !cambia(columna - 1) && !cambia(columna + 1);
+        if (!todas[columna] || !(escalon || conTinta(cual, columna / static_cast<std::size_t>(grueso))))
+            continue;
+        const int arriba = qRound(y(todas[columna]->maximo, escala, marco)) - grueso / 2;
+        const int abajo = qRound(y(todas[columna]->minimo, escala, marco)) - grueso / 2 + grueso;
+        pintor.fillRect(marco.left() + static_cast<int>(columna), arriba, escalon ? grueso : 1, abajo - arriba, tinta);
+    }
 }
 
 void VistaGrafica::pintarCursor(QPainter& pintor, const QRect& marco) const {
@@ -232,7 +225,7 @@ void VistaGrafica::pintarLeyenda(QPainter& pintor, const QRect& marco) const {
     for (std::size_t i = 0; i < lineas_.size(); ++i) {
         const int x = marco.left() + static_cast<int>(i % 2) * ancho;
         const int fila = 4 + static_cast<int>(i / 2) * (letra.height() + 2);
-        pintor.setPen(QPen(color(i, fondoOscuro()), grosor(i), trazos[i % maxLineas].guion));
+        pintor.setPen(QPen(color(i, fondoOscuro()), grosor(i), trazos[i % trazos.size()].guion));
         pintor.drawLine(x, fila + letra.height() / 2, x + 26, fila + letra.height() / 2);
         pintor.setPen(palette().color(QPalette::Text));
         const QString texto = lineas_[i].titulo + QStringLiteral(" = ") + valorDeLeyenda(lineas_[i]);

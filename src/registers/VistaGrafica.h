@@ -59,6 +59,7 @@ protected:
     void keyPressEvent(QKeyEvent* evento) override;
     void showEvent(QShowEvent* evento) override;
     void hideEvent(QHideEvent* evento) override;
+    void resizeEvent(QResizeEvent* evento) override;
 
 private:
     struct Escala {
@@ -66,7 +67,11 @@ private:
         double maximo;
         double paso; // between two marks
     };
+    using Columnas = std::vector<std::optional<HistoriaRegistro::Extremos>>;
+
+    void ajustarRitmo();
     QRect marco() const;
+    Columnas columnas(const HistoriaRegistro& historia, int cuantas) const;
     Escala escala(std::int64_t desde, std::int64_t hasta) const;
     static Escala redonda(const Escala& valores);
     double y(double valor, const Escala& escala, const QRect& marco) const;

@@ -1,6 +1,8 @@
 #include "registers/FrmGrafica.h"
 
+#include "PasoDelTiempo.h"
 #include "RelojDePrueba.h"
+#include "TiempoDeProcesador.h"
 
 #include <QDir>
 #include <QFile>
@@ -14,7 +16,10 @@
 #include <QTest>
 #include <QThread>
 
+#include <chrono>
 #include <memory>
+
+using namespace std::chrono_literals;
 
 class TestFrmGrafica : public QObject {
     Q_OBJECT
@@ -25,6 +30,7 @@ private:
     std::unique_ptr<Anotaciones> anotaciones_;
     QPointer<FrmGrafica> grafica_;
     QTemporaryDir carpeta_;
+    int pinturas_ = 0;
 
     // The dialog that the keys open, once it is on the screen; it may not hold the loop that serves the masters.
     QFileDialog* dialogoDe(Qt::Key tecla) {
@@ -45,6 +51,19 @@ private:
         auto* caja = dialogo.findChild<QLineEdit*>();
         caja->setText(nombre);
         QTest::keyClick(caja, Qt::Key_Return);
+    }
+
+    bool eventFilter(QObject* objeto, QEvent* evento) override {
+        pinturas_ += evento->type() == QEvent::Paint ? 1 : 0;
+        return QObject::eventFilter(objeto, evento);
+    }
+
+    static int cuantosDe(const QImage& imagen, const QColor& color) {
+        int hallados = 0;
+        for (int y = 0; y < imagen.height(); ++y)
+            for (int x = 0; x < imagen.width(); ++x)
+                hallados += imagen.pixel(x, y) == color.rgb() ? 1 : 0;
+        return hallados;
     }
 
     QString ruta(const QString& nombre) const { return QDir(carpeta_.path()).filePath(nombre); }
@@ -100,6 +119,63 @@ private Q_SLOTS:
         QTRY_VERIFY(grafica_->findChild<QMessageBox*>() != nullptr);
         const QString texto = grafica_->findChild<QMessageBox*>()->text();
         QVERIFY2(texto.startsWith(QStringLiteral("No se pudo guardar /no/existe/tabla.csv: ")), qPrintable(texto));
+    }
+
+    // Registers that change in every column of pixels, from the bottom to the top: seconds, if each were a stroke.
+    void aLargeChartFullOfChangesIsPaintedInNoTime() {
+        std::vector<LineaGrafica> lineas;
+        for (int i = 0; i < static_cast<int>(VistaGrafica::maxLineas); ++i) {
+            lineas.push_back({2, i, QStringLiteral("2:%1").arg(i), {}, {}});
+            for (int ms = 0; ms < 60'000; ms += 20)
+                lineas.back().historia.anotar(ms, ms % 40 == 0 ? 0 : 65535.0 / (i + 1));
+        }
+        VistaGrafica vista(lineas, [] { return std::int64_t{60'000}; });
+        vista.resize(1900, 1000);
+        QImage imagen(vista.size(), QImage::Format_RGB32);
+        const std::int64_t antes = msDeProcesador();
+        vista.render(&imagen);
+        const std::int64_t gastado = msDeProcesador() - antes;
+        QVERIFY2(gastado < 1000, qPrintable(QString::number(gastado)));
+        QVERIFY(cuantosDe(imagen, VistaGrafica::color(0, false)) > 10'000);
+    }
+
+    // Whatever the dash, and wherever the step falls in it.
+    void aLoneStepIsDrawnFromEndToEnd() {
+        std::vector<LineaGrafica> lineas;
+        for (int i = 0; i < static_cast<int>(VistaGrafica::maxLineas); ++i)
+            lineas.push_back({2, i, {}, {}, {}});
+        std::int64_t ahora = 60'000;
+        VistaGrafica vista(lineas, [&] { return ahora; });
+        for (std::size_t cual = 0; cual < lineas.size(); ++cual) {
+            for (LineaGrafica& linea : lineas)
+                linea.historia.vaciar();
+            lineas[cual].historia.anotar(0, 0);
+            lineas[cual].historia.anotar(30'000, 100);
+            for (ahora = 60'000; ahora < 62'000; ahora += 80) { // about a column
+                const QImage imagen = vista.grab().toImage();
+                const int alto = imagen.height() / 2; // between the two values
+                QVERIFY2(cuantosDe(imagen.copy(0, alto, imagen.width(), 1), VistaGrafica::color(cual, false)) > 0,
+                         qPrintable(QStringLiteral("línea %1, %2 ms").arg(cual).arg(ahora)));
+            }
+        }
+    }
+
+    void theChartIsPaintedAsOftenAsItMovesOn() {
+        auto* vista = grafica_->findChild<VistaGrafica*>();
+        const auto pinturasEnDiezSegundos = [&](std::int64_t ventana) {
+            vista->ponerVentana(ventana);
+            pinturas_ = 0;
+            PasoDelTiempo tiempo(*grafica_);
+            for (int ms = 0; ms < 10'000; ms += 10) {
+                reloj_.pasar(10ms);
+                tiempo.pasar(10ms);
+            }
+            return pinturas_;
+        };
+        vista->installEventFilter(this);
+        QVERIFY(pinturasEnDiezSegundos(10'000) >= 150);
+        const int conUnaHora = pinturasEnDiezSegundos(3'600'000);
+        QVERIFY2(conUnaHora >= 35 && conUnaHora <= 42, qPrintable(QString::number(conUnaHora)));
     }
 
     void theChartMayBeClosedWhileItAsks() {
