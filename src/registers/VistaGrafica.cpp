@@ -141,7 +141,9 @@ void VistaGrafica::pintarEjes(QPainter& pintor, const QRect& marco, const Escala
     QColor reja = palette().color(QPalette::Text);
     reja.setAlphaF(0.18F);
     const QColor letra = palette().color(QPalette::Text);
-    for (double valor = escala.minimo; valor <= escala.maximo + escala.paso / 2; valor += escala.paso) {
+    const std::int64_t pasos = std::llround((escala.maximo - escala.minimo) / escala.paso);
+    for (std::int64_t i = 0; i <= pasos; ++i) {
+        const double valor = escala.minimo + static_cast<double>(i) * escala.paso;
         const int fila = static_cast<int>(y(valor, escala, marco));
         pintor.setPen(reja);
         pintor.drawLine(marco.left(), fila, marco.right(), fila);

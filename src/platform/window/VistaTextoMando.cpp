@@ -12,6 +12,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 
 namespace {
 
@@ -144,7 +145,7 @@ std::size_t VistaTexto::posicionEn(QPointF punto) const {
         return todas.enColumna(todas.anterior(fila), static_cast<int>(punto.x() / letra_.ancho()));
     for (; n > 0 && !todas.esUltima(fila); --n)
         fila = todas.desde(fila.hasta);
-    return todas.enColumna(fila, static_cast<int>((punto.x() - margen) / letra_.ancho() + 0.5));
+    return todas.enColumna(fila, static_cast<int>(std::lround((punto.x() - margen) / letra_.ancho())));
 }
 
 void VistaTexto::mousePressEvent(QMouseEvent* evento) {

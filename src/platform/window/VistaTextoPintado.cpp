@@ -34,7 +34,7 @@ void VistaTexto::paintEvent(QPaintEvent*) {
     const FilasTexto todas = filas();
     const auto hallazgos = hallazgosVisibles(finDePantalla());
     FilaTexto fila = todas.desde(arriba_);
-    for (qreal y = margen; y < viewport()->height(); y += fontMetrics().height()) {
+    for (int y = margen; y < viewport()->height(); y += fontMetrics().height()) {
         pintarFila(pintor, fila, y, hallazgos);
         if (todas.esUltima(fila))
             break;
