@@ -234,6 +234,8 @@ private:
     void exitStatement(const Stmt& s);
     void reDimStatement(const Stmt& s);
     void eraseStatement(const Stmt& s);
+    void putBack(const Expr* target, Operand copy);
+    bool isElement(const Expr* e);
     void prologue();
 
     UnitScope& scope_;

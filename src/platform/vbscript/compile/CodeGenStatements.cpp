@@ -301,30 +301,50 @@ void CodeGen::reDimStatement(const Stmt& s) {
             const Operand first = contiguous(target->args);
             emit(encode(op, array, first, 0, packed(target->args.size(), Store::Raw)));
         } else {
-            // A member or element: take it out, change it, put it back.
             const Operand copy = newTemporary();
             exprTo(target->a, copy, Store::Raw);
             const Operand first = contiguous(target->args);
             emit(encode(op, copy, first, 0, packed(target->args.size(), Store::Raw)));
-            if (target->a->kind == Expr::Kind::Member) {
-                const Operand object = target->a->a != nullptr ? expr(target->a->a) : withObject();
-                emit(encode(Opcode::SetMember, object, copy, site(target->a->symbol),
-                            packed(isTemporary(object) ? 1 : 0, Store::Let)));
-            } else {
-                const Road road = roadTo(target->a);
-                const Operand indexes = indexesOf(road);
-                storeDeep(road, indexes, copy, Store::Let);
-            }
+            putBack(target->a, copy);
         }
         temporary_ = temporaries;
     }
 }
 
+// A member or an element that was taken out and changed returns to its place.
+void CodeGen::putBack(const Expr* target, Operand copy) {
+    if (target->kind == Expr::Kind::Member) {
+        const Operand object = target->a != nullptr ? expr(target->a) : withObject();
+        emit(encode(Opcode::SetMember, object, copy, site(target->symbol),
+                    packed(isTemporary(object) ? 1 : 0, Store::Let)));
+    } else {
+        const Road road = roadTo(target);
+        const Operand indexes = indexesOf(road);
+        storeDeep(road, indexes, copy, Store::Let);
+    }
+}
+
+// Whether the expression is an element of a variable, however deep.
+bool CodeGen::isElement(const Expr* e) {
+    const Expr* base = e;
+    while (base->kind == Expr::Kind::Call && !base->args.empty()) {
+        base = base->a;
+    }
+    return base != e && base->kind == Expr::Kind::Name && resolve(base->symbol).kind == Resolved::Kind::Variable;
+}
+
 void CodeGen::eraseStatement(const Stmt& s) {
     for (const Expr* target : s.targets) {
         const std::size_t temporaries = temporary_;
-        const Operand operand = expr(target);
-        emit(encode(Opcode::Erase, operand));
+        const ClassMember* own = ownMember(target);
+        const bool field = own != nullptr && own->field >= 0;
+        const Operand array = field ? operandOf(Place::Field, static_cast<std::size_t>(own->field)) : expr(target);
+        emit(encode(Opcode::Erase, array));
+        if (!field && (target->kind == Expr::Kind::Member || isElement(target))) {
+            putBack(target, array);
+        } else if (isTemporary(array)) {
+            emit(encode(Opcode::Clear, array));
+        }
         temporary_ = temporaries;
     }
 }

@@ -340,7 +340,8 @@ void Vm::erase(Operand o) {
     if (!variable.isArray()) {
         raise(ErrorNumber::TypeMismatch);
     }
-    if (variable.array()->locks > 0) {
+    const bool takenOut = isTemporary(o) && &variable == &at(o); // of a place that a fixed array does not return to
+    if (variable.array()->locks > 0 || (takenOut && variable.array()->fixed())) {
         raise(ErrorNumber::ArrayLocked);
     }
     if (variable.array()->fixed()) {
@@ -349,7 +350,6 @@ void Vm::erase(Operand o) {
     } else {
         variable = Value::ofArray(ArrayBlock::create(std::span<const std::int32_t>{}));
     }
-    consume(o);
 }
 
 // Dim with bounds, or with empty ones. Executed again, in a loop or by the next pass, it changes nothing.

@@ -158,8 +158,10 @@ Stmt* Parser::parseErase() {
     advance();
     do {
         statement->targets.push_back(parsePrimary());
-        if (statement->targets.back()->kind == Expr::Kind::Name) {
-            procedure_->changed.push_back(statement->targets.back()->symbol);
+        for (const Expr* base = statement->targets.back(); base != nullptr; base = base->a) {
+            if (base->kind == Expr::Kind::Name) {
+                procedure_->changed.push_back(base->symbol);
+            }
         }
     } while (accept(Sign::Comma));
     return statement;
