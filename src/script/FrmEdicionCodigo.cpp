@@ -24,6 +24,7 @@
 #include <QLineEdit>
 #include <QSplitter>
 #include <QTextBlock>
+#include <QTimer>
 
 namespace {
 
@@ -180,13 +181,10 @@ bool FrmEdicionCodigo::eventFilter(QObject* objeto, QEvent* evento) {
         if (causa != Qt::ActiveWindowFocusReason && causa != Qt::PopupFocusReason && isVisible()) {
             periodoPendiente_ = true;
             // Not within the event: the focus is on its way to another control.
-            QMetaObject::invokeMethod(
-                this,
-                [this] {
-                    if (periodoPendiente_)
-                        comprobarPeriodo();
-                },
-                Qt::QueuedConnection);
+            QTimer::singleShot(0, this, [this] {
+                if (periodoPendiente_)
+                    comprobarPeriodo();
+            });
         }
     }
     return QWidget::eventFilter(objeto, evento);

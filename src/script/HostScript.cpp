@@ -46,8 +46,10 @@ void HostScript::longRun(std::chrono::milliseconds elapsed) {
     QWidget* const ventana = sinPantalla_ ? nullptr : ventanaEnUso();
     if (ventana == nullptr || !ventana->isVisible())
         return;
-    if (barra_ && barra_->window() != ventana)
-        delete barra_;
+    if (BarraScript* const otra = barra_; otra != nullptr && otra->window() != ventana) {
+        barra_.clear();
+        delete otra;
+    }
     if (!barra_)
         barra_ = new BarraScript(*ventana, [this] {
             atencion_ = Atencion::parada;

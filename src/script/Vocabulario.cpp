@@ -78,7 +78,7 @@ QList<Sugerencia> sugerenciasPara(QStringView texto, qsizetype lugar) {
         const bool nombre = token.kind == vbs::Token::Kind::Identifier && !trasPunto && token.text.size() > 1 &&
                             token.text.size() == token.length; // not in [brackets]
         trasPunto = token.sign == vbs::Token::Sign::Dot;
-        if (!nombre || static_cast<qsizetype>(token.offset + token.length) == lugar)
+        if (!nombre || static_cast<qsizetype>(token.offset) + static_cast<qsizetype>(token.length) == lugar)
             continue;
         const QString escrito = deUtf16(token.text);
         if (const QString clave = escrito.toLower(); !vistos.contains(clave)) {
