@@ -296,8 +296,7 @@ bool FrmEdicionCodigo::cursorEnMW() const {
 void FrmEdicionCodigo::irALinea() {
     auto* pregunta = crearPregunta(*this, "dlgIrALinea", QStringLiteral("Ir a la línea"), QStringLiteral("Línea:"),
                                    "editor.md#las-teclas");
-    pregunta->setInputMode(QInputDialog::IntInput);
-    pregunta->setIntRange(1, txtCodigo_->blockCount());
+    pregunta->setIntRange(1, txtCodigo_->blockCount()); // before the value, or "Aceptar" comes up greyed
     pregunta->setIntValue(txtCodigo_->textCursor().blockNumber() + 1);
     connect(pregunta, &QInputDialog::intValueSelected, this, [this](int linea) { txtCodigo_->irA(linea, 1); });
     pregunta->open();

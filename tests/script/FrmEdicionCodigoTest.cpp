@@ -643,6 +643,8 @@ private Q_SLOTS:
         const QPointer<QInputDialog> pregunta = frm_->findChild<QInputDialog*>(QStringLiteral("dlgIrALinea"));
         QVERIFY(pregunta && pregunta->isVisible());
         QCOMPARE(pregunta->intValue(), 2);
+        for (const auto* boton : pregunta->findChildren<QAbstractButton*>())
+            QVERIFY2(boton->isEnabled(), qPrintable(boton->text()));
         QCOMPARE(pregunta->intMaximum(), txtCodigo().blockCount());
         QCOMPARE(paginaManualDe(pregunta), QStringLiteral("editor.md#las-teclas"));
         auto* numero = pregunta->findChild<QSpinBox*>();
