@@ -41,3 +41,15 @@ TEST(CarpetaPrograma, aCopyInAFolderWithBlanksKnowsItsOwnPlace) {
     fs::copy_file(imprimeCarpeta, copia);
     EXPECT_EQ(salidaDe(copia), lugar(copia));
 }
+
+// As after an update, which puts a new file in its place.
+TEST(CarpetaPrograma, anExecutableThatIsGoneMeanwhileKeepsItsName) {
+    const CarpetaTemporal carpeta;
+    const fs::path copia = carpeta / "estación";
+    fs::copy_file(imprimeCarpeta, copia);
+    const std::string nombre = "'" + copia.string() + "'";
+    const std::string orden =
+        "exec 3<" + nombre + "; rm " + nombre + "; /proc/self/fd/3 >'" + (carpeta / "salida").string() + "'";
+    ASSERT_EQ(std::system(orden.c_str()), 0);
+    EXPECT_EQ(contenidoDe(carpeta / "salida"), lugar(copia));
+}

@@ -88,6 +88,24 @@ private Q_SLOTS:
         QTEST(MsgBox(nullptr, QStringLiteral("x"), estilo), "codigo");
     }
 
+    void escapeAnswersNothingWhereNothingCanBeCancelled_data() {
+        QTest::addColumn<int>("estilo");
+        QTest::addColumn<int>("codigo");
+        QTest::newRow("yes, no") << vbYesNo << vbYes;
+        QTest::newRow("abort, retry, ignore") << vbAbortRetryIgnore << vbAbort;
+    }
+    void escapeAnswersNothingWhereNothingCanBeCancelled() {
+        QFETCH(int, estilo);
+        QTimer vigia;
+        connect(&vigia, &QTimer::timeout, this, [&] {
+            if (QWidget* const caja = QApplication::activeModalWidget())
+                for (const Qt::Key tecla : {Qt::Key_Escape, Qt::Key_Return})
+                    QTest::keyClick(caja, tecla);
+        });
+        vigia.start(5);
+        QTEST(MsgBox(nullptr, QStringLiteral("x"), estilo), "codigo");
+    }
+
     void noticeReturnsAtOnceAndGoesAwayWhenClosed() {
         QWidget ventana;
         avisarMsgBox(&ventana, QStringLiteral("Desbordamiento"), vbCritical);
