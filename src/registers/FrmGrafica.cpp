@@ -17,7 +17,8 @@
 
 #include <algorithm>
 #include <array>
-#include <set>
+#include <utility>
+#include <vector>
 
 namespace {
 
@@ -117,22 +118,33 @@ void FrmGrafica::registroEscrito(int esclavo, int direccion, double antes, doubl
 QString FrmGrafica::comoCsv() const {
     const std::int64_t hasta = vista_->fin();
     const std::int64_t desde = hasta - vista_->ventana();
-    std::set<std::int64_t> cuando;
+    std::vector<std::int64_t> cuando;
     for (const LineaGrafica& linea : lineas_)
         for (const HistoriaRegistro::Tramo& tramo : linea.historia.tramos())
             if (tramo.desde <= hasta)
-                cuando.insert(std::max(tramo.desde, desde));
+                cuando.push_back(std::max(tramo.desde, desde));
+    std::sort(cuando.begin(), cuando.end());
+    cuando.erase(std::unique(cuando.begin(), cuando.end()), cuando.end());
     QString texto = QStringLiteral("fecha;hora");
     for (const LineaGrafica& linea : lineas_) {
         QString citado = linea.titulo;
         texto += QStringLiteral(";\"%1\"").arg(citado.replace(QLatin1Char('"'), QStringLiteral("\"\"")));
     }
     texto += QStringLiteral("\r\n");
+    std::vector<std::size_t> empezados(lineas_.size()); // of each line: how many of its values began by then
+    std::int64_t segundo = -1;
+    QString hora; // without its thousandths: most of the work, and the same for many rows
     for (const std::int64_t t : cuando) {
-        texto += QDateTime::fromMSecsSinceEpoch(t).toString(QStringLiteral("dd/MM/yyyy;HH:mm:ss.zzz"));
-        for (const LineaGrafica& linea : lineas_) {
-            const auto valor = linea.historia.valorEn(t);
-            texto += QLatin1Char(';') + (valor ? textoLocal(*valor) : QString());
+        if (std::exchange(segundo, t / 1000) != t / 1000)
+            hora = QDateTime::fromMSecsSinceEpoch(t).toString(QStringLiteral("dd/MM/yyyy;HH:mm:ss."));
+        texto += hora + QString::number(1000 + t % 1000).mid(1);
+        for (std::size_t i = 0; i < lineas_.size(); ++i) {
+            const auto& tramos = lineas_[i].historia.tramos();
+            while (empezados[i] < tramos.size() && tramos[empezados[i]].desde <= t)
+                ++empezados[i];
+            texto += QLatin1Char(';');
+            if (empezados[i] > 0)
+                texto += textoLocal(tramos[empezados[i] - 1].ultimo);
         }
         texto += QStringLiteral("\r\n");
     }

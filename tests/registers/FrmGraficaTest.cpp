@@ -4,6 +4,7 @@
 #include "RelojDePrueba.h"
 #include "TiempoDeProcesador.h"
 
+#include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QFileDialog>
@@ -18,6 +19,8 @@
 
 #include <chrono>
 #include <memory>
+#include <tuple>
+#include <vector>
 
 using namespace std::chrono_literals;
 
@@ -93,6 +96,25 @@ private Q_SLOTS:
         const QByteArray bytes = archivo.readAll();
         QCOMPARE(bytes, QByteArrayLiteral("\xEF\xBB\xBF") + grafica_->comoCsv().toUtf8());
         QVERIFY2(bytes.endsWith(";77\r\n"), bytes.constData());
+    }
+
+    void theTableHasARowForEachChangeWithWhatHeldThen() {
+        const FrmGrafica::Registro dos[] = {{2, 5}, {2, 6}};
+        FrmGrafica grafica(*esclavos_, *anotaciones_, dos);
+        grafica.setAttribute(Qt::WA_DeleteOnClose, false);
+        std::vector<QDateTime> horas{QDateTime::fromMSecsSinceEpoch(anotaciones_->cambios.hora())};
+        for (const auto& [pausa, direccion, valor] :
+             {std::tuple{1005ms, 5, 10.0}, {30ms, 6, 12.5}, {1000ms, 5, 20.0}, {2971ms, 5, 21.0}}) {
+            reloj_.pasar(pausa);
+            esclavos_->escribir(2, direccion, valor);
+            horas.push_back(QDateTime::fromMSecsSinceEpoch(anotaciones_->cambios.hora()));
+        }
+        QString esperado = QStringLiteral("fecha;hora;\"2:5\";\"2:6\"\r\n");
+        const char* valores[] = {";0;0", ";10;0", ";10;12,5", ";20;12,5", ";21;12,5"};
+        for (std::size_t i = 0; i < horas.size(); ++i)
+            esperado += horas[i].toString(QStringLiteral("dd/MM/yyyy;HH:mm:ss.zzz")) + QString::fromLatin1(valores[i]) +
+                        QStringLiteral("\r\n");
+        QCOMPARE(grafica.comoCsv(), esperado);
     }
 
     void thePictureIsSavedAsLargeAsItIsShown() {
