@@ -64,4 +64,17 @@ TEST(HistoriaRegistroTest, aClockThatWasSetBackStandsStill) {
     EXPECT_FALSE(historia.valorEn(4999));
 }
 
+TEST(HistoriaRegistroTest, aValueReplacedJustBeforeTheBeginningIsNotWithin) {
+    HistoriaRegistro historia;
+    historia.anotar(0, 1);
+    historia.anotar(99, 5);
+    const auto desdeEl100 = historia.extremos(100, 200);
+    ASSERT_TRUE(desdeEl100);
+    EXPECT_EQ(desdeEl100->minimo, 5);
+    EXPECT_EQ(desdeEl100->maximo, 5);
+    const auto desdeEl99 = historia.extremos(99, 200);
+    ASSERT_TRUE(desdeEl99);
+    EXPECT_EQ(desdeEl99->minimo, 1) << "the step itself is drawn where it is taken";
+}
+
 } // namespace
