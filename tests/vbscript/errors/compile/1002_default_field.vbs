@@ -1,0 +1,1 @@
+Class K : Public Default v : End Class '! 1002

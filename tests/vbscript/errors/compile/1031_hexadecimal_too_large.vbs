@@ -1,0 +1,1 @@
+x = &HFFFFFFFFF '! 1031

@@ -1,0 +1,1 @@
+Set Me = Nothing '! 1037

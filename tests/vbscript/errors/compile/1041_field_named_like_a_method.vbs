@@ -1,0 +1,5 @@
+Class C
+  Sub a
+  End Sub
+  Dim a '! 1041
+End Class

@@ -1,0 +1,1 @@
+Public Default x '! 1048
