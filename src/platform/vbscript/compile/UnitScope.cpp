@@ -93,9 +93,11 @@ bool UnitScope::writesParameter(const ProcedureDecl& procedure, std::size_t inde
     if (procedure.dynamicScope || contains(procedure.assigned) || contains(procedure.changed)) {
         return true;
     }
-    return std::any_of(procedure.passed.begin(), procedure.passed.end(), [&](const Passed& passed) {
+    const auto mayWrite = [&](const Passed& passed) {
         return passed.name == name && mayWriteArgument(procedure, index, passed);
-    });
+    };
+    return std::any_of(procedure.passed.begin(), procedure.passed.end(), mayWrite) ||
+           std::any_of(procedure.elements.begin(), procedure.elements.end(), mayWrite);
 }
 
 bool UnitScope::mayWriteArgument(const ProcedureDecl& caller, std::size_t callerIndex, const Passed& passed) {

@@ -231,6 +231,7 @@ struct ProcedureDecl {
     std::vector<Symbol> redimmed;        // names that a ReDim would declare
     std::vector<Symbol> changed;         // names whose elements are assigned, or that ReDim and Erase act on
     std::vector<Passed> passed;          // names that stand alone as arguments
+    std::vector<Passed> elements;        // names whose elements do
     std::vector<Symbol> mentioned;       // every name
     std::vector<Symbol> called;          // names that are called or indexed
     std::vector<Symbol> objects;         // names that Set or For Each assign

@@ -274,8 +274,11 @@ Expr* Parser::call(Expr* callee, std::vector<Expr*> arguments, Position at) {
         procedure_->called.push_back(name);
     }
     for (std::size_t i = 0; i < e->args.size(); ++i) {
-        if (e->args[i]->kind == Expr::Kind::Name) {
-            procedure_->passed.push_back({e->args[i]->symbol, name, i, e->args[i]->at});
+        const Expr* argument = e->args[i];
+        if (argument->kind == Expr::Kind::Name) {
+            procedure_->passed.push_back({argument->symbol, name, i, argument->at});
+        } else if (argument->kind == Expr::Kind::Call && argument->a->kind == Expr::Kind::Name) {
+            procedure_->elements.push_back({argument->a->symbol, name, i, argument->at});
         }
     }
     setHeight(*e);
