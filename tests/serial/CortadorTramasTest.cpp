@@ -120,6 +120,14 @@ TEST(FrameCutting, emptiedBufferForgetsHalfAMark) {
     EXPECT_EQ(cortar(cortador, "\rCD\n\r"), "\rCD\n\n\r");
 }
 
+TEST(FrameCutting, emptiedBufferIsSearchedFromItsFirstCharacter) {
+    CortadorTramas cortador{MarcaFin()};
+    cortar(cortador, "AB");
+    cortador.vaciar();
+    EXPECT_EQ(cortar(cortador, "\n\rAB"), "\n\n\r");
+    EXPECT_EQ(cortador.buffer(), "\rAB");
+}
+
 TEST(FrameCutting, versionChangesWithTheBufferOnly) {
     CortadorTramas cortador{MarcaFin()};
     const auto alPrincipio = cortador.version();
