@@ -2,6 +2,7 @@
 
 #include "platform/locale/SystemLocale.h"
 #include "platform/window/Controles.h"
+#include "platform/window/DialogoGuardar.h"
 #include "platform/window/InputBox.h"
 #include "platform/window/MsgBox.h"
 #include "platform/window/PaginaManual.h"
@@ -154,13 +155,9 @@ void AccionesRegistros::exportar() {
     if (pagina_ == nullptr)
         return;
     const int esclavo = pagina_->numero();
-    auto* dialogo = new QFileDialog(&ventana_, QStringLiteral("Exportar la tabla del esclavo %1").arg(esclavo),
-                                    QString(), QStringLiteral("Texto CSV (*.csv)"));
-    dialogo->setAttribute(Qt::WA_DeleteOnClose);
-    dialogo->setOption(QFileDialog::DontUseNativeDialog);
-    dialogo->setAcceptMode(QFileDialog::AcceptSave);
-    dialogo->setDefaultSuffix(QStringLiteral("csv"));
-    dialogo->selectFile(QStringLiteral("esclavo%1.csv").arg(esclavo));
+    auto* dialogo =
+        crearDialogoGuardar(ventana_, QStringLiteral("Exportar la tabla del esclavo %1").arg(esclavo),
+                            QStringLiteral("Texto CSV (*.csv)"), QStringLiteral("esclavo%1.csv").arg(esclavo));
     ponerPaginaManual(*dialogo, "cuadricula.md#pegar-y-exportar");
     connect(dialogo, &QFileDialog::fileSelected, this, [this, esclavo](const QString& archivo) {
         QSaveFile salida(archivo);

@@ -1,6 +1,7 @@
 #include "registers/FrmGrafica.h"
 
 #include "platform/window/Controles.h"
+#include "platform/window/DialogoGuardar.h"
 #include "platform/window/MsgBox.h"
 #include "platform/window/PaginaManual.h"
 #include "registers/NumeroLocal.h"
@@ -153,12 +154,7 @@ QString FrmGrafica::comoCsv() const {
 
 // Asks for a file beside the rest of the program's work, and then writes it.
 void FrmGrafica::pedirArchivo(const QString& titulo, const QString& filtro, const QString& sufijo, Escritor escribir) {
-    auto* dialogo = new QFileDialog(this, titulo, QString(), filtro);
-    dialogo->setAttribute(Qt::WA_DeleteOnClose);
-    dialogo->setOption(QFileDialog::DontUseNativeDialog);
-    dialogo->setAcceptMode(QFileDialog::AcceptSave);
-    dialogo->setDefaultSuffix(sufijo);
-    dialogo->selectFile(QStringLiteral("grafica.") + sufijo);
+    auto* dialogo = crearDialogoGuardar(*this, titulo, filtro, QStringLiteral("grafica.") + sufijo);
     connect(dialogo, &QFileDialog::fileSelected, this, [this, escribir](const QString& archivo) {
         QSaveFile salida(archivo);
         if (!salida.open(QIODevice::WriteOnly) || !(this->*escribir)(salida) || !salida.commit())

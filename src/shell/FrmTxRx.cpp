@@ -3,6 +3,7 @@
 #include "modbus/ArchivoPcap.h"
 #include "modbus/VistaTxRx.h"
 #include "platform/window/Controles.h"
+#include "platform/window/DialogoGuardar.h"
 #include "platform/window/MsgBox.h"
 #include "platform/window/PaginaManual.h"
 #include "shell/AyudaContextual.h"
@@ -96,14 +97,10 @@ void FrmTxRx::guardarTrafico() {
         return avisarMsgBox(
             this, QStringLiteral("No hay tráfico que guardar: se conserva mientras \"Ver TX/RX\" está marcada"),
             vbInformation);
-    auto* dialogo = new QFileDialog(this, QStringLiteral("Guardar el tráfico"), QString(),
-                                    QStringLiteral("Captura (*.pcap);;Todos los archivos (*)"));
+    auto* dialogo =
+        crearDialogoGuardar(*this, QStringLiteral("Guardar el tráfico"),
+                            QStringLiteral("Captura (*.pcap);;Todos los archivos (*)"), QStringLiteral("modbus.pcap"));
     dialogo->setObjectName(QStringLiteral("dlgTrafico"));
-    dialogo->setAttribute(Qt::WA_DeleteOnClose);
-    dialogo->setOption(QFileDialog::DontUseNativeDialog);
-    dialogo->setAcceptMode(QFileDialog::AcceptSave);
-    dialogo->setDefaultSuffix(QStringLiteral("pcap"));
-    dialogo->selectFile(QStringLiteral("modbus.pcap"));
     connect(dialogo, &QFileDialog::fileSelected, this, &FrmTxRx::escribirTrafico);
     dialogo->open();
 }

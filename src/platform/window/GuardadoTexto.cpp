@@ -1,5 +1,6 @@
 #include "platform/window/GuardadoTexto.h"
 
+#include "platform/window/DialogoGuardar.h"
 #include "platform/window/MsgBox.h"
 
 #include <QDeadlineTimer>
@@ -16,11 +17,9 @@ constexpr std::size_t pieza = 32768; // bytes between two looks at the clock
 } // namespace
 
 void GuardadoTexto::preguntarYGuardar(QWidget& ventana, const TextoBytes& texto) {
-    auto* dialogo = new QFileDialog(&ventana, QStringLiteral("Guardar el texto"), QString(),
-                                    QStringLiteral("Texto (*.txt);;Todos los archivos (*)"));
-    dialogo->setAttribute(Qt::WA_DeleteOnClose);
-    dialogo->setAcceptMode(QFileDialog::AcceptSave);
-    dialogo->setDefaultSuffix(QStringLiteral("txt"));
+    auto* dialogo =
+        crearDialogoGuardar(ventana, QStringLiteral("Guardar el texto"),
+                            QStringLiteral("Texto (*.txt);;Todos los archivos (*)"), QStringLiteral("texto.txt"));
     connect(dialogo, &QFileDialog::fileSelected, &ventana,
             [&ventana, texto](const QString& ruta) { new GuardadoTexto(ventana, texto, ruta); });
     dialogo->open();

@@ -10,6 +10,7 @@
 #include <QGuiApplication>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListView>
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -395,6 +396,11 @@ private Q_SLOTS:
         QTest::keyClick(&vista, Qt::Key_S, Qt::ControlModifier);
         auto* dialogo = vista.findChild<QFileDialog*>();
         QVERIFY(dialogo != nullptr);
+        QVERIFY(dialogo->testOption(QFileDialog::DontUseNativeDialog)); // its texts are Spanish on every desktop
+        QVERIFY(dialogo->selectedFiles().value(0).endsWith(QStringLiteral("/texto.txt")));
+        const auto* lugares = dialogo->findChild<QListView*>(QStringLiteral("sidebar"));
+        QVERIFY(lugares != nullptr);
+        QVERIFY(lugares->minimumWidth() >= lugares->sizeHintForColumn(0)); // however small the dialog gets
         vista.agregar("tarde");
         dialogo->selectFile(ruta);
         static_cast<QDialog*>(dialogo)->accept();
