@@ -79,6 +79,11 @@ void FrmEdicionCodigo::conectar() {
     connect(BtnGuardar_, &QPushButton::clicked, this, &FrmEdicionCodigo::guardar);
     connect(BtnSalir_, &QPushButton::clicked, this, &FrmEdicionCodigo::salir);
     connect(txtIntervaloDeTiempo_, &QLineEdit::textChanged, this, &FrmEdicionCodigo::mostrarTitulo);
+    trasPerderElFoco_.setSingleShot(true);
+    connect(&trasPerderElFoco_, &QTimer::timeout, this, [this] {
+        if (periodoPendiente_)
+            comprobarPeriodo();
+    });
     connect(txtCodigo_, &QPlainTextEdit::modificationChanged, this, &FrmEdicionCodigo::mostrarTitulo);
     connect(txtCodigo_, &QPlainTextEdit::cursorPositionChanged, this, &FrmEdicionCodigo::mostrarPosicion);
     connect(txtCodigo_, &QPlainTextEdit::textChanged, this, [this] {

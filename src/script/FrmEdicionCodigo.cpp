@@ -24,7 +24,6 @@
 #include <QLineEdit>
 #include <QSplitter>
 #include <QTextBlock>
-#include <QTimer>
 
 namespace {
 
@@ -181,10 +180,7 @@ bool FrmEdicionCodigo::eventFilter(QObject* objeto, QEvent* evento) {
         if (causa != Qt::ActiveWindowFocusReason && causa != Qt::PopupFocusReason && isVisible()) {
             periodoPendiente_ = true;
             // Not within the event: the focus is on its way to another control.
-            QTimer::singleShot(0, this, [this] {
-                if (periodoPendiente_)
-                    comprobarPeriodo();
-            });
+            trasPerderElFoco_.start();
         }
     }
     return QWidget::eventFilter(objeto, evento);

@@ -11,6 +11,7 @@
 #include "script/ComprobadorCodigo.h"
 
 #include <QPointer>
+#include <QTimer>
 #include <QWidget>
 
 class Ajustes;
@@ -99,6 +100,7 @@ private:
 
     QString periodoCargado_;
     bool periodoPendiente_ = false; // the box has lost the focus and is still to be checked
+    QTimer trasPerderElFoco_;       // at once, but not within the event
     bool demasiadoLargo_ = false;
     vbs::ScriptFailure errorCompilacion_;
     vbs::ScriptFailure fallo_;
