@@ -172,6 +172,13 @@ TEST_F(ScriptControlTest, anEndlessLoopEndsAtTheTimeOutWhateverOnErrorSays) {
     EXPECT_TRUE(control.addCode("out.put 1"));
 }
 
+TEST_F(ScriptControlTest, aLoopWhoseConditionFailsEndsAtTheTimeOutToo) {
+    control.setTimeout(std::chrono::milliseconds(20));
+    EXPECT_FALSE(control.addCode("On Error Resume Next\nDo While h.Count > 0 : s = s & h.Pop : Loop"));
+    EXPECT_EQ(control.error().number, static_cast<int>(ErrorNumber::TimedOut));
+    EXPECT_TRUE(control.addCode("out.put 1"));
+}
+
 TEST_F(ScriptControlTest, endlessRecursionThroughMethodsIsErrorTwentyEight) {
     EXPECT_FALSE(control.addCode("Class K : Function f(n) : f = Me.f(n + 1) : End Function : End Class\n"
                                  "Set o = New K : o.f 1"));

@@ -119,6 +119,14 @@ void Vm::run(std::size_t floor) {
 // Finds the frame above `floor` that resumes and sets it on its way; false if there is none, and then those frames are
 // gone.
 bool Vm::recover(ScriptError& failure, std::size_t floor) {
+    // A loop whose condition fails goes on without a jump that would look at the clock.
+    if (!clock_.interrupted && (budget_ -= 100) <= 0) {
+        try {
+            pollSlow();
+        } catch (const ScriptError& timeOut) {
+            failure = timeOut;
+        }
+    }
     locate(failure);
     std::size_t depth = depth_;
     while (depth > floor && (clock_.interrupted || !frames_[depth - 1].resumeNext)) {
