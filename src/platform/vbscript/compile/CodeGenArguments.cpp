@@ -78,7 +78,8 @@ void CodeGen::argumentTo(const Expr* e, Operand to, bool byValue) {
     exprTo(e, to, Store::Raw);
 }
 
-// A known callee tells which parameters it never assigns: a plain local variable may then go as a value.
+// A known callee tells which parameters it never assigns: a plain local variable may then go as a value, unless a later
+// argument may change it.
 bool CodeGen::passedByValue(const std::vector<Expr*>& args, std::size_t i, const Resolved* callee) {
     const Expr* argument = args[i];
     if (argument->kind != Expr::Kind::Name || callee == nullptr || callee->kind != Resolved::Kind::Callable ||
@@ -93,7 +94,10 @@ bool CodeGen::passedByValue(const std::vector<Expr*>& args, std::size_t i, const
     const auto same = std::count_if(args.begin(), args.end(), [argument](const Expr* other) {
         return other->kind == Expr::Kind::Name && other->symbol == argument->symbol;
     });
-    return local && !r.mayRefer && same == 1 && !decl_.dynamicScope && !scope_.writesParameter(*callee->procedure, i);
+    const bool changes = std::any_of(args.begin() + static_cast<std::ptrdiff_t>(i) + 1, args.end(),
+                                     [&](const Expr* later) { return passesName(later, argument->symbol); });
+    return local && !r.mayRefer && same == 1 && !changes && !decl_.dynamicScope &&
+           !scope_.writesParameter(*callee->procedure, i);
 }
 
 bool CodeGen::needsCopyBack(const Expr* e, std::size_t i, const Resolved* callee, Passing passing) {

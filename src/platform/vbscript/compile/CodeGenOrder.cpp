@@ -110,14 +110,15 @@ bool CodeGen::isPlainValue(const Expr* e) {
     }
 }
 
-// Whether `e` hands the variable itself to a call.
+// Whether `e` hands the variable itself, or an element of it, to a call.
 bool CodeGen::passesName(const Expr* e, Symbol symbol) {
     if (e == nullptr || !e->calls) {
         return false;
     }
     const auto passes = [this, symbol](const Expr* part) { return passesName(part, symbol); };
+    const auto isIt = [symbol](const Expr* part) { return part->kind == Expr::Kind::Name && part->symbol == symbol; };
     for (const Expr* argument : e->args) {
-        if (argument->kind == Expr::Kind::Name && argument->symbol == symbol &&
+        if ((isIt(argument) || (argument->kind == Expr::Kind::Call && isIt(argument->a))) &&
             (runsUserCode(e->a) || mayBeObject(e->a))) {
             return true;
         }
