@@ -177,7 +177,9 @@ private:
     void emitIntrinsic(const Expr* e, const Builtin& builtin, std::size_t count, Operand to, Store store);
     void specialTo(const Expr* e, Special special, Operand to, Store store);
     void callMemberTo(const Expr* e, const Expr* callee, Operand to, Store store);
-    void callSelfTo(const Procedure* procedure, const std::vector<Expr*>& args, Operand to, Store store);
+    enum class Passing { Unknown, Known, Values };
+    void callSelfTo(const Procedure* procedure, const std::vector<Expr*>& args, Passing passing, Operand to,
+                    Store store);
     void ownMemberTo(const ClassMember& member, const std::vector<Expr*>& args, Operand to, Store store);
     struct CopyBack {
         const Expr* element;
@@ -188,11 +190,12 @@ private:
         Operand first = 0;
         std::vector<CopyBack> copyBacks;
     };
-    enum class Passing { Unknown, Known, Values };
     Prepared arguments(const std::vector<Expr*>& args, const Resolved* callee, Passing passing);
     void argumentTo(const Expr* e, Operand to, bool byValue);
     bool passedByValue(const std::vector<Expr*>& args, std::size_t i, const Resolved* callee);
     bool needsCopyBack(const Expr* e, std::size_t i, const Resolved* callee, Passing passing);
+    CopyBack newCopyBack(const Expr* element);
+    void elementTo(const CopyBack& back);
     void copyBack(const Prepared& prepared);
     Operand contiguous(const std::vector<Expr*>& args);
     const ClassMember* ownMember(const Expr* e);

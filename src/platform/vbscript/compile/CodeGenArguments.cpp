@@ -3,6 +3,8 @@
 #include "platform/vbscript/compile/CodeGen.h"
 
 #include <algorithm>
+#include <numeric>
+#include <utility>
 
 namespace vbs {
 
@@ -12,31 +14,24 @@ Operand nextTo(Operand o, std::size_t by) noexcept {
     return operandOf(placeOf(o), indexOf(o) + by);
 }
 
+// The calls and indexes that lead from a name to an element, the first one in front; empty if `e` is no such thing.
+std::vector<const Expr*> levelsOf(const Expr* e) {
+    std::vector<const Expr*> levels;
+    for (; e->kind == Expr::Kind::Call && !e->args.empty(); e = e->a) {
+        levels.insert(levels.begin(), e);
+    }
+    return e->kind == Expr::Kind::Name ? levels : std::vector<const Expr*>{};
+}
+
 } // namespace
 
-// Evaluates arguments into neighbouring temporaries. A variable goes by reference; an element of an array goes through
-// a holder that is written back after the call.
+// Evaluates arguments into neighbouring temporaries, from left to right. A variable goes by reference; an element of an
+// array goes through a holder that is written back after the call.
 CodeGen::Prepared CodeGen::arguments(const std::vector<Expr*>& args, const Resolved* callee, Passing passing) {
     Prepared prepared;
     for (std::size_t i = 0; i < args.size(); ++i) {
         if (needsCopyBack(args[i], i, callee, passing)) {
-            const Operand holder = newTemporary();
-            const Operand first = operandOf(Place::Frame, temporary_);
-            Label end;
-            const int made = callInsteadTo(args[i], resolveCallee(args[i]->a->symbol), holder, Store::Raw, end);
-            callsInArguments_ += made;
-            contiguous(args[i]->args);
-            callsInArguments_ -= made;
-            prepared.copyBacks.push_back({args[i], holder, first});
-            const std::size_t mark = temporary_;
-            const Operand indexes = operandOf(Place::Frame, temporary_);
-            for (std::size_t k = 0; k < args[i]->args.size(); ++k) {
-                emit(encode(Opcode::Copy, newTemporary(), nextTo(first, k))); // the originals wait for the way home
-            }
-            emit(encode(Opcode::IndexN, holder, *plainVariable(args[i]->a), indexes,
-                        packed(args[i]->args.size(), Store::Raw)));
-            bind(end);
-            temporary_ = mark;
+            prepared.copyBacks.push_back(newCopyBack(args[i]));
         }
     }
     prepared.first = operandOf(Place::Frame, temporary_);
@@ -44,8 +39,9 @@ CodeGen::Prepared CodeGen::arguments(const std::vector<Expr*>& args, const Resol
     for (std::size_t i = 0; i < args.size(); ++i) {
         const Operand place = newTemporary();
         if (next < prepared.copyBacks.size() && prepared.copyBacks[next].element == args[i]) {
-            emit(encode(Opcode::Reference, place, prepared.copyBacks[next].holder));
-            ++next;
+            const CopyBack& back = prepared.copyBacks[next++];
+            elementTo(back);
+            emit(encode(Opcode::Reference, place, back.holder));
         } else {
             argumentTo(args[i], place, passing == Passing::Values || passedByValue(args, i, callee));
         }
@@ -54,6 +50,52 @@ CodeGen::Prepared CodeGen::arguments(const std::vector<Expr*>& args, const Resol
         newTemporary();
     }
     return prepared;
+}
+
+// Temporaries for the element, for what stands on the way to it, and for the indexes, which wait for the way home.
+CodeGen::CopyBack CodeGen::newCopyBack(const Expr* element) {
+    CopyBack back{element, newTemporary(), 0};
+    std::size_t others = 0;
+    for (const Expr* level : levelsOf(element)) {
+        others += level->args.size() + (level != element ? 1 : 0);
+    }
+    back.first = operandOf(Place::Frame, temporary_);
+    for (std::size_t k = 0; k < others; ++k) {
+        newTemporary();
+    }
+    return back;
+}
+
+// The element into its holder. Where code of the script stands on the way, it is called instead.
+void CodeGen::elementTo(const CopyBack& back) {
+    const std::size_t mark = temporary_;
+    const std::vector<const Expr*> levels = levelsOf(back.element);
+    const auto add = [](std::size_t sum, const Expr* level) { return sum + level->args.size(); };
+    Operand between = nextTo(back.first, std::accumulate(levels.begin(), levels.end(), std::size_t{0}, add));
+    Operand indexes = back.first;
+    Resolved base = resolveCallee(levels.front()->a->symbol);
+    for (const Expr* level : levels) {
+        const std::size_t count = level->args.size();
+        const Operand to = level == back.element ? back.holder : between;
+        Label end;
+        const int made = callInsteadTo(level, base, to, Store::Raw, end);
+        callsInArguments_ += made;
+        for (std::size_t k = 0; k < count; ++k) {
+            exprTo(level->args[k], nextTo(indexes, k), Store::Raw);
+        }
+        callsInArguments_ -= made;
+        const Operand row = operandOf(Place::Frame, temporary_);
+        for (std::size_t k = 0; k < count; ++k) {
+            emit(encode(Opcode::Copy, newTemporary(), nextTo(indexes, k)));
+        }
+        emit(encode(Opcode::IndexN, to, base.operand, row, packed(count, Store::Raw)));
+        bind(end);
+        temporary_ = mark;
+        indexes = nextTo(indexes, count);
+        base = Resolved{};
+        base.kind = Resolved::Kind::Variable;
+        base.operand = std::exchange(between, nextTo(between, 1));
+    }
 }
 
 void CodeGen::argumentTo(const Expr* e, Operand to, bool byValue) {
@@ -101,12 +143,8 @@ bool CodeGen::passedByValue(const std::vector<Expr*>& args, std::size_t i, const
 }
 
 bool CodeGen::needsCopyBack(const Expr* e, std::size_t i, const Resolved* callee, Passing passing) {
-    if (passing == Passing::Values || e->kind != Expr::Kind::Call || e->a->kind != Expr::Kind::Name ||
-        e->args.empty()) {
-        return false;
-    }
-    const Resolved base = resolveCallee(e->a->symbol);
-    if (base.kind != Resolved::Kind::Variable) {
+    const std::vector<const Expr*> levels = passing == Passing::Values ? std::vector<const Expr*>{} : levelsOf(e);
+    if (levels.empty() || resolveCallee(levels.front()->a->symbol).kind != Resolved::Kind::Variable) {
         return false;
     }
     if (callee != nullptr && callee->procedure != nullptr && i < callee->procedure->parameters.size()) {
@@ -118,10 +156,19 @@ bool CodeGen::needsCopyBack(const Expr* e, std::size_t i, const Resolved* callee
 
 void CodeGen::copyBack(const Prepared& prepared) {
     for (const CopyBack& back : prepared.copyBacks) {
-        const Operand base = *plainVariable(back.element->a);
-        // X with Store::Discard: do nothing where the base is no array.
-        emit(encode(Opcode::SetIndexN, base, back.first, back.holder,
-                    packed(back.element->args.size(), Store::Discard)));
+        const std::vector<const Expr*> levels = levelsOf(back.element);
+        Road road;
+        road.base = resolveCallee(levels.front()->a->symbol).operand;
+        // Store::Discard: do nothing where an array is missing on the way.
+        if (levels.size() == 1) {
+            emit(encode(Opcode::SetIndexN, road.base, back.first, back.holder,
+                        packed(back.element->args.size(), Store::Discard)));
+            continue;
+        }
+        for (const Expr* level : levels) {
+            road.levels.push_back(&level->args);
+        }
+        storeDeep(road, back.first, back.holder, Store::Discard);
     }
 }
 

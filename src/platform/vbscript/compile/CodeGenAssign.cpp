@@ -216,7 +216,9 @@ void CodeGen::assignMember(const Expr* object, Symbol symbol, const std::vector<
 void CodeGen::assignOwn(const ClassMember& member, const std::vector<Expr*>& args, const Expr* value, Store store) {
     if (member.field >= 0) {
         const Operand field = operandOf(Place::Field, static_cast<std::size_t>(member.field));
-        if (args.empty()) {
+        if (args.empty() && !owner_->fields[static_cast<std::size_t>(member.field)].sizes.empty()) {
+            raiseAtRun(ErrorNumber::TypeMismatch, noSymbol);
+        } else if (args.empty()) {
             exprTo(value, field, store);
         } else {
             storeElement(field, args, value, store);
@@ -234,7 +236,7 @@ void CodeGen::assignOwn(const ClassMember& member, const std::vector<Expr*>& arg
     }
     std::vector<Expr*> all(args);
     all.push_back(const_cast<Expr*>(value));
-    callSelfTo(procedure, all, 0, Store::Discard);
+    callSelfTo(procedure, all, Passing::Values, 0, Store::Discard);
 }
 
 } // namespace vbs

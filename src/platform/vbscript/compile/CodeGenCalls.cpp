@@ -254,11 +254,12 @@ void CodeGen::ownMemberTo(const ClassMember& member, const std::vector<Expr*>& a
         raiseAtRun(ErrorNumber::WrongArgumentCount, noSymbol);
         return;
     }
-    callSelfTo(procedure, args, to, store);
+    callSelfTo(procedure, args, Passing::Unknown, to, store);
 }
 
-void CodeGen::callSelfTo(const Procedure* procedure, const std::vector<Expr*>& args, Operand to, Store store) {
-    const Prepared prepared = arguments(args, nullptr, Passing::Unknown);
+void CodeGen::callSelfTo(const Procedure* procedure, const std::vector<Expr*>& args, Passing passing, Operand to,
+                         Store store) {
+    const Prepared prepared = arguments(args, nullptr, passing);
     emitCall(Opcode::CallSelf, to, prepared.first, selfCall(procedure), args.size(), store);
     copyBack(prepared);
 }

@@ -256,6 +256,7 @@ Value& elementOf(Context& context, Value& array, const Value* indexes, std::int3
 
 } // namespace
 
+// With Store::Discard: the way home of an element that went by reference; only arrays take it back.
 void Vm::setDeep(Value& base, Value* indexes, std::span<const std::int32_t> levels, Value value, Store store) {
     value = assignable(std::move(value), store);
     while (true) {
@@ -265,6 +266,9 @@ void Vm::setDeep(Value& base, Value* indexes, std::span<const std::int32_t> leve
         const auto leadsOn = [&] { return container->isArray() && !anyObject(row, levels[level]); };
         for (; level + 1 < levels.size() && leadsOn(); row += levels[level++]) {
             container = &elementOf(*this, *container, row, levels[level]);
+        }
+        if (store == Store::Discard && !container->isArray()) {
+            return;
         }
         if (level > 0 && container->isObject() && container->object() == nullptr) {
             raise(ErrorNumber::TypeMismatch);

@@ -22,6 +22,11 @@ void requireIndexable(const Value& field) {
     }
 }
 
+// Whether the member is a variable that is an array of fixed size, which takes no other value.
+bool holdsFixedArray(const ScriptClass& cls, const ClassMember& member) {
+    return member.field >= 0 && !cls.fields[static_cast<std::size_t>(member.field)].sizes.empty();
+}
+
 } // namespace
 
 const ClassMember& Vm::instanceMember(const Instance& instance, MemberSite& site) const {
@@ -31,7 +36,7 @@ const ClassMember& Vm::instanceMember(const Instance& instance, MemberSite& site
             raise(ErrorNumber::MemberNotFound, symbols_.name(site.symbol));
         }
         site.shape = instance.shape;
-        site.field = member->field;
+        site.field = holdsFixedArray(instance.cls(), *member) ? -1 : member->field;
         site.entry = member;
         site.reader = readerOf(*member);
         site.shortRoad = nullptr;
@@ -194,6 +199,9 @@ void Vm::assignMember(Object* object, MemberSite& site, Value* first, std::size_
     if (member.field >= 0) {
         Value& field = instance.fields()[member.field];
         if (count == 0) {
+            if (holdsFixedArray(instance.cls(), member)) {
+                raise(ErrorNumber::TypeMismatch);
+            }
             Value given = std::move(value);
             deliver(std::move(given), field, set ? Store::Set : Store::Let);
             return;
@@ -223,6 +231,9 @@ Value Vm::invokeInstance(Instance& instance, const ClassMember& member, Access a
         }
         Value result;
         if (assigns && places.empty()) {
+            if (holdsFixedArray(instance.cls(), member)) {
+                raise(ErrorNumber::TypeMismatch);
+            }
             field = arguments[0];
         } else if (assigns) {
             setIndex(field, places, arguments.back(), Store::Raw);

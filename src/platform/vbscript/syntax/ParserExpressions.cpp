@@ -277,8 +277,14 @@ Expr* Parser::call(Expr* callee, std::vector<Expr*> arguments, Position at) {
         const Expr* argument = e->args[i];
         if (argument->kind == Expr::Kind::Name) {
             procedure_->passed.push_back({argument->symbol, name, i, argument->at});
-        } else if (argument->kind == Expr::Kind::Call && argument->a->kind == Expr::Kind::Name) {
-            procedure_->elements.push_back({argument->a->symbol, name, i, argument->at});
+            continue;
+        }
+        const Expr* base = argument;
+        while (base->kind == Expr::Kind::Call) {
+            base = base->a;
+        }
+        if (base != argument && base->kind == Expr::Kind::Name) {
+            procedure_->elements.push_back({base->symbol, name, i, argument->at});
         }
     }
     setHeight(*e);

@@ -1,0 +1,42 @@
+' An element that goes by reference is looked up when its turn comes, after the arguments left of it and before those
+' right of it.
+Dim a(2), i, s
+Function Change
+  a(0) = 99
+  i = 1
+  Change = 1
+End Function
+Sub Raise1(x, y)
+  y = y + 1
+End Sub
+Raise1 Change(), a(0)
+WScript.Echo a(0) '> 100
+i = 0
+Raise1 Change, a(i)
+WScript.Echo a(0), a(1) '> 99 1
+
+Function Told(n)
+  s = s & n
+  Told = n
+End Function
+Sub Three(x, y, z)
+  y = 7
+End Sub
+Three Told(1), a(Told(2)), Told(3)
+WScript.Echo s, a(2) '> 123 7
+
+Class Caller
+  Sub Go(x, y)
+    y = y + 1
+  End Sub
+End Class
+Set c = New Caller
+c.Go Change(), a(0)
+WScript.Echo a(0) '> 100
+v = Array(Array(1, 2))
+Function Replace0
+  v(0) = Array(5, 6)
+  Replace0 = 0
+End Function
+c.Go Replace0, v(0)(1)
+WScript.Echo Join(v(0)) '> 5 7
