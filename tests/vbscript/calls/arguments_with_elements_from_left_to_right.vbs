@@ -40,3 +40,21 @@ Function Replace0
 End Function
 c.Go Replace0, v(0)(1)
 WScript.Echo Join(v(0)) '> 5 7
+
+' What an argument right of it puts into the element is seen, but the place of the element is settled before.
+Sub First(y, x)
+  y = y + 1
+End Sub
+i = 0
+a(0) = 3
+a(1) = 50
+First a(i), Change()
+WScript.Echo a(0), a(1), i '> 100 50 1
+Function Counted(x)
+  x = x + 1
+  Counted = x
+End Function
+Set f = GetRef("Counted")
+i = 1
+First f(i), Change()
+WScript.Echo i '> 1

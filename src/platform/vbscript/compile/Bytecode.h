@@ -36,6 +36,8 @@ constexpr std::size_t indexOf(Operand o) noexcept {
 // wants an object, Discard drops it.
 enum class Store : std::uint8_t { Raw = 0, Let = 1, Set = 2, Discard = 3 };
 
+inline constexpr Operand arraysOnly = 1;
+
 // name, operands and effect
 #define VBS_OPCODES(OP)                                                                                                \
     OP(Move)         /* A = B, as it is */                                                                             \
@@ -93,7 +95,8 @@ enum class Store : std::uint8_t { Raw = 0, Let = 1, Set = 2, Discard = 3 };
     OP(UnlessBoth)                                                                                                     \
     OP(JumpNothing) /* A Is B, which is the constant Nothing: J */                                                     \
     OP(UnlessNothing)                                                                                                  \
-    OP(JumpByValue)    /* A: J, unless it holds code of a script, which takes its arguments by reference */            \
+    OP(JumpByValue)    /* A: J, unless it holds code of a script, which takes its arguments by reference; */           \
+                       /* B = arraysOnly: J if it holds an array */                                                    \
     OP(Back)           /* J, at the end of a loop: polls */                                                            \
     OP(ForPrepare)     /* A variable, B limit, B+1 step, B+2 start; J past the loop if it does not run */              \
     OP(ForLoop)        /* A variable, B limit, B+1 step; J to the body while it runs */                                \

@@ -196,6 +196,8 @@ private:
     bool needsCopyBack(const Expr* e, std::size_t i, const Resolved* callee, Passing passing);
     CopyBack newCopyBack(const Expr* element);
     void elementTo(const CopyBack& back);
+    void elementAgain(const CopyBack& back);
+    void readElement(Operand base, Operand indexes, std::size_t count, Operand to);
     void copyBack(const Prepared& prepared);
     Operand contiguous(const std::vector<Expr*>& args);
     const ClassMember* ownMember(const Expr* e);
@@ -263,6 +265,7 @@ private:
     Label exit_;
     std::vector<std::pair<const Expr*, Operand>> localConstants_;
     bool markOpen_ = false;
+    static constexpr int deepestCalls = 3;
     int callsInArguments_ = 0; // through variables, one inside the other
 };
 

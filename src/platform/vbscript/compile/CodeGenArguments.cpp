@@ -49,6 +49,12 @@ CodeGen::Prepared CodeGen::arguments(const std::vector<Expr*>& args, const Resol
     if (args.empty()) {
         newTemporary();
     }
+    for (const CopyBack& back : prepared.copyBacks) {
+        const auto later = std::find(args.begin(), args.end(), back.element) + 1;
+        if (std::any_of(later, args.end(), [this](const Expr* e) { return runsUserCode(e); })) {
+            elementAgain(back);
+        }
+    }
     return prepared;
 }
 
@@ -84,11 +90,7 @@ void CodeGen::elementTo(const CopyBack& back) {
             exprTo(level->args[k], nextTo(indexes, k), Store::Raw);
         }
         callsInArguments_ -= made;
-        const Operand row = operandOf(Place::Frame, temporary_);
-        for (std::size_t k = 0; k < count; ++k) {
-            emit(encode(Opcode::Copy, newTemporary(), nextTo(indexes, k)));
-        }
-        emit(encode(Opcode::IndexN, to, base.operand, row, packed(count, Store::Raw)));
+        readElement(base.kind == Resolved::Kind::Unknown ? unresolved(base) : base.operand, indexes, count, to);
         bind(end);
         temporary_ = mark;
         indexes = nextTo(indexes, count);
@@ -96,6 +98,33 @@ void CodeGen::elementTo(const CopyBack& back) {
         base.kind = Resolved::Kind::Variable;
         base.operand = std::exchange(between, nextTo(between, 1));
     }
+}
+
+void CodeGen::readElement(Operand base, Operand indexes, std::size_t count, Operand to) {
+    const Operand row = operandOf(Place::Frame, temporary_);
+    for (std::size_t k = 0; k < count; ++k) {
+        emit(encode(Opcode::Copy, newTemporary(), nextTo(indexes, k)));
+    }
+    emit(encode(Opcode::IndexN, to, base, row, packed(count, Store::Raw)));
+}
+
+// The element as the arguments after it have left it, if an array still holds it.
+void CodeGen::elementAgain(const CopyBack& back) {
+    const Expr* base = back.element->a;
+    if (base->kind != Expr::Kind::Name) {
+        return;
+    }
+    const std::size_t mark = temporary_;
+    const Resolved r = resolveCallee(base->symbol);
+    const Operand array = r.kind == Resolved::Kind::Unknown ? unresolved(r) : r.operand;
+    Label read;
+    Label end;
+    emitJump(Opcode::JumpByValue, array, arraysOnly, read);
+    emitJump(Opcode::Jump, 0, 0, end);
+    bind(read);
+    readElement(array, back.first, back.element->args.size(), back.holder);
+    bind(end);
+    temporary_ = mark;
 }
 
 void CodeGen::argumentTo(const Expr* e, Operand to, bool byValue) {
@@ -144,7 +173,8 @@ bool CodeGen::passedByValue(const std::vector<Expr*>& args, std::size_t i, const
 
 bool CodeGen::needsCopyBack(const Expr* e, std::size_t i, const Resolved* callee, Passing passing) {
     const std::vector<const Expr*> levels = passing == Passing::Values ? std::vector<const Expr*>{} : levelsOf(e);
-    if (levels.empty() || resolveCallee(levels.front()->a->symbol).kind != Resolved::Kind::Variable) {
+    const auto base = levels.empty() ? Resolved::Kind::Callable : resolveCallee(levels.front()->a->symbol).kind;
+    if (base != Resolved::Kind::Variable && (base != Resolved::Kind::Unknown || callsInArguments_ == deepestCalls)) {
         return false;
     }
     if (callee != nullptr && callee->procedure != nullptr && i < callee->procedure->parameters.size()) {
@@ -158,17 +188,20 @@ void CodeGen::copyBack(const Prepared& prepared) {
     for (const CopyBack& back : prepared.copyBacks) {
         const std::vector<const Expr*> levels = levelsOf(back.element);
         Road road;
-        road.base = resolveCallee(levels.front()->a->symbol).operand;
+        const std::size_t mark = temporary_;
+        const Resolved base = resolveCallee(levels.front()->a->symbol);
+        road.base = base.kind == Resolved::Kind::Unknown ? unresolved(base) : base.operand;
         // Store::Discard: do nothing where an array is missing on the way.
         if (levels.size() == 1) {
             emit(encode(Opcode::SetIndexN, road.base, back.first, back.holder,
                         packed(back.element->args.size(), Store::Discard)));
-            continue;
+        } else {
+            for (const Expr* level : levels) {
+                road.levels.push_back(&level->args);
+            }
+            storeDeep(road, back.first, back.holder, Store::Discard);
         }
-        for (const Expr* level : levels) {
-            road.levels.push_back(&level->args);
-        }
-        storeDeep(road, back.first, back.holder, Store::Discard);
+        temporary_ = mark;
     }
 }
 

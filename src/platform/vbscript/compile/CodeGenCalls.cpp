@@ -94,14 +94,15 @@ void CodeGen::indexOrCallTo(const Expr* e, const Resolved& callee, Operand to, S
 
 // The call, which goes on at `end`, for when the variable asks for one. Answers how many were made: one or none.
 int CodeGen::callInsteadTo(const Expr* e, const Resolved& callee, Operand to, Store store, Label& end) {
-    constexpr int deepest = 3;
-    if (callsInArguments_ == deepest || !mayTakeReferences(e)) {
+    const bool unknown = callee.kind == Resolved::Kind::Unknown;
+    if (callsInArguments_ == deepestCalls || !(unknown || mayTakeReferences(e))) {
         return 0;
     }
     ++callsInArguments_;
     Label byValue;
-    emitJump(Opcode::JumpByValue, callee.operand, 0, byValue);
     const std::size_t mark = temporary_;
+    emitJump(Opcode::JumpByValue, unknown ? unresolved(callee) : callee.operand, unknown ? arraysOnly : 0, byValue);
+    temporary_ = mark;
     callUnknownTo(e, callee, to, store);
     temporary_ = mark;
     emitJump(Opcode::Jump, 0, 0, end);

@@ -359,7 +359,8 @@ labelJump:
 
 labelJumpByValue : {
     const Value& callee = R(A).deref();
-    if (!callee.isObject() || callee.object() == nullptr || callee.object()->role == Object::Role::Native) {
+    if (callee.isArray() || (B != arraysOnly && (!callee.isObject() || callee.object() == nullptr ||
+                                                 callee.object()->role == Object::Role::Native))) {
         pc += J;
     }
     NEXT;
