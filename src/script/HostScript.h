@@ -29,6 +29,7 @@ public:
     double monotonicMilliseconds() override;
     // Shows the bar with which the operator can stop a script that has run for `elapsed`, boxes not counted.
     void longRun(std::chrono::milliseconds elapsed) override;
+    void longStep(std::chrono::milliseconds elapsed) override { longRun(elapsed); } // the bar runs no text
     const vbs::Locale* locale(int id) override { return locales_.locale(id); }
 
     // What stops the running script.

@@ -173,6 +173,12 @@ private Q_SLOTS:
         QCOMPARE(host.terminarPasada(), HostScript::Atencion::ninguna);
     }
 
+    void theHostShowsItInTheMiddleOfALongStepToo() {
+        HostScript host(ventana_.get(), false);
+        host.longStep(600ms);
+        QCOMPARE(ventana_->findChildren<BarraScript*>().size(), 2); // besides this test's own
+    }
+
     void theHostShowsItInTheWindowThatTheOperatorUses() {
         QWidget editor;
         editor.resize(600, 400);

@@ -34,17 +34,25 @@ public:
         elapsedAtLongRun.push_back(elapsed);
         inLongRun();
     }
+    void longStep(std::chrono::milliseconds elapsed) override {
+        elapsedAtLongStep.push_back(elapsed);
+        inLongStep();
+    }
 
     double boxMilliseconds = 0;
     std::function<void()> whileBoxIsOpen = [] {};
     std::function<void()> inLongRun = [] {};
+    std::function<void()> inLongStep = [] {};
     std::vector<std::chrono::milliseconds> elapsedAtLongRun;
+    std::vector<std::chrono::milliseconds> elapsedAtLongStep;
 
 private:
     double now_ = 0;
 };
 
 constexpr const char* endless = "On Error Resume Next\nDo\nLoop";
+constexpr const char* endlessStep = "On Error Resume Next\ns = String(4000000, \"a\")\n"
+                                    "x = InStrRev(s, String(2000000, \"a\") & \"b\")";
 constexpr int timedOut = 32765;
 constexpr int stopped = 32766;
 
@@ -222,6 +230,35 @@ TEST_F(PassTest, tooManyDefinedNamesAreRefusedWhereTheyStand) {
     EXPECT_EQ(control.error().number, 1903);
     EXPECT_GT(control.error().line, 16000U);
     EXPECT_EQ(control.error().column, 5U);
+    EXPECT_TRUE(control.addCode("x = 1"));
+}
+
+TEST_F(PassTest, aLongStepIsToldAndMayBeStopped) {
+    desk.inLongStep = [&] {
+        if (desk.elapsedAtLongStep.size() == 3) {
+            control.stop();
+        }
+    };
+    EXPECT_FALSE(control.addCode(endlessStep));
+    EXPECT_EQ(control.error().number, stopped);
+    EXPECT_EQ(desk.elapsedAtLongStep.size(), 3U);
+    EXPECT_GE(desk.elapsedAtLongStep.front(), 499ms);
+    EXPECT_TRUE(desk.elapsedAtLongRun.empty());
+    EXPECT_TRUE(control.addCode("x = 1"));
+}
+
+TEST_F(PassTest, noTextRunsInTheMiddleOfALongStep) {
+    constexpr int internalError = 51;
+    control.setTimeout(2000ms);
+    bool ran = false;
+    desk.inLongStep = [&] {
+        ran = ran || control.addCode("x = 1");
+        EXPECT_EQ(control.error().number, internalError);
+    };
+    EXPECT_FALSE(control.addCode(endlessStep));
+    EXPECT_EQ(control.error().number, timedOut);
+    EXPECT_FALSE(desk.elapsedAtLongStep.empty());
+    EXPECT_FALSE(ran);
     EXPECT_TRUE(control.addCode("x = 1"));
 }
 

@@ -87,6 +87,27 @@ inline int firstDayArgument(Context& context, Arguments arguments, std::size_t i
     return day == 0 ? context.locale().firstDayOfWeek : day;
 }
 
+// The first of `places` places, numbered from 0, where something fits, or npos. `firstOf(from, to)` tells it for the
+// places from `from` to before `to`; a place costs up to `comparisons`. Looks at the clock on the way.
+template <class FirstOf>
+std::size_t searchPlaces(Context& context, std::size_t places, std::size_t comparisons, FirstOf firstOf) {
+    constexpr std::size_t atATime = std::size_t{64} * 1024; // comparisons
+    constexpr std::size_t aTurn = 8;                        // of an empty loop
+    const std::size_t step = atATime / comparisons + 1;
+    for (std::size_t from = 0; from < places; from += step) {
+        const std::size_t to = std::min(from + step, places);
+        const std::size_t found = firstOf(from, to);
+        const std::size_t tried = (found == std::u16string_view::npos ? to : found + 1) - from;
+        if (tried * comparisons >= atATime / 64) {
+            context.spend(tried * comparisons / aTurn);
+        }
+        if (found != std::u16string_view::npos) {
+            return found;
+        }
+    }
+    return std::u16string_view::npos;
+}
+
 // Place of `needle` at or after `from`, or npos. An empty needle is found at `from`.
 std::size_t findText(Context& context, std::u16string_view text, std::u16string_view needle, std::size_t from,
                      TextComparison comparison);

@@ -1,9 +1,10 @@
 // Intrinsic functions on arrays, and those that make them out of texts.
 #include "platform/vbscript/library/BuiltinArguments.h"
 #include "platform/vbscript/value/Array.h"
+#include "platform/vbscript/value/Memory.h"
+#include "platform/vbscript/value/Work.h"
 
 #include <algorithm>
-#include <vector>
 
 namespace vbs {
 
@@ -88,9 +89,9 @@ struct Piece {
     std::size_t length;
 };
 
-std::vector<Piece> cut(Context& context, std::u16string_view text, std::u16string_view separator, std::int32_t most,
-                       TextComparison comparison) {
-    std::vector<Piece> pieces;
+ChargedVector<Piece> cut(Context& context, std::u16string_view text, std::u16string_view separator, std::int32_t most,
+                         TextComparison comparison) {
+    ChargedVector<Piece> pieces;
     std::size_t from = 0;
     while (!separator.empty() && (most < 0 || pieces.size() + 1 < static_cast<std::size_t>(most))) {
         const std::size_t at = findText(context, text, separator, from, comparison);
@@ -118,7 +119,7 @@ Value split(Context& context, Arguments arguments) {
     if (text.size() == 0 || most == 0) {
         return Value::ofArray(ArrayBlock::create(std::size_t{0}));
     }
-    const std::vector<Piece> pieces = cut(context, text.view(), separator.view(), most, comparison);
+    const ChargedVector<Piece> pieces = cut(context, text.view(), separator.view(), most, comparison);
     Value result = Value::ofArray(ArrayBlock::create(pieces.size()));
     std::transform(pieces.begin(), pieces.end(), result.array()->elements(), [&](const Piece& piece) {
         return piece.length == 1 ? context.character(text.view()[piece.from])
@@ -131,10 +132,11 @@ Value split(Context& context, Arguments arguments) {
 Value filter(Context& context, Arguments arguments) {
     const Value held = listArgument(context, arguments[0]);
     const auto list = elementsOf(held);
+    chargeWalk(list.size_bytes());
     const TextArgument needle(context, arguments[1]);
     const bool include = booleanArgument(context, arguments, 2, true);
     const TextComparison comparison = comparisonArgument(context, arguments, 3);
-    std::vector<Value> kept;
+    ChargedVector<Value> kept;
     for (const Value& element : list) {
         const TextArgument text = elementText(context, element);
         if ((findText(context, text.view(), needle.view(), 0, comparison) != std::u16string_view::npos) == include) {

@@ -61,6 +61,23 @@ Value midB(Context& context, Arguments arguments) {
     return textOf(rest.first(std::min(section.length, rest.size())));
 }
 
+// Place of the needle, which an empty one has at the front, or npos.
+std::size_t findBytes(Context& context, Bytes text, Bytes needle) {
+    if (needle.empty()) {
+        return 0;
+    }
+    if (text.size() < needle.size()) {
+        return std::u16string_view::npos;
+    }
+    return searchPlaces(context, text.size() - needle.size() + 1, needle.size(),
+                        [text, needle](std::size_t first, std::size_t end) {
+                            const Bytes within = text.subspan(first, end - first + needle.size() - 1);
+                            const auto found = std::search(within.begin(), within.end(), needle.begin(), needle.end());
+                            return found != within.end() ? first + static_cast<std::size_t>(found - within.begin())
+                                                         : std::u16string_view::npos;
+                        });
+}
+
 // InStrB([start, ]text, needle[, comparison]): bytes are compared as they are, whatever the comparison.
 Value inStrB(Context& context, Arguments arguments) {
     const std::size_t first = arguments.size() > 2 ? 1 : 0;
@@ -79,9 +96,8 @@ Value inStrB(Context& context, Arguments arguments) {
     if (from >= bytes.size()) {
         return Value::ofLong(0);
     }
-    const auto found = std::search(bytes.begin() + static_cast<std::ptrdiff_t>(from), bytes.end(),
-                                   needle.bytes().begin(), needle.bytes().end());
-    return Value::ofLong(found != bytes.end() ? static_cast<std::int32_t>(found - bytes.begin()) + 1 : 0);
+    const std::size_t found = findBytes(context, bytes.subspan(from), needle.bytes());
+    return Value::ofLong(found != std::u16string_view::npos ? static_cast<std::int32_t>(from + found) + 1 : 0);
 }
 
 constexpr Builtin table[] = {

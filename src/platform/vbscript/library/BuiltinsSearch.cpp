@@ -51,12 +51,14 @@ Value inStrRev(Context& context, Arguments arguments) {
     if (needle.size() == 0) {
         return Value::ofLong(static_cast<std::int32_t>(end));
     }
-    for (std::size_t at = end - needle.size() + 1; at-- > 0;) {
-        if (matchesAt(text.view(), needle.view(), at, comparison)) {
-            return Value::ofLong(static_cast<std::int32_t>(at) + 1);
+    const std::size_t last = end - needle.size(); // the first to be tried
+    const std::size_t back = searchPlaces(context, last + 1, needle.size(), [&](std::size_t first, std::size_t behind) {
+        while (first < behind && !matchesAt(text.view(), needle.view(), last - first, comparison)) {
+            ++first;
         }
-    }
-    return Value::ofLong(0);
+        return first < behind ? first : std::u16string_view::npos;
+    });
+    return Value::ofLong(back != std::u16string_view::npos ? static_cast<std::int32_t>(last - back) + 1 : 0);
 }
 
 // Replace(text, needle, by[, start[, count[, comparison]]]): what stands before `start` is not in the result.
@@ -98,45 +100,27 @@ constexpr Builtin table[] = {
 
 } // namespace
 
-namespace {
-
-constexpr std::size_t comparisonsATurn = 4'000'000; // between two looks at the clock
-
-// The first of the places from `from` to before `end` where the needle stands, or npos.
-std::size_t findWithin(std::u16string_view text, std::u16string_view needle, std::size_t from, std::size_t end,
-                       TextComparison comparison) noexcept {
-    text = text.substr(0, end + needle.size() - 1);
-    if (comparison == TextComparison::Binary) {
-        return text.find(needle, from);
-    }
-    for (std::size_t at = from; at + needle.size() <= text.size(); ++at) {
-        if (matchesAt(text, needle, at, comparison)) {
-            return at;
-        }
-    }
-    return std::u16string_view::npos;
-}
-
-} // namespace
-
 std::size_t findText(Context& context, std::u16string_view text, std::u16string_view needle, std::size_t from,
                      TextComparison comparison) {
+    constexpr std::size_t npos = std::u16string_view::npos;
     if (needle.empty()) {
-        return from <= text.size() ? from : std::u16string_view::npos;
+        return from <= text.size() ? from : npos;
     }
-    const std::size_t places = comparisonsATurn / needle.size() + 1;
-    while (from + needle.size() <= text.size()) {
-        const std::size_t end = std::min(from + places, text.size() - needle.size() + 1);
-        const std::size_t found = findWithin(text, needle, from, end, comparison);
-        if (found != std::u16string_view::npos) {
-            return found;
-        }
-        from = end;
-        if (places < text.size()) {
-            context.spend(comparisonsATurn);
-        }
+    if (from >= text.size() || text.size() - from < needle.size()) {
+        return npos;
     }
-    return std::u16string_view::npos;
+    const std::u16string_view rest = text.substr(from);
+    const auto firstOf = [rest, needle, comparison](std::size_t first, std::size_t end) {
+        if (comparison == TextComparison::Binary) {
+            return rest.substr(0, end + needle.size() - 1).find(needle, first);
+        }
+        while (first < end && !matchesAt(rest, needle, first, comparison)) {
+            ++first;
+        }
+        return first < end ? first : npos;
+    };
+    const std::size_t found = searchPlaces(context, rest.size() - needle.size() + 1, needle.size(), firstOf);
+    return found != npos ? from + found : npos;
 }
 
 std::span<const Builtin> searchBuiltins() {

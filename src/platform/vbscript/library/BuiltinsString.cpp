@@ -2,6 +2,7 @@
 #include "platform/text/CodePage.h"
 #include "platform/vbscript/library/BuiltinArguments.h"
 #include "platform/vbscript/value/Collation.h"
+#include "platform/vbscript/value/Work.h"
 
 #include <algorithm>
 
@@ -149,6 +150,7 @@ Value strComp(Context& context, Arguments arguments) {
     }
     const TextArgument a(context, arguments[0]);
     const TextArgument b(context, arguments[1]);
+    chargeWalk(std::min(a.size(), b.size()) * sizeof(char16_t) * (comparison == TextComparison::Text ? 4 : 1));
     const int order =
         comparison == TextComparison::Text ? collate(a.view(), b.view(), context.locale()) : a.view().compare(b.view());
     return Value::ofInteger(static_cast<std::int16_t>((order > 0) - (order < 0)));

@@ -126,7 +126,7 @@ private:
     void locate(ScriptError& failure) const;
     void pollSlow();
     void checkClock(bool betweenStatements);
-    void tellLongRun(double now);
+    void tellLongRun(double now, bool betweenStatements);
 
     // Dead objects
     void terminateDead() noexcept;
@@ -245,6 +245,7 @@ private:
     class Pass;
     Clock clock_;
     bool tellsLongRun_ = false;
+    bool tellsLongStep_ = false; // native code stands in script storage: no text may run
 
     // Texts that did not compile, the last ones first: they fail again without being compiled again.
     struct Refused {

@@ -6,6 +6,7 @@
 #include "platform/vbscript/run/VmShort.h"
 #include "platform/vbscript/value/Array.h"
 #include "platform/vbscript/value/Convert.h"
+#include "platform/vbscript/value/Work.h"
 
 #include <algorithm>
 #include <array>
@@ -350,6 +351,7 @@ void Vm::erase(Operand o) {
     }
     if (variable.array()->fixed()) {
         ArrayBlock& array = writableArray(variable);
+        chargeWalk(array.count() * sizeof(Value));
         std::for_each(array.elements(), array.elements() + array.count(), [](Value& element) { element.clear(); });
     } else {
         variable = Value::ofArray(ArrayBlock::create(std::span<const std::int32_t>{}));

@@ -53,17 +53,13 @@ void Vm::pollSlow() {
     checkClock(true);
 }
 
-// Native code polls in the middle of its work, where the host must not let other texts in.
+// Native code polls in the middle of its work, where the host lets no other text in.
 void Vm::checkClock(bool betweenStatements) {
     budget_ = pollInterval;
     if (!clock_.interrupted) {
         const double now = host.monotonicMilliseconds();
         if (now >= clock_.nextLongRun && !tellsLongRun_) {
-            if (betweenStatements) {
-                tellLongRun(now);
-            } else {
-                budget_ = 0; // the next statement does it
-            }
+            tellLongRun(now, betweenStatements);
         }
         const bool late = clock_.deadline > 0 && host.monotonicMilliseconds() >= clock_.deadline;
         if (stopRequested == 0 && !late && !clock_.interrupted) {
@@ -79,16 +75,24 @@ void Vm::checkClock(bool betweenStatements) {
     raise(clock_.interruption);
 }
 
-void Vm::tellLongRun(double now) {
+void Vm::tellLongRun(double now, bool betweenStatements) {
     constexpr double longRunEvery = 50;
     clock_.nextLongRun = now + longRunEvery;
     const struct Telling {
-        explicit Telling(bool& flag) : telling(flag) { telling = true; }
-        ~Telling() { telling = false; }
-        bool& telling;
-    } telling(tellsLongRun_);
+        Telling(Vm& teller, bool inStep) : vm(teller) {
+            vm.tellsLongRun_ = true;
+            vm.tellsLongStep_ = inStep;
+        }
+        ~Telling() { vm.tellsLongRun_ = vm.tellsLongStep_ = false; }
+        Vm& vm;
+    } telling(*this, !betweenStatements);
     const PausedClock away(*this);
-    host.longRun(std::chrono::milliseconds(static_cast<std::int64_t>(now - clock_.started)));
+    const std::chrono::milliseconds elapsed(static_cast<std::int64_t>(now - clock_.started));
+    if (betweenStatements) {
+        host.longRun(elapsed);
+    } else {
+        host.longStep(elapsed);
+    }
 }
 
 } // namespace vbs

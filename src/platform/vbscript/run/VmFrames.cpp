@@ -3,6 +3,7 @@
 
 #include "platform/vbscript/run/Vm.h"
 #include "platform/vbscript/value/Memory.h"
+#include "platform/vbscript/value/Work.h"
 
 #include <limits>
 #include <new>
@@ -98,6 +99,9 @@ void Vm::run(std::size_t floor) {
     terminateDead(); // what whoever entered has dropped
     while (true) {
         try {
+            if (budget_-- <= 0) { // resuming is a jump like another: loops may go round by it alone
+                pollSlow();
+            }
             dispatch(floor);
             return;
         } catch (ScriptError& failure) {
@@ -119,14 +123,6 @@ void Vm::run(std::size_t floor) {
 // Finds the frame above `floor` that resumes and sets it on its way; false if there is none, and then those frames are
 // gone.
 bool Vm::recover(ScriptError& failure, std::size_t floor) {
-    // A loop whose condition fails goes on without a jump that would look at the clock.
-    if (!clock_.interrupted && (budget_ -= 100) <= 0) {
-        try {
-            pollSlow();
-        } catch (const ScriptError& timeOut) {
-            failure = timeOut;
-        }
-    }
     locate(failure);
     std::size_t depth = depth_;
     while (depth > floor && (clock_.interrupted || !frames_[depth - 1].resumeNext)) {
@@ -140,6 +136,8 @@ bool Vm::recover(ScriptError& failure, std::size_t floor) {
     if (depth == floor) {
         return false;
     }
+    constexpr std::size_t turnsAnError = 500; // what throwing and catching it took
+    chargeTurns(turnsAnError);
     Frame& frame = top();
     noteError(failure);
     const auto pc = static_cast<std::size_t>(frame.pc - frame.procedure->code.data()) - 1;

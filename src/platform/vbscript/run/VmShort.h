@@ -6,7 +6,9 @@
 #include "platform/vbscript/compile/Bytecode.h"
 #include "platform/vbscript/run/VmFrames.h"
 #include "platform/vbscript/value/Value.h"
+#include "platform/vbscript/value/Work.h"
 
+#include <algorithm>
 #include <cfloat>
 #include <cmath>
 
@@ -284,6 +286,7 @@ template <Opcode op>
 inline bool textsHold(const Value& a, const Value& b) noexcept {
     const std::u16string_view x = a.text();
     const std::u16string_view y = b.text();
+    chargeWalk(std::min(x.size(), y.size()) * sizeof(char16_t));
     if constexpr (op == Opcode::Equal || op == Opcode::NotEqual) {
         return (a.counted == b.counted || sameUnits(x, y)) == (op == Opcode::Equal);
     } else {

@@ -1,6 +1,7 @@
 // Compiled texts: the cache of them, what they define, and running them.
 #include "platform/vbscript/run/Vm.h"
 #include "platform/vbscript/run/VmFrames.h"
+#include "platform/vbscript/value/Work.h"
 
 #include <algorithm>
 #include <utility>
@@ -15,6 +16,7 @@ constexpr std::size_t maxCachedText = std::size_t{16} * 1024 * 1024; // code uni
 } // namespace
 
 Unit* Vm::unitOf(std::u16string_view text) {
+    chargeWalk(text.size() * sizeof(char16_t)); // to know it again
     if (cacheStale_) {
         forgetCache(nullptr);
     }
@@ -42,6 +44,7 @@ Unit* Vm::unitOf(std::u16string_view text) {
 // Compiles a text that is not known, and remembers if it is refused.
 std::unique_ptr<Unit> Vm::compiled(std::u16string_view text) {
     constexpr std::size_t maxRefused = 8;
+    chargeTurns(text.size()); // reading it; what is made of it is charged as memory
     try {
         const bool before = compiler_.valuesRunCode();
         std::unique_ptr<Unit> unit = compiler_.compile(text);
@@ -192,7 +195,7 @@ void Vm::bind(Unit* unit) {
 // The clock of a pass; that of the pass around it is put back at the end. A stop is meant for both.
 class Vm::Pass {
 public:
-    explicit Pass(Vm& vm) : vm_(vm), around_(vm.clock_), inner_(!vm.idle()) {
+    explicit Pass(Vm& vm) : vm_(vm), charged_(vm.budget_), around_(vm.clock_), inner_(!vm.idle()) {
         vm.startClock();
         if (!inner_) {
             vm.error = {};
@@ -211,11 +214,15 @@ public:
 
 private:
     Vm& vm_;
+    const ChargedTurns charged_;
     const Clock around_;
     const bool inner_;
 };
 
 void Vm::runPass(Unit* unit) {
+    if (tellsLongStep_) {
+        raise(ErrorNumber::InternalError);
+    }
     const Pass pass(*this);
     runUnit(unit);
 }

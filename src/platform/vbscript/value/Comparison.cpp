@@ -2,6 +2,9 @@
 #include "platform/vbscript/value/Convert.h"
 #include "platform/vbscript/value/Errors.h"
 #include "platform/vbscript/value/Operators.h"
+#include "platform/vbscript/value/Work.h"
+
+#include <algorithm>
 
 namespace vbs {
 
@@ -65,6 +68,7 @@ Ordering compare(Context& context, const Value& a, const Value& b, Literals lite
     const bool xEmpty = x.isEmpty() || x.type == Type::Undefined;
     const bool yEmpty = y.isEmpty() || y.type == Type::Undefined;
     if (x.isString() && (y.isString() || yEmpty)) {
+        chargeWalk(yEmpty ? 0 : std::min(x.text().size(), y.text().size()) * sizeof(char16_t));
         return ordering(x.text().compare(yEmpty ? std::u16string_view() : y.text()));
     }
     if (xEmpty && y.isString()) {

@@ -1,6 +1,7 @@
 // Text as date (declared in Dates.h): cuts the text into numbers, words and signs, reads the time wherever it stands,
 // and makes a date of the numbers that are left, in the first order that gives a valid one.
 #include "platform/vbscript/value/Dates.h"
+#include "platform/vbscript/value/Work.h"
 
 #include <array>
 #include <vector>
@@ -49,8 +50,12 @@ std::optional<Piece> numberAt(std::u16string_view text, std::size_t start) {
 }
 
 bool cut(std::u16string_view text, const Locale& locale, std::vector<Piece>& pieces) {
+    constexpr std::size_t mostPieces = 32; // no date has so many
     for (std::size_t i = 0; i < text.size();) {
         const char16_t c = text[i];
+        if (pieces.size() == mostPieces) {
+            return false;
+        }
         if (c == u' ' || c == u'\t' || c == 0xA0) {
             ++i;
         } else if (isDigit(c)) {
@@ -279,6 +284,7 @@ private:
 } // namespace
 
 std::optional<double> parseDate(std::u16string_view text, const Locale& locale, int thisYear) {
+    chargeWalk(text.size() * sizeof(char16_t));
     std::vector<Piece> pieces;
     if (!cut(text, locale, pieces)) {
         return std::nullopt;

@@ -46,6 +46,8 @@ std::u16string Host::inputBox(std::u16string_view /*prompt*/, std::u16string_vie
 
 void Host::longRun(std::chrono::milliseconds /*elapsed*/) {}
 
+void Host::longStep(std::chrono::milliseconds /*elapsed*/) {}
+
 LocalTime Host::now() {
     return localTime(std::chrono::system_clock::now());
 }

@@ -44,6 +44,9 @@ public:
     // statements. May run other texts in the same engine and may call ScriptControl::stop(), which ends the text with
     // error 32766, whatever its On Error says. The time spent here does not count. Default: does nothing.
     virtual void longRun(std::chrono::milliseconds elapsed);
+    // The same in the middle of a single step that takes long, as a search in a text of megabytes may. It may call
+    // ScriptControl::stop(), too, but a text that it runs in the same engine fails with error 51.
+    virtual void longStep(std::chrono::milliseconds elapsed);
 
     // Facts of a locale number (0: the user's own), or null if it is not known. Must outlive the engine.
     virtual const Locale* locale(int id);

@@ -3,6 +3,7 @@
 #include "platform/vbscript/value/Convert.h"
 #include "platform/vbscript/value/Errors.h"
 #include "platform/vbscript/value/Memory.h"
+#include "platform/vbscript/value/Work.h"
 
 #include <algorithm>
 #include <bit>
@@ -84,6 +85,7 @@ void KeyedTable::setIgnoresCase(bool ignoresCase) noexcept {
 
 std::uint32_t KeyedTable::hashOf(const Value& key) const {
     if (key.isString()) {
+        chargeWalk(key.text().size() * sizeof(char16_t));
         return folded(ignoresCase_ ? hashIgnoringCase(key.text()) : hashOfText(key.text()));
     }
     if (isNumber(key)) {

@@ -1,6 +1,7 @@
 #include "platform/vbscript/value/Memory.h"
 
 #include "platform/vbscript/value/Errors.h"
+#include "platform/vbscript/value/Work.h"
 
 namespace vbs {
 
@@ -15,6 +16,7 @@ void chargeMemory(std::size_t bytes) {
         raise(ErrorNumber::OutOfMemory);
     }
     meter.used += bytes;
+    chargeWalk(bytes); // somebody fills it
 }
 
 void releaseMemory(std::size_t bytes) noexcept {

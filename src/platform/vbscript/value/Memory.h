@@ -6,6 +6,8 @@
 #pragma once
 
 #include <cstddef>
+#include <memory>
+#include <vector>
 
 namespace vbs {
 
@@ -46,5 +48,33 @@ public:
 private:
     std::size_t bytes_;
 };
+
+// For the vectors of builtins whose length a script decides: what they hold is charged while they hold it.
+template <class T>
+struct ChargedAllocator {
+    using value_type = T;
+
+    ChargedAllocator() noexcept = default;
+    template <class U>
+    explicit ChargedAllocator(const ChargedAllocator<U>& /*other*/) noexcept {}
+
+    T* allocate(std::size_t count) {
+        chargeMemory(count * sizeof(T));
+        try {
+            return std::allocator<T>().allocate(count);
+        } catch (...) {
+            releaseMemory(count * sizeof(T));
+            throw;
+        }
+    }
+    void deallocate(T* place, std::size_t count) noexcept {
+        std::allocator<T>().deallocate(place, count);
+        releaseMemory(count * sizeof(T));
+    }
+    bool operator==(const ChargedAllocator&) const noexcept = default;
+};
+
+template <class T>
+using ChargedVector = std::vector<T, ChargedAllocator<T>>;
 
 } // namespace vbs

@@ -1,6 +1,7 @@
 // Numbers as text and back (declared in Convert.h).
 #include "platform/text/Numbers.h"
 #include "platform/vbscript/value/Convert.h"
+#include "platform/vbscript/value/Work.h"
 
 #include <algorithm>
 #include <cmath>
@@ -9,6 +10,7 @@
 namespace vbs {
 
 std::optional<double> parseNumber(std::u16string_view text, const Locale& locale) {
+    chargeWalk(text.size() * sizeof(char16_t));
     const auto number = text::readNumber(
         text, {.decimal = locale.decimal, .thousands = locale.thousands, .currencySymbol = locale.currencySymbol});
     if (number && std::isinf(*number)) {
@@ -18,6 +20,7 @@ std::optional<double> parseNumber(std::u16string_view text, const Locale& locale
 }
 
 std::optional<std::int64_t> parseCurrency(std::u16string_view text, const Locale& locale) {
+    chargeWalk(text.size() * sizeof(char16_t));
     const auto number = text::readScaled(
         text, {.decimal = locale.decimal, .thousands = locale.thousands, .currencySymbol = locale.currencySymbol}, 4);
     if (number && !number->fits) {
