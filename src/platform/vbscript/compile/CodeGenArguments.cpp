@@ -154,7 +154,7 @@ void CodeGen::argumentTo(const Expr* e, Operand to, bool byValue) {
 bool CodeGen::passedByValue(const std::vector<Expr*>& args, std::size_t i, const Resolved* callee) {
     const Expr* argument = args[i];
     if (argument->kind != Expr::Kind::Name || callee == nullptr || callee->kind != Resolved::Kind::Callable ||
-        callee->procedure == nullptr || i >= callee->procedure->parameters.size()) {
+        callee->procedure == nullptr || i >= callee->procedure->parameters.size() || scope_.ast.runsTexts) {
         return false;
     }
     if (callee->procedure->parameters[i].byValue) {
@@ -177,7 +177,8 @@ bool CodeGen::needsCopyBack(const Expr* e, std::size_t i, const Resolved* callee
     if (base != Resolved::Kind::Variable && (base != Resolved::Kind::Unknown || callsInArguments_ == deepestCalls)) {
         return false;
     }
-    if (callee != nullptr && callee->procedure != nullptr && i < callee->procedure->parameters.size()) {
+    const bool known = callee != nullptr && callee->procedure != nullptr && !scope_.ast.runsTexts;
+    if (known && i < callee->procedure->parameters.size()) {
         return !callee->procedure->parameters[i].byValue && scope_.writesParameter(*callee->procedure, i);
     }
     return callee == nullptr || callee->kind == Resolved::Kind::Unknown || callee->kind == Resolved::Kind::Callable ||

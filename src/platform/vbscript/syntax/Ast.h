@@ -276,6 +276,7 @@ struct Ast {
 
     bool optionExplicit = false;
     bool valuesRunCode = false; // it may make objects whose default member is code of a script
+    bool runsTexts = false;     // which may give its own procedures other bodies
     ProcedureDecl main;
     std::vector<ProcedureDecl*> procedures;
     std::vector<ClassDecl*> classes;

@@ -235,6 +235,7 @@ Expr* Parser::nameExpr(Position at) {
     }
     if (procedure_->dynamicScope || e->symbol == executeGlobal_ || e->symbol == getRef_) {
         ast_->valuesRunCode = true;
+        ast_->runsTexts = ast_->runsTexts || e->symbol == execute_ || e->symbol == executeGlobal_;
     }
     return e;
 }
