@@ -41,8 +41,14 @@ Value lbound(Context& context, Arguments arguments) {
 
 Value arrayOf(Context& /*context*/, Arguments arguments) {
     ArrayBlock* array = ArrayBlock::create(arguments.size());
+    Value result = Value::ofArray(array);
     std::copy(arguments.begin(), arguments.end(), array->elements());
-    return Value::ofArray(array);
+    for (Value* element = array->elements(); element != array->elements() + array->count(); ++element) {
+        if (element->isArray() && element->array()->fixed()) {
+            *element = Value::ofArray(element->array()->clone()); // a copy may grow
+        }
+    }
+    return result;
 }
 
 // An array of one dimension, or one that has none yet; raises 94 for Null, 13 for anything else.

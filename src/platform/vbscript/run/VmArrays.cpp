@@ -300,9 +300,18 @@ void requireUnlocked(const Value& variable) {
     }
 }
 
+// A parameter that is no reference has an array of its own, which may grow though that of the caller is fixed.
+void freeOwnArray(const Procedure& procedure, Operand o, Value& v) {
+    const bool parameter = placeOf(o) == Place::Frame && indexOf(o) < procedure.parameters;
+    if (parameter && v.isArray() && v.array()->fixed() && v.array()->locks == 0) {
+        v = Value::ofArray(v.array()->clone());
+    }
+}
+
 } // namespace
 
 void Vm::redim(Instruction instruction, bool preserve) {
+    freeOwnArray(*top().procedure, operandA(instruction), at(operandA(instruction)));
     Value& variable = at(operandA(instruction)).deref();
     Value* first = &at(operandB(instruction));
     const std::size_t count = countOf(instruction);
@@ -341,6 +350,7 @@ void Vm::redim(Instruction instruction, bool preserve) {
 
 // Erase: a fixed array gets Empty elements, a dynamic one loses its dimensions.
 void Vm::erase(Operand o) {
+    freeOwnArray(*top().procedure, o, at(o));
     Value& variable = at(o).deref();
     if (!variable.isArray()) {
         raise(ErrorNumber::TypeMismatch);
