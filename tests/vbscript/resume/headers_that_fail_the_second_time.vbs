@@ -28,9 +28,10 @@ Next
 '> b 451
 '> c 0
 
-' The same beside each other in a procedure.
-Sub P
+' The same beside each other in a procedure, which handles its errors or leaves them to its caller.
+Sub P(resumes)
   Dim i, v, seen
+  If resumes Then On Error Resume Next
   For i = 1 To 3 Step 2
     seen = seen & i
   Next
@@ -44,26 +45,12 @@ Sub P
   Next
   WScript.Echo seen, Err.Number
 End Sub
-Sub Q
+Sub Q(resumes)
   On Error Resume Next
-  P
+  P resumes
   WScript.Echo Err.Number
 End Sub
-Sub R
-  On Error Resume Next
-  Dim i, v, seen
-  For i = 1 To 3 Step 2
-    seen = seen & i
-  Next
-  For Each v In 7
-    seen = seen & "each"
-    If Len(seen) > 9 Then Exit For
-  Next
-  For i = 1 To UBound(Nothing)
-    seen = seen & "for" & i
-    If Len(seen) > 19 Then Exit For
-  Next
-  WScript.Echo seen, Err.Number
-End Sub
-Q '> 451
-R '> 13eachfor5 92
+Q False '> 451
+Q True
+'> 13eachfor5 92
+'> 92

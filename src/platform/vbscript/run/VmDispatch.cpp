@@ -31,7 +31,7 @@ namespace {
 // that; what the low two bits add by it is taken off the start of each place beforehand. A start is a number, since it
 // may lie before its place, and a place that the frame does not have starts nowhere.
 inline Value& valueAt(const std::uintptr_t* places, unsigned o) noexcept {
-    // NOLINTNEXTLINE(performance-no-int-to-ptr): see above
+    // NOLINTNEXTLINE(performance-no-int-to-ptr): a pointer before its array would be undefined, a number is not
     return *reinterpret_cast<Value*>(places[o & 3] + std::size_t{o} * (sizeof(Value) / 4));
 }
 inline std::uintptr_t startOf(Place place, const Value* first) noexcept {
