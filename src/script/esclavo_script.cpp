@@ -46,6 +46,7 @@ struct Options {
     long passes = 1;
     std::vector<std::string> files;
     std::vector<std::string> arguments; // behind "--"
+    std::string complaint;              // what is wrong with the command
 };
 
 // Takes the option at `i`; false for one that does not exist or lacks what belongs to it.
@@ -69,7 +70,7 @@ bool takeOption(Options& options, std::span<char*> arguments, std::size_t& i) {
     return true;
 }
 
-std::optional<Options> parse(std::span<char*> arguments) {
+Options parse(std::span<char*> arguments) {
     Options options;
     for (std::size_t i = 0; i < arguments.size(); ++i) {
         const std::string_view argument = arguments[i];
@@ -80,11 +81,14 @@ std::optional<Options> parse(std::span<char*> arguments) {
         if (argument == "-" || !argument.starts_with('-')) {
             options.files.emplace_back(argument);
         } else if (!takeOption(options, arguments, i)) {
-            return std::nullopt;
+            options.complaint = "no se entiende «" + std::string(arguments[i]) + "»";
+            return options;
         }
     }
-    const bool complete = options.help || options.version || !options.files.empty();
-    return complete ? std::optional(options) : std::nullopt;
+    if (!options.help && !options.version && options.files.empty()) {
+        options.complaint = "falta el archivo";
+    }
+    return options;
 }
 
 std::optional<std::string> read(const std::string& file) {
@@ -146,9 +150,12 @@ public:
 private:
     using Clock = std::chrono::steady_clock;
 
-    static std::string milliseconds(Clock::duration duration) {
-        const double thousandths = std::chrono::duration<double, std::micro>(duration).count();
-        return text::writeNumber(std::round(thousandths) / 1000, decimalSign()) + " ms";
+    // A short pass takes less than a thousandth of a millisecond.
+    static std::string shown(Clock::duration duration) {
+        const bool small = duration < std::chrono::microseconds(10);
+        const double thousandths = small ? std::chrono::duration<double, std::nano>(duration).count()
+                                         : std::chrono::duration<double, std::micro>(duration).count();
+        return text::writeNumber(std::round(thousandths) / 1000, decimalSign()) + (small ? " µs" : " ms");
     }
 
     bool compile(const std::string& file, std::u16string_view script) {
@@ -159,7 +166,7 @@ private:
             report(file, control_.error());
         }
         if (options_.times) {
-            std::cerr << file << ": compilación: " << milliseconds(took) << '\n';
+            std::cerr << file << ": compilación: " << shown(took) << '\n';
         }
         return good;
     }
@@ -179,10 +186,10 @@ private:
         }
         if (options_.times) {
             std::cout.flush();
-            std::cerr << file << ": pasadas: " << done << " en " << milliseconds(all) << ", la primera (compila) en "
-                      << milliseconds(first);
+            std::cerr << file << ": pasadas: " << done << " en " << shown(all) << ", la primera (compila) en "
+                      << shown(first);
             if (done > 1) {
-                std::cerr << ", las demás en " << milliseconds((all - first) / (done - 1)) << " de media";
+                std::cerr << ", las demás en " << shown((all - first) / (done - 1)) << " de media";
             }
             std::cerr << '\n';
         }
@@ -221,18 +228,18 @@ int runAll(const Options& options) {
 int main(int argc, char** argv) {
     std::ios::sync_with_stdio(false);
     useSystemLocale();
-    const auto options = parse(std::span(argv, static_cast<std::size_t>(argc)).subspan(1));
-    if (!options) {
-        std::cerr << help;
+    const Options options = parse(std::span(argv, static_cast<std::size_t>(argc)).subspan(1));
+    if (!options.complaint.empty()) {
+        std::cerr << help << "\nesclavo-script: " << options.complaint << '\n';
         return 2;
     }
-    if (options->help) {
+    if (options.help) {
         std::cout << help;
         return 0;
     }
-    if (options->version) {
+    if (options.version) {
         std::cout << "esclavo-script " ESCLAVO_VERSION "\n";
         return 0;
     }
-    return runAll(*options);
+    return runAll(options);
 }

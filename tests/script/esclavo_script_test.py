@@ -50,6 +50,12 @@ class EsclavoScript(ToolCase):
         for option in ("--nada", "-x", "--pasada", "--helpme"):
             self.assert_usage(option, self.script("x = 1"))
 
+    def test_a_wrong_command_is_told_what_is_wrong(self):
+        for command, complaint in ((["--nada"], "no se entiende «--nada»"), (["--tiempo"], "falta el archivo"),
+                                   (["--pasadas", "x", "a.vbs"], "no se entiende «x»"),
+                                   (["a.vbs", "--pasadas"], "no se entiende «--pasadas»")):
+            self.assertEqual(self.run_tool(*command)[2].splitlines()[-1], f"esclavo-script: {complaint}")
+
     def test_help_goes_to_standard_output(self):
         for option in ("--help", "-h"):
             status, out, err = self.run_tool(option)
@@ -249,9 +255,13 @@ class Times(ToolCase):
         path = self.script("n = n + 1", "a.vbs")
         status, out, err = self.run_tool("--tiempo", "--pasadas", "3", path)
         self.assertEqual((status, out), (0, ""))
-        number = r"\d+(,\d{1,3})? ms"
+        number = r"\d+(,\d{1,3})? (ms|µs)"
         self.assertRegex(err, rf"\A{re.escape(path)}: compilación: {number}\n{re.escape(path)}: pasadas: 3 en {number}, "
                               rf"la primera \(compila\) en {number}, las demás en {number} de media\n\Z")
+
+    def test_a_short_pass_takes_more_than_no_time(self):
+        _, _, err = self.run_tool("--tiempo", "--pasadas", "20000", self.script("n = n + 1"))
+        self.assertNotRegex(err, r"en 0 (ms|µs) de media")
 
     def test_checking_alone_tells_the_compilation(self):
         status, _, err = self.run_tool("--tiempo", "--comprobar", self.script("x = 1"))
