@@ -14,10 +14,12 @@ Operand nextTo(Operand o, std::size_t by) noexcept {
     return operandOf(placeOf(o), indexOf(o) + by);
 }
 
+constexpr std::size_t mostIndexes = 60;
+
 // The calls and indexes that lead from a name to an element, the first one in front; empty if `e` is no such thing.
 std::vector<const Expr*> levelsOf(const Expr* e) {
     std::vector<const Expr*> levels;
-    for (; e->kind == Expr::Kind::Call && !e->args.empty(); e = e->a) {
+    for (; e->kind == Expr::Kind::Call && !e->args.empty() && e->args.size() <= mostIndexes; e = e->a) {
         levels.insert(levels.begin(), e);
     }
     return e->kind == Expr::Kind::Name ? levels : std::vector<const Expr*>{};
