@@ -68,8 +68,8 @@ Value Vm::taken(Operand o) {
     return isTemporary(o) && (isPlain(v) || v.isCounted()) ? std::move(v) : contentOf(v);
 }
 
-// What an assignment stores: the value itself, for Let the default member of an object and a dynamic copy of a fixed
-// array.
+// What an assignment stores: the value itself, for Let the default member of an object and a dynamic copy of an array
+// that is fixed or that a loop has locked.
 Value Vm::assignable(Value value, Store store) {
     if (store == Store::Let && value.isObject()) {
         return defaultValue(value);
@@ -77,7 +77,7 @@ Value Vm::assignable(Value value, Store store) {
     if (store == Store::Set && !value.isObject()) {
         raise(ErrorNumber::ObjectRequired);
     }
-    if (store == Store::Let && value.isArray() && value.array()->fixed()) {
+    if (store == Store::Let && value.isArray() && (value.array()->fixed() || value.array()->locks > 0)) {
         return Value::ofArray(value.array()->clone());
     }
     return value;
@@ -337,6 +337,9 @@ bool Vm::forStep(Value& variable, Value* limits) {
 }
 
 void Vm::eachPrepare(Instruction instruction) {
+    if (Value& walked = at(operandB(instruction)).deref(); walked.isArray()) {
+        writableArray(walked); // the lock is for this array alone, not for those that share its elements
+    }
     const Value collection = taken(operandB(instruction));
     Value iterator;
     if (collection.isArray()) {
