@@ -108,7 +108,8 @@ inline constexpr Operand arraysOnly = 1;
     OP(IndexN)         /* A = B(C, C+1 ... X of them) */                                                               \
     OP(SetIndex)       /* A(B) = C */                                                                                  \
     OP(SetIndex2)      /* A(B, C) = D */                                                                               \
-    OP(SetIndexN)      /* A(B, B+1 ... X of them) = C */                                                               \
+    OP(SetIndexN)      /* A(B, B+1 ... X of them) = C; to Discard: the way home of an element that went by */          \
+                       /* reference, unless C+1, what it was, is still the same; so with SetDeep */                    \
     OP(SetDeep)        /* A(B, B+1 ...)(...) ... = C; shape D tells how many indexes each level has */                 \
     OP(Wide)           /* the call that follows has J arguments, more than its X can tell */                           \
     OP(Call)           /* A = C(B, B+1 ... X of them): procedure, array or object */                                   \

@@ -63,6 +63,7 @@ CodeGen::Prepared CodeGen::arguments(const std::vector<Expr*>& args, const Resol
 // Temporaries for the element, for what stands on the way to it, and for the indexes, which wait for the way home.
 CodeGen::CopyBack CodeGen::newCopyBack(const Expr* element) {
     CopyBack back{element, newTemporary(), 0};
+    newTemporary(); // behind the holder: what it held at first
     std::size_t others = 0;
     for (const Expr* level : levelsOf(element)) {
         others += level->args.size() + (level != element ? 1 : 0);
@@ -100,6 +101,7 @@ void CodeGen::elementTo(const CopyBack& back) {
         base.kind = Resolved::Kind::Variable;
         base.operand = std::exchange(between, nextTo(between, 1));
     }
+    emit(encode(Opcode::Copy, nextTo(back.holder, 1), back.holder));
 }
 
 void CodeGen::readElement(Operand base, Operand indexes, std::size_t count, Operand to) {
@@ -125,6 +127,7 @@ void CodeGen::elementAgain(const CopyBack& back) {
     emitJump(Opcode::Jump, 0, 0, end);
     bind(read);
     readElement(array, back.first, back.element->args.size(), back.holder);
+    emit(encode(Opcode::Copy, nextTo(back.holder, 1), back.holder));
     bind(end);
     temporary_ = mark;
 }
@@ -194,7 +197,7 @@ void CodeGen::copyBack(const Prepared& prepared) {
         const std::size_t mark = temporary_;
         const Resolved base = resolveCallee(levels.front()->a->symbol);
         road.base = base.kind == Resolved::Kind::Unknown ? unresolved(base) : base.operand;
-        // Store::Discard: do nothing where an array is missing on the way.
+        // Store::Discard: nothing is done where the holder was left alone or an array is missing on the way.
         if (levels.size() == 1) {
             emit(encode(Opcode::SetIndexN, road.base, back.first, back.holder,
                         packed(back.element->args.size(), Store::Discard)));

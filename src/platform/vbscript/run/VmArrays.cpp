@@ -216,15 +216,26 @@ void Vm::storeIndex2(Instruction instruction, Operand value) {
     consume(a);
 }
 
+namespace {
+
+// Whether what went by reference is no longer what it was, which stands behind it and is given up.
+bool wasChanged(Value* holder) noexcept {
+    const Value before = std::move(holder[1]);
+    return before.type != holder->type || before.n != holder->n;
+}
+
+} // namespace
+
 // With Store::Discard: the way home of an element that went by reference; only arrays take it back.
 void Vm::storeIndexN(Instruction instruction) {
     const Operand a = operandA(instruction);
     const Row row(&at(operandB(instruction)), countOf(instruction));
-    Value value = taken(operandC(instruction));
     const bool wayHome = storeOf(instruction) == Store::Discard;
+    const bool changed = !wayHome || wasChanged(&at(operandC(instruction)));
+    Value value = taken(operandC(instruction));
     if (!wayHome) {
         setIndex(at(a), row.span(), std::move(value), storeOf(instruction));
-    } else if (at(a).deref().isArray()) {
+    } else if (changed && at(a).deref().isArray()) {
         setIndex(at(a), row.span(), std::move(value), Store::Raw);
     }
     consumeRow(&at(operandB(instruction)), row.count);
@@ -236,7 +247,11 @@ void Vm::storeIndexN(Instruction instruction) {
 void Vm::storeDeep(Instruction instruction, std::size_t shape) {
     const std::vector<std::int32_t>& levels = top().procedure->shapes[shape];
     Value* indexes = &at(operandB(instruction));
-    setDeep(at(operandA(instruction)).deref(), indexes, levels, taken(operandC(instruction)), storeOf(instruction));
+    const bool changed = storeOf(instruction) != Store::Discard || wasChanged(&at(operandC(instruction)));
+    Value value = taken(operandC(instruction));
+    if (changed) {
+        setDeep(at(operandA(instruction)).deref(), indexes, levels, std::move(value), storeOf(instruction));
+    }
     consumeRow(indexes, static_cast<std::size_t>(std::accumulate(levels.begin(), levels.end(), 0)));
     consume(operandA(instruction));
 }
