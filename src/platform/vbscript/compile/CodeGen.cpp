@@ -159,7 +159,7 @@ Resolved CodeGen::resolveOutside(Symbol symbol) {
         itself.type = Type::Procedure;
         itself.pointer = r.local;
         r.operand = constant(std::move(itself));
-    } else if (r.kind == Resolved::Kind::Variable && scope_.isPassed(symbol)) {
+    } else if (r.kind == Resolved::Kind::Variable && (scope_.isPassed(symbol) || mayBeMade())) {
         r.kind = Resolved::Kind::Unknown;
         r.passed = true;
     }
@@ -193,11 +193,16 @@ Resolved CodeGen::resolveCallee(Symbol symbol) {
     return resolve(symbol);
 }
 
+// Whether Execute may give the procedure names of its own, which come before those of the whole script.
+bool CodeGen::mayBeMade() const noexcept {
+    return decl_.dynamicScope && (decl_.kind != ProcedureDecl::Kind::Main || procedure_.localText);
+}
+
 // Where the value of a name is that nothing has defined yet. In a procedure that uses Execute it is searched when the
 // instruction before its use runs.
 Operand CodeGen::unresolved(const Resolved& name, Use use) {
     const bool checked = scope_.ast.optionExplicit;
-    if (decl_.dynamicScope && (decl_.kind != ProcedureDecl::Kind::Main || procedure_.localText)) {
+    if (mayBeMade()) {
         const Operand to = newTemporary();
         emit(encode(Opcode::FindName, to, 0, name.operand, (checked ? 1U : 0U) | (use == Use::Assigned ? 4U : 0U)));
         return to;

@@ -114,6 +114,7 @@ private:
     Resolved resolveOutside(Symbol symbol);
     Resolved resolveCallee(Symbol symbol);
     enum class Use { Read, Assigned };
+    bool mayBeMade() const noexcept;
     Operand unresolved(const Resolved& name, Use use = Use::Read);
     Operand newTemporary();
     Operand newHidden();

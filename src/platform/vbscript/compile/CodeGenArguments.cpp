@@ -142,12 +142,13 @@ void CodeGen::argumentTo(const Expr* e, Operand to, bool byValue) {
             return;
         }
         if (r.kind == Resolved::Kind::Variable || r.passed) {
-            emit(encode(Opcode::Reference, to, r.operand));
+            const std::size_t mark = temporary_;
+            const Operand variable = r.passed && mayBeMade() ? unresolved(r) : r.operand;
+            emit(encode(Opcode::Reference, to, variable));
             if (r.passed) {
-                const std::size_t mark = temporary_;
                 emit(encode(Opcode::GetName, to, newTemporary(), to, packed(1, Store::Raw)));
-                temporary_ = mark;
             }
+            temporary_ = mark;
             return;
         }
     }

@@ -330,7 +330,11 @@ bool CodeGen::isElement(const Expr* e) {
     while (base->kind == Expr::Kind::Call && !base->args.empty()) {
         base = base->a;
     }
-    return base != e && base->kind == Expr::Kind::Name && resolve(base->symbol).kind == Resolved::Kind::Variable;
+    if (base == e || base->kind != Expr::Kind::Name) {
+        return false;
+    }
+    const Resolved::Kind kind = resolve(base->symbol).kind;
+    return kind == Resolved::Kind::Variable || kind == Resolved::Kind::Unknown;
 }
 
 void CodeGen::eraseStatement(const Stmt& s) {
@@ -338,7 +342,11 @@ void CodeGen::eraseStatement(const Stmt& s) {
         const std::size_t temporaries = temporary_;
         const ClassMember* own = ownMember(target);
         const bool field = own != nullptr && own->field >= 0;
-        const Operand array = field ? operandOf(Place::Field, static_cast<std::size_t>(own->field)) : expr(target);
+        const bool unknown =
+            target->kind == Expr::Kind::Name && resolve(target->symbol).kind == Resolved::Kind::Unknown;
+        const Operand array = field     ? operandOf(Place::Field, static_cast<std::size_t>(own->field))
+                              : unknown ? unresolved(resolve(target->symbol))
+                                        : expr(target);
         emit(encode(Opcode::Erase, array));
         if (!field && (target->kind == Expr::Kind::Member || isElement(target))) {
             putBack(target, array);
