@@ -92,4 +92,25 @@ TEST(TimeOut, isNoneUnlessItIsSetAndOutlivesAReset) {
     EXPECT_TRUE(control.addCode(longText));
 }
 
+TEST_F(Failure, inATextThatExecuteRunsIsToldWhereExecuteStands) {
+    const ScriptFailure& failure = of(u"x = 1\nSub P\n  Execute \"y = 1\" & vbLf & \"z = 1 / 0\"\nEnd Sub\n\nP");
+    EXPECT_EQ(failure.number, 11);
+    EXPECT_EQ(failure.line, 3U);
+    EXPECT_EQ(failure.column, 3U);
+    EXPECT_EQ(failure.lineText, u"  Execute \"y = 1\" & vbLf & \"z = 1 / 0\"");
+}
+
+TEST_F(Failure, inATextThatExecuteCannotReadIsToldThereToo) {
+    const ScriptFailure& failure = of(u"x = 1\n  ExecuteGlobal \"z = )\"");
+    EXPECT_EQ(failure.line, 2U);
+    EXPECT_EQ(failure.column, 3U);
+}
+
+TEST_F(Failure, inAProcedureOfAnEarlierTextIsToldWhereTheTextCallsIt) {
+    ASSERT_TRUE(control.addCode("Sub P\n\n\n  x = 1 / 0\nEnd Sub"));
+    EXPECT_FALSE(control.addCode("a = 1\nP"));
+    EXPECT_EQ(control.error().line, 2U);
+    EXPECT_EQ(control.error().lineText, u"P");
+}
+
 } // namespace

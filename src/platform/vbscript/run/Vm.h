@@ -244,6 +244,7 @@ private:
     };
     class Pass;
     Clock clock_;
+    const Unit* passUnit_ = nullptr; // the text that the host runs
     bool tellsLongRun_ = false;
     bool tellsLongStep_ = false; // native code stands in script storage: no text may run
 

@@ -146,11 +146,16 @@ bool Vm::recover(ScriptError& failure, std::size_t floor) {
     return true;
 }
 
+// The place in the text that the pass runs: where it called, directly or not, what failed in another text.
 void Vm::locate(ScriptError& failure) const {
     if (failure.line != 0 || depth_ == 0) {
         return;
     }
-    const Frame& frame = frames_[depth_ - 1];
+    std::size_t depth = depth_;
+    while (depth > 0 && frames_[depth - 1].procedure->unit != passUnit_) {
+        --depth;
+    }
+    const Frame& frame = frames_[(depth > 0 ? depth : depth_) - 1];
     const auto pc = static_cast<std::size_t>(frame.pc - frame.procedure->code.data());
     if (const StatementMark* mark = frame.procedure->markAt(pc > 0 ? pc - 1 : 0); mark != nullptr) {
         failure.line = mark->at.line;

@@ -224,6 +224,12 @@ void Vm::runPass(Unit* unit) {
         raise(ErrorNumber::InternalError);
     }
     const Pass pass(*this);
+    const struct Running {
+        Running(Vm& running, const Unit* unit) : vm(running), around(std::exchange(vm.passUnit_, unit)) {}
+        ~Running() { vm.passUnit_ = around; }
+        Vm& vm;
+        const Unit* around;
+    } running(*this, unit);
     runUnit(unit);
 }
 
