@@ -1,6 +1,7 @@
 // Code for the arguments of calls. They lie in neighbouring temporaries, which become the first registers of the
 // callee.
 #include "platform/vbscript/compile/CodeGen.h"
+#include "platform/vbscript/value/Array.h"
 
 #include <algorithm>
 #include <numeric>
@@ -14,12 +15,10 @@ Operand nextTo(Operand o, std::size_t by) noexcept {
     return operandOf(placeOf(o), indexOf(o) + by);
 }
 
-constexpr std::size_t mostIndexes = 60;
-
 // The calls and indexes that lead from a name to an element, the first one in front; empty if `e` is no such thing.
 std::vector<const Expr*> levelsOf(const Expr* e) {
     std::vector<const Expr*> levels;
-    for (; e->kind == Expr::Kind::Call && !e->args.empty() && e->args.size() <= mostIndexes; e = e->a) {
+    for (; e->kind == Expr::Kind::Call && !e->args.empty() && e->args.size() <= ArrayBlock::maxDimensions; e = e->a) {
         levels.insert(levels.begin(), e);
     }
     return e->kind == Expr::Kind::Name ? levels : std::vector<const Expr*>{};

@@ -8,6 +8,10 @@
 
 namespace vbs {
 
+// Room for the indexes of one element: no instruction tells more.
+inline constexpr std::size_t maxIndexes = 64;
+static_assert(maxIndexes >= maxPacked);
+
 // A copy of what a variable holds, for keeping. An undefined name reads as Empty. Raises 13 for the name of a procedure
 // or class, which a variable may have become since the code was compiled: it must not outlive its unit in a value.
 inline Value contentOf(const Value& variable) {
